@@ -1,0 +1,74 @@
+// A double whose every arithmetic result is checked: overflow, invalid operation and division by
+// zero are fatal at the very operation. It always holds a finite value. Underflow is no fault.
+#pragma once
+
+#include <cmath>
+#include <compare>
+#include <limits>
+
+namespace tarvel {
+
+[[noreturn]] void ErroreOverflow(const char* operazione);
+[[noreturn]] void ErroreNonValida(const char* operazione);
+[[noreturn]] void ErroreDivisione(bool zeroSuZero);
+
+class Reale {
+ public:
+  constexpr Reale() = default;
+  /// Implicit, so that constants stand in formulas as they are; a value that is not finite is fatal.
+  constexpr Reale(double valore) : valore_(Controlla(valore, "assegnazione")) {}
+
+  constexpr double Valore() const { return valore_; }
+
+  friend constexpr Reale operator-(Reale a) { return Diretto(-a.valore_); }
+  friend constexpr Reale operator+(Reale a, Reale b) { return Esito(a.valore_ + b.valore_, "somma"); }
+  friend constexpr Reale operator-(Reale a, Reale b) { return Esito(a.valore_ - b.valore_, "differenza"); }
+  friend constexpr Reale operator*(Reale a, Reale b) { return Esito(a.valore_ * b.valore_, "prodotto"); }
+  friend constexpr Reale operator/(Reale a, Reale b) {
+    if (b.valore_ == 0) ErroreDivisione(a.valore_ == 0);
+    return Esito(a.valore_ / b.valore_, "quoziente");
+  }
+  constexpr Reale& operator+=(Reale b) { return *this = *this + b; }
+  constexpr Reale& operator-=(Reale b) { return *this = *this - b; }
+
+  friend constexpr bool operator==(Reale, Reale) = default;
+  friend constexpr auto operator<=>(Reale, Reale) = default;
+
+  friend Reale Radice(Reale x) {
+    if (x.valore_ < 0) ErroreNonValida("radice quadrata di un numero negativo");
+    return Diretto(std::sqrt(x.valore_));
+  }
+  /// x to a positive exponent, by the general power operation on doubles.
+  friend Reale Potenza(Reale x, double esponente) { return Esito(std::pow(x.valore_, esponente), "potenza"); }
+  friend Reale Logaritmo(Reale x) {
+    if (x.valore_ <= 0) ErroreNonValida("logaritmo di un numero non positivo");
+    return Diretto(std::log(x.valore_));
+  }
+  friend Reale Pavimento(Reale x) { return Diretto(std::floor(x.valore_)); }
+  friend Reale Assoluto(Reale x) { return Diretto(std::fabs(x.valore_)); }
+  friend Reale Seno(Reale radianti) { return Diretto(std::sin(radianti.valore_)); }
+  friend Reale Coseno(Reale radianti) { return Diretto(std::cos(radianti.valore_)); }
+  friend Reale Arcotangente(Reale x) { return Diretto(std::atan(x.valore_)); }
+  /// The nearest whole number, halves to the even one.
+  friend Reale Arrotondato(Reale x) { return Diretto(std::nearbyint(x.valore_)); }
+
+ private:
+  static constexpr double Controlla(double r, const char* operazione) {
+    constexpr double limite = std::numeric_limits<double>::max();
+    if (!(r >= -limite && r <= limite)) [[unlikely]] {
+      if (r != r) ErroreNonValida(operazione);
+      ErroreOverflow(operazione);
+    }
+    return r;
+  }
+  static constexpr Reale Diretto(double r) {
+    Reale esito;
+    esito.valore_ = r;
+    return esito;
+  }
+  static constexpr Reale Esito(double r, const char* operazione) { return Diretto(Controlla(r, operazione)); }
+
+  double valore_ = 0;
+};
+
+}  // namespace tarvel

@@ -1,0 +1,60 @@
+// Fixed tables with the index base of their subject. An index beyond the capacity is fatal,
+// never clamped, and the error names the table.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace tarvel {
+
+[[noreturn]] void ErroreIndice(const char* tabella, long long indice, int primo, int ultimo);
+
+template <std::size_t N>
+struct NomeTabella {
+  consteval NomeTabella(const char (&s)[N]) { std::copy_n(s, N, testo); }
+  char testo[N] = {};
+};
+
+/// Tabella<"punti", T, 1, 50>: elements 1 to 50.
+template <NomeTabella Nome, class T, int Primo, int Ultimo>
+class Tabella {
+ public:
+  static constexpr int kPrimo = Primo;
+  static constexpr int kUltimo = Ultimo;
+
+  constexpr T& operator[](long long i) { return dati_[Posto(i)]; }
+  constexpr const T& operator[](long long i) const { return dati_[Posto(i)]; }
+  constexpr auto begin() { return dati_.begin(); }
+  constexpr auto end() { return dati_.end(); }
+  constexpr auto begin() const { return dati_.begin(); }
+  constexpr auto end() const { return dati_.end(); }
+
+ private:
+  static constexpr std::size_t Posto(long long i) {
+    if (i < Primo || i > Ultimo) [[unlikely]]
+      ErroreIndice(Nome.testo, i, Primo, Ultimo);
+    return static_cast<std::size_t>(i - Primo);
+  }
+  std::array<T, static_cast<std::size_t>(Ultimo - Primo + 1)> dati_{};
+};
+
+/// Two indices from 1, the first running fastest in storage.
+template <NomeTabella Nome, class T, int Prime, int Seconde>
+class Griglia {
+ public:
+  constexpr T& operator()(long long i, long long j) { return dati_[Posto(i, j)]; }
+  constexpr const T& operator()(long long i, long long j) const { return dati_[Posto(i, j)]; }
+
+ private:
+  static constexpr std::size_t Posto(long long i, long long j) {
+    if (i < 1 || i > Prime) [[unlikely]]
+      ErroreIndice(Nome.testo, i, 1, Prime);
+    if (j < 1 || j > Seconde) [[unlikely]]
+      ErroreIndice(Nome.testo, j, 1, Seconde);
+    return static_cast<std::size_t>((j - 1) * Prime + (i - 1));
+  }
+  std::array<T, static_cast<std::size_t>(Prime* Seconde)> dati_{};
+};
+
+}  // namespace tarvel

@@ -1,0 +1,31 @@
+// 8-bit text: one byte a character, in the Western European Windows code page (1252), so that
+// lengths, columns and character codes mean what the files say. UTF-8 lives only at the edges.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarvel {
+
+using Testo = std::string;
+
+/// The 8-bit text of a UTF-8 one; a character the code page lacks, or a malformed byte, becomes '?'.
+Testo DaUtf8(std::string_view utf8);
+
+/// The UTF-8 text of an 8-bit one; the five codes without a character become U+FFFD.
+std::string InUtf8(std::string_view testo);
+
+/// Literals with accented letters: "già"_t.
+inline Testo operator""_t(const char* utf8, std::size_t lunghezza) {
+  return DaUtf8({utf8, lunghezza});
+}
+
+char Minuscola(char c);
+char Maiuscola(char c);
+Testo Minuscole(std::string_view testo);
+Testo Maiuscole(std::string_view testo);
+
+/// The text without the blanks (code 32 only) at both ends.
+std::string_view SenzaBlanchi(std::string_view testo);
+
+}  // namespace tarvel

@@ -1,0 +1,79 @@
+// The desktop: showing forms, messages and the pointer, the order of events, the end of the
+// program. The whole contract of what a platform does for the forms.
+//
+// Events. The program is single-threaded: a handler runs to its end before the next event is
+// taken, except that a modal form or a message box, shown by a handler, runs a loop of its own
+// until it goes. A handler's ErroreFatale is caught by the loop that fired it: one message with
+// the stop icon, the title kTitoloProgramma and what failed where, then TerminaProgramma(1).
+//
+// Focus. One control of the desktop has the focus: the first of a form when the form is shown,
+// then whichever the user goes to by mouse or Tab, on any form that can be used. When it changes
+// hands, `fuocoPerso` of the control that had it fires first, before any event of the new one
+// (a button's `click` finds the value of the box just left already stored). The close box of the
+// form that holds the focus makes its control lose it before Form_Unload, so that a value just
+// typed is not lost. A message box does not move the focus. When a modal form goes, the focus
+// returns to the control that had it, without an event. Labels never have the focus.
+//
+// Modality. While a modal form is shown only it, and what its handlers show, can be used. While a
+// message box is open nothing else can be used.
+#pragma once
+
+#include "base/errore.h"
+#include "platform/controlli.h"
+
+namespace tarvel {
+
+inline constexpr char kTitoloProgramma[] = "SEZIONE UTENTE TIPO PONTE 1";
+
+/// The process's arguments joined by blanks, 8-bit; "" when there is none.
+Testo RigaComando();
+
+// --- Forms. The form object must outlive its window: it may be destroyed only when unloaded.
+
+/// Form_Load, unless the form is loaded already. Shows nothing.
+void CaricaForm(Form& form);
+/// Loads the form where needed and shows it, not modally; a visible form comes to the front.
+void MostraForm(Form& form);
+/// Loads and shows the form and returns when it has been unloaded or hidden.
+void MostraFormModale(Form& form);
+/// Takes the form off the screen; it stays loaded and keeps its controls' state.
+void NascondiForm(Form& form);
+/// Form_Unload, then the window goes. Nothing for a form that is not loaded or is being unloaded
+/// already. The close box does the same. Other forms stay.
+void ScaricaForm(Form& form);
+bool FormCaricata(const Form& form);
+
+/// Ends the program at once with this exit status: no unload handler runs, all windows go. It
+/// never returns; whether it unwinds by an exception of its own or leaves the process is the
+/// platform's affair. May be called before any form is shown.
+[[noreturn]] void TerminaProgramma(int stato);
+
+// --- Controls. Allowed at any time, also on forms that are not loaded or not visible; no call
+// fires an event.
+
+void ImpostaTesto(Controllo& controllo, const Testo& testo);
+/// Replaces the entries of a list; nothing is selected afterwards.
+void ImpostaVoci(Controllo& lista, std::vector<Testo> voci);
+
+// --- Message boxes: modal, centred on the active form; they return the answer.
+
+enum class Icona { Nessuna, Stop, Esclamazione, Informazione };
+enum class Bottoni { Ok, SiNo };
+enum class Risposta { Ok, Si, No };
+
+/// The close box and Esc answer Ok to a note and No to a question.
+Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, Bottoni bottoni = Bottoni::Ok);
+
+// --- Pointer and timers.
+
+enum class Puntatore { Predefinito, Clessidra };
+
+/// The mouse pointer over this form, at once.
+void ImpostaPuntatore(Form& form, Puntatore puntatore);
+
+/// Starts or stops a timer; starting one that runs changes nothing. A timer never fires while a
+/// handler runs (its own included) or a message box is open: it fires when that is over. While a
+/// modal form waits for its user it does fire.
+void AbilitaTimer(Temporizzatore& timer, bool attivo);
+
+}  // namespace tarvel
