@@ -56,7 +56,8 @@ class Utente {
   virtual void Rispondi(Risposta risposta, int attesa = 0) = 0;
 
   /// Lets time pass, the program waiting for its user, until the diary holds this line; gives up
-  /// after some seconds, so that the case fails on what the diary lacks.
+  /// after some seconds, so that the case fails on what the diary lacks. It may do so only after
+  /// the step has returned: it stands last in its step.
   virtual void AspettaRiga(const std::string& riga) = 0;
 
   // --- What is on the screen, anywhere during Esegui.
