@@ -10,11 +10,10 @@
 
 namespace tarvel {
 
-/// An edge that is not vertical: its line y = m z + q and its abscissas, with the differences
-/// z2^n - z1^n that the integrals share.
+/// An edge that is not vertical: its abscissas and its line y = m z + q.
 struct Segmento {
+  Reale z1, z2;
   Reale PendenzaSegmento, TermineNotoSegmento;
-  Reale d1, d2, d3, d4;
 };
 
 /// Nothing for an edge with |z1 - z2| within the tolerance: it contributes to no integral.
