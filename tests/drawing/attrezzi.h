@@ -6,7 +6,6 @@
 #include <sstream>
 #include <string>
 
-#include "drawing/disegno.h"
 #include "drawing/quota.h"
 
 namespace tarvel::disegno {
@@ -14,7 +13,7 @@ namespace tarvel::disegno {
 inline void Azzera() {
   SvuotaDisegno();
   OrigineX = OrigineY = 0;
-  ColoreCorrente = TipoLineaCorrente = DecimaliQuote = LatoTestoAlternato = 0;
+  ColoreCorrente = TipoLineaCorrente = DecimaliQuote = 0;
   FlagDisegno = kGeneraDisegno;
 }
 
@@ -23,25 +22,24 @@ class ConDisegno : public testing::Test {
   void SetUp() override { Azzera(); }
 };
 
-/// All entries, one a line; numbers so that not even the sign of a zero is lost.
+/// All entries, a table a line; hexadecimal, so that not even the sign of a zero is lost.
 inline std::string Fotografia() {
   std::ostringstream s;
   s << std::hexfloat;
-  const auto tabella = [&](char nome, const auto& elenco, auto voce) {
-    for (std::int32_t i = 0; i < elenco.numero; ++i) {
-      s << nome << i;
-      voce(elenco[i]);
-      s << '\n';
-    }
+  const auto riga = [&](const auto& elenco, auto campi) {
+    for (std::int32_t i = 0; i < elenco.numero; ++i)
+      std::apply([&](const auto&... v) { ((s << v << ' '), ...) << "; "; }, campi(elenco[i]));
+    s << '\n';
   };
-  const auto campi = [&](const auto&... v) { ((s << ' ' << v), ...); };
-  tabella('C', Disegno.Coordinate, [&](const auto& c) { campi(c.x.Valore(), c.y.Valore()); });
-  tabella('P', Disegno.Punti, [&](const auto& p) { campi(p.coordinata, p.attributoA, p.attributoB); });
-  tabella('L', Disegno.Linee, [&](const auto& l) { campi(l.primo, l.secondo, l.colore, l.tipo); });
-  tabella('A', Disegno.Archi,
-          [&](const auto& a) { campi(a.centro, a.inizio, a.secondoCentro, a.fine, a.colore, a.genere); });
-  tabella('T', Disegno.Testi,
-          [&](const auto& t) { campi(t.posizione, t.angolo, t.base10, t.altezza10, t.colore, t.stringa); });
+  riga(Disegno.Coordinate, [](const auto& c) { return std::tuple(c.x.Valore(), c.y.Valore()); });
+  riga(Disegno.Punti, [](const auto& p) { return std::tuple(p.coordinata, p.attributoA, p.attributoB); });
+  riga(Disegno.Linee, [](const auto& l) { return std::tuple(l.primo, l.secondo, l.colore, l.tipo); });
+  riga(Disegno.Archi, [](const auto& a) {
+    return std::tuple(a.centro, a.inizio, a.secondoCentro, a.fine, a.colore, a.genere);
+  });
+  riga(Disegno.Testi, [](const auto& t) {
+    return std::tuple(t.posizione, t.angolo, t.base10, t.altezza10, t.colore, t.stringa);
+  });
   return s.str();
 }
 
