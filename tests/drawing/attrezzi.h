@@ -5,8 +5,10 @@
 
 #include <sstream>
 #include <string>
+#include <tuple>
 
 #include "drawing/quota.h"
+#include "tests/aiuti.h"
 
 namespace tarvel::disegno {
 
@@ -20,6 +22,10 @@ inline void Azzera() {
 class ConDisegno : public testing::Test {
  protected:
   void SetUp() override { Azzera(); }
+  void TearDown() override {
+    Azzera();
+    FlagDisegno.clear();
+  }
 };
 
 /// All entries, a table a line; hexadecimal, so that not even the sign of a zero is lost.
@@ -46,9 +52,9 @@ inline std::string Fotografia() {
 /// What was shown to the user during `lavoro`.
 template <class Lavoro>
 std::string Mostrato(Lavoro lavoro) {
-  testing::internal::CaptureStdout();
+  const prove::Verbale verbale;
   lavoro();
-  return testing::internal::GetCapturedStdout();
+  return verbale.Testo();
 }
 
 }  // namespace tarvel::disegno
