@@ -5,9 +5,11 @@
 
 #include <sstream>
 #include <string>
+#include <tuple>
 
 #include "aiuti.h"
 #include "drawing/quota.h"
+#include "tests/aiuti.h"
 
 namespace tarvel::disegno {
 
@@ -21,6 +23,10 @@ inline void Azzera() {
 class ConDisegno : public testing::Test {
  protected:
   void SetUp() override { Azzera(); }
+  void TearDown() override {
+    Azzera();
+    FlagDisegno.clear();
+  }
 };
 
 /// All entries, a table a line; hexadecimal, so that not even the sign of a zero is lost.

@@ -13,6 +13,17 @@ void Rimuovi(Elenco& elenco, std::int32_t i) {
   --elenco.numero;
 }
 
+// After a removal the same place is looked at again.
+template <class Elenco, class Inutile, class Rimuovi>
+void Scorri(Elenco& elenco, Inutile inutile, Rimuovi rimuovi) {
+  for (std::int32_t i = 0; i < elenco.numero;) {
+    if (inutile(i))
+      rimuovi(i);
+    else
+      ++i;
+  }
+}
+
 template <class Lavoro>
 void PerOgniIndice(bool ancheFiniEPunti, Lavoro lavoro) {
   for (std::int32_t i = 0; i < Disegno.Linee.numero; ++i) {
@@ -66,32 +77,22 @@ inline bool RimuoviUnArco() {
 
 inline void OttimizzaDisegno() {
   auto& [coordinate, punti, linee, archi, testi] = Disegno;
-  for (std::int32_t i = 0; i < linee.numero;) {
-    if (LineaInutile(i))
-      Rimuovi(linee, i);
-    else
-      ++i;
-  }
+  Scorri(linee, LineaInutile, [&](std::int32_t i) { Rimuovi(linee, i); });
   while (RimuoviUnArco()) continue;
-  for (std::int32_t i = 0; i < testi.numero;) {
-    if (testi[i].base10 < 0.0001 || testi[i].altezza10 < 0.0001)
-      Rimuovi(testi, i);
-    else
-      ++i;
-  }
+  Scorri(
+      testi, [&](std::int32_t i) { return testi[i].base10 < 0.0001 || testi[i].altezza10 < 0.0001; },
+      [&](std::int32_t i) { Rimuovi(testi, i); });
   for (std::int32_t i = 0; i < coordinate.numero; ++i)
     for (std::int32_t j = i + 1; j < coordinate.numero; ++j)
       if (Assoluto(coordinate[i].x - coordinate[j].x) < 0.0001 &&
           Assoluto(coordinate[i].y - coordinate[j].y) < 0.0001)
         PerOgniIndice(false, [&](std::int32_t& indice) { indice = indice == j ? i : indice; });
-  for (std::int32_t k = 0; k < coordinate.numero;) {
+  const auto maiCitata = [](std::int32_t k) {
     bool citata = false;
     PerOgniIndice(true, [&](std::int32_t indice) { citata = citata || indice == k; });
-    if (citata)
-      ++k;
-    else
-      RimuoviCoordinata(k);
-  }
+    return !citata;
+  };
+  Scorri(coordinate, maiCitata, RimuoviCoordinata);
 }
 
 }  // namespace tarvel::disegno::letterale

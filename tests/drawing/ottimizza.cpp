@@ -91,22 +91,23 @@ class Sorte {
     const int lato = Tra(1, 6);
     const auto ordinata = [&] { return passo * Tra(-1, lato) + scarto * Tra(-3, 3); };
     auto& [coordinate, punti, linee, archi, testi] = Disegno;
-    coordinate.numero = Tra(1, 2 * quanti + 1);
-    for (std::int32_t i = 0; i < coordinate.numero; ++i)
-      coordinate[i] = {ordinata(), Tra(0, 9) == 0 ? -0.0 : ordinata()};
-    const auto indice = [&] { return Tra(0, coordinate.numero - 1); };
-    linee.numero = Tra(0, quanti);
-    for (std::int32_t i = 0; i < linee.numero; ++i) linee[i] = {indice(), indice(), Segno(), Segno()};
-    archi.numero = Tra(0, quanti / 2);
-    for (std::int32_t i = 0; i < archi.numero; ++i) {
+    const auto riempi = [](auto& elenco, int numero, auto voce) {
+      for (elenco.numero = 0; elenco.numero < numero; ++elenco.numero) elenco[elenco.numero] = voce();
+    };
+    riempi(coordinate, Tra(1, 2 * quanti + 1), [&]() -> Coordinata {
+      return {ordinata(), Tra(0, 9) == 0 ? -0.0 : ordinata()};
+    });
+    const int ultima = coordinate.numero - 1;
+    const auto indice = [&] { return Tra(0, ultima); };
+    riempi(linee, Tra(0, quanti), [&]() -> ElementoLinea { return {indice(), indice(), Segno(), Segno()}; });
+    riempi(archi, Tra(0, quanti / 2), [&]() -> ElementoArco {
       const int centro = Tra(0, 9) == 0 ? -1 : indice() / 4;
-      archi[i] = {centro, indice() / 4, centro, indice() / 4, Tra(1, 2), Tra(0, 9) / 9};
-    }
-    testi.numero = Tra(0, quanti / 4);
-    for (std::int32_t i = 0; i < testi.numero; ++i)
-      testi[i] = {indice(), 0, Segno(), Segno(), 1, std::to_string(i)};
-    punti.numero = Tra(0, quanti) / 10;
-    for (std::int32_t i = 0; i < punti.numero; ++i) punti[i] = {indice(), 1, 2};
+      return {centro, indice() / 4, centro, indice() / 4, Tra(1, 2), Tra(0, 9) / 9};
+    });
+    riempi(testi, Tra(0, quanti / 4), [&]() -> ElementoTesto {
+      return {indice(), 0, Segno(), Segno(), 1, std::to_string(testi.numero)};
+    });
+    riempi(punti, Tra(0, quanti) / 10, [&]() -> ElementoPunto { return {indice(), 1, 2}; });
   }
 
   void Quota(int quante) {

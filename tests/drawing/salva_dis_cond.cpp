@@ -2,11 +2,7 @@
 #include "drawing/salva_dis_cond.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
-#include "base/errore.h"
 #include "drawing/funz_disegno.h"
 #include "platform/regione.h"
 #include "tests/drawing/attrezzi.h"
@@ -23,26 +19,17 @@ std::string Righe(const std::string& testo) {
 
 class FileDisegno : public ConDisegno {
  protected:
-  void SetUp() override {
-    ConDisegno::SetUp();
-    std::filesystem::create_directories(cartella_);
-  }
-  void TearDown() override { std::filesystem::remove_all(cartella_); }
-
   // The file's text with '.' for the decimal separator.
   std::string Salvato(int intestazione = 0) {
     Intero16 tipo = intestazione;
     SalvaDisegno(nome_, tipo, 1);
     EXPECT_EQ(tipo, 1);
-    std::ifstream file(nome_, std::ios::binary);
-    std::string testo((std::istreambuf_iterator<char>(file)), {});
+    std::string testo = prove::Contenuto(nome_);
     std::replace(testo.begin(), testo.end(), SeparatoreDecimale(), '.');
     return testo;
   }
 
-  const std::filesystem::path cartella_ =
-      std::filesystem::temp_directory_path() /
-      (std::string("disegno-") + testing::UnitTest::GetInstance()->current_test_info()->name());
+  const prove::Cartella cartella_;
   const std::string nome_ = (cartella_ / "prova.dis").string();
 };
 
@@ -79,7 +66,7 @@ TEST_F(FileDisegno, Avvisi) {
   const auto fallito = [](const std::string& nome) {
     return "message none \"ERRORE\" \"Errore durante la scrittura sul file" + nome + "\" -> ok\n";
   };
-  const std::string senzaCartella = (cartella_ / "manca" / "x.dis").string();
+  const std::string senzaCartella = (cartella_ / "manca/x.dis").string();
   const struct {
     std::string nome;
     int modo;
