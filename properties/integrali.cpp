@@ -5,8 +5,9 @@ namespace tarvel {
 
 namespace {
 
-Reale Differenza(Punto da, Punto a, double n) {
-  return Potenza(a.z, n) - Potenza(da.z, n);
+template <int N>
+Reale Differenza(Punto da, Punto a) {
+  return Potenza(a.z, N) - Potenza(da.z, N);
 }
 
 }  // namespace
@@ -15,13 +16,13 @@ std::optional<Segmento> SegmentoDi(Punto da, Punto a) {
   const Reale d1 = a.z - da.z;
   if (Assoluto(d1) <= kTolleranza) return std::nullopt;
   const Reale m = (a.y - da.y) / d1;
-  return Segmento{m, da.y - m * da.z, d1, Differenza(da, a, 2), Differenza(da, a, 3)};
+  return Segmento{m, da.y - m * da.z, d1, Differenza<2>(da, a), Differenza<3>(da, a)};
 }
 
 std::optional<SegmentoQuarto> SegmentoQuartoDi(Punto da, Punto a) {
   const auto s = SegmentoDi(da, a);
   if (!s) return std::nullopt;
-  return SegmentoQuarto{*s, Differenza(da, a, 4)};
+  return SegmentoQuarto{*s, Differenza<4>(da, a)};
 }
 
 Reale MomStaticoY(const Segmento& s) {
