@@ -72,8 +72,8 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
 
 enum class Puntatore { Predefinito, Clessidra };
 
-/// The mouse pointer over this form, at once.
-void ImpostaPuntatore(Form& form, Puntatore puntatore);
+/// The mouse pointer over the program's windows, at once.
+void ImpostaPuntatore(Puntatore puntatore);
 
 /// Starts or stops a timer; starting one that runs changes nothing. A timer never fires while a
 /// handler runs (its own included) or a message box is open: it fires when that is over. While a
