@@ -16,11 +16,7 @@ namespace tarvel::headless {
 namespace {
 
 Controllo Nuovo(TipoControllo tipo, const Testo& nome, const Testo& testo = "") {
-  Controllo c;
-  c.tipo = tipo;
-  c.nome = nome;
-  c.testo = testo;
-  return c;
+  return NuovoControllo(tipo, nome, {}, testo);
 }
 
 // A modal list from which one entry is taken.
@@ -76,10 +72,10 @@ struct FormMadre : Form {
     if (finisce) AbilitaTimer(timer, true);
   }
   void Programma() {
-    ImpostaPuntatore(*this, Puntatore::Clessidra);
+    ImpostaPuntatore(Puntatore::Clessidra);
     if (!AttivaProgramma(id)) id = AvviaProgramma(percorso, 1).value_or(0);
     InviaTasti("%(fg)");
-    ImpostaPuntatore(*this, Puntatore::Predefinito);
+    ImpostaPuntatore(Puntatore::Predefinito);
   }
   Controllo titoletto = Nuovo(TipoControllo::Etichetta, "Label1");
   Controllo nomeBox = Nuovo(TipoControllo::Casella, "nome");
