@@ -5,50 +5,51 @@ namespace tarvel {
 
 namespace {
 
-// z2^n - z1^n. Each integral takes no higher power than it needs, so that an outline too large for
-// its second moments still has an area.
-Reale Differenza(const Segmento& s, double n) {
-  return Potenza(s.z2, n) - Potenza(s.z1, n);
+Reale Differenza(Punto da, Punto a, double n) {
+  return Potenza(a.z, n) - Potenza(da.z, n);
 }
 
 }  // namespace
 
 std::optional<Segmento> SegmentoDi(Punto da, Punto a) {
-  const Reale corsa = a.z - da.z;
-  if (Assoluto(corsa) <= kTolleranza) return std::nullopt;
-  const Reale m = (a.y - da.y) / corsa;
-  return Segmento{da.z, a.z, m, da.y - m * da.z};
+  const Reale d1 = a.z - da.z;
+  if (Assoluto(d1) <= kTolleranza) return std::nullopt;
+  const Reale m = (a.y - da.y) / d1;
+  return Segmento{m, da.y - m * da.z, d1, Differenza(da, a, 2), Differenza(da, a, 3)};
+}
+
+std::optional<SegmentoQuarto> SegmentoQuartoDi(Punto da, Punto a) {
+  const auto s = SegmentoDi(da, a);
+  if (!s) return std::nullopt;
+  return SegmentoQuarto{*s, Differenza(da, a, 4)};
 }
 
 Reale MomStaticoY(const Segmento& s) {
-  return Differenza(s, 2) * s.TermineNotoSegmento / 2 + Differenza(s, 3) * s.PendenzaSegmento / 3;
+  return s.d2 * s.TermineNotoSegmento / 2 + s.d3 * s.PendenzaSegmento / 3;
 }
 
 Reale MomStaticoZ(const Segmento& s) {
   const Reale m = s.PendenzaSegmento;
   const Reale q = s.TermineNotoSegmento;
-  return (Potenza(m, 2) * Differenza(s, 3) / 3 + m * q * Differenza(s, 2) + Potenza(q, 2) * (s.z2 - s.z1)) /
-         2;
+  return (Potenza(m, 2) * s.d3 / 3 + m * q * s.d2 + Potenza(q, 2) * s.d1) / 2;
 }
 
-Reale MomInerziaY(const Segmento& s) {
-  return Differenza(s, 3) * s.TermineNotoSegmento / 3 + Differenza(s, 4) * s.PendenzaSegmento / 4;
+Reale MomInerziaY(const SegmentoQuarto& s) {
+  return s.d3 * s.TermineNotoSegmento / 3 + s.d4 * s.PendenzaSegmento / 4;
 }
 
-Reale MomInerziaZ(const Segmento& s) {
+Reale MomInerziaZ(const SegmentoQuarto& s) {
   const Reale m = s.PendenzaSegmento;
   const Reale q = s.TermineNotoSegmento;
-  return (Potenza(m, 3) * Differenza(s, 4) / 4 + Potenza(m, 2) * q * Differenza(s, 3) +
-          3 * m * Potenza(q, 2) * Differenza(s, 2) / 2 + Potenza(q, 3) * (s.z2 - s.z1)) /
+  return (Potenza(m, 3) * s.d4 / 4 + Potenza(m, 2) * q * s.d3 + 3 * m * Potenza(q, 2) * s.d2 / 2 +
+          Potenza(q, 3) * s.d1) /
          3;
 }
 
-Reale MomCentrifugo(const Segmento& s) {
+Reale MomCentrifugo(const SegmentoQuarto& s) {
   const Reale m = s.PendenzaSegmento;
   const Reale q = s.TermineNotoSegmento;
-  return (Potenza(m, 2) * Differenza(s, 4) / 4 + 2 * m * q * Differenza(s, 3) / 3 +
-          Potenza(q, 2) * Differenza(s, 2) / 2) /
-         2;
+  return (Potenza(m, 2) * s.d4 / 4 + 2 * m * q * s.d3 / 3 + Potenza(q, 2) * s.d2 / 2) / 2;
 }
 
 Reale AreaPoligono(std::span<const Punto> vertici) {

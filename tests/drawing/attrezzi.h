@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string>
 
+#include "aiuti.h"
 #include "drawing/quota.h"
 
 namespace tarvel::disegno {
@@ -46,9 +47,9 @@ inline std::string Fotografia() {
 /// What was shown to the user during `lavoro`.
 template <class Lavoro>
 std::string Mostrato(Lavoro lavoro) {
-  testing::internal::CaptureStdout();
+  const prove::Verbale verbale;
   lavoro();
-  return testing::internal::GetCapturedStdout();
+  return verbale.Testo();
 }
 
 }  // namespace tarvel::disegno

@@ -55,7 +55,7 @@ TEST(Integrali, RettangoloInFormaChiusa) {
   PerOgniLato(
       4, [&](int v) { return rettangolo[v - 1]; },
       [&](Punto da, Punto a) {
-        const auto s = SegmentoDi(da, a);
+        const auto s = SegmentoQuartoDi(da, a);
         if (!s) return;
         A -= AreaTrapezio(da, a);
         Sy -= MomStaticoY(*s);
