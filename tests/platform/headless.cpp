@@ -16,11 +16,7 @@ namespace tarvel::headless {
 namespace {
 
 Controllo Nuovo(TipoControllo tipo, const Testo& nome, const Testo& testo = "") {
-  Controllo c;
-  c.tipo = tipo;
-  c.nome = nome;
-  c.testo = testo;
-  return c;
+  return NuovoControllo(tipo, nome, {}, testo);
 }
 
 // A modal list from which one entry is taken.
@@ -68,6 +64,7 @@ struct FormMadre : Form {
   }
   void Form_Load() override {
     ImpostaTesto(titoletto, "pronto");
+    ImpostaTesto(avviso, "un bottone non si annota");
     CaricaForm(opzioni);
   }
   void Form_Unload() override {
@@ -150,6 +147,10 @@ TEST(Headless, TheTranscriptTellsWhatAUserWouldNotice) {
                    "text madre.nome \"\"\nhide Opt\n"
                    "show Scelta modal\nlist ListSez \"uno\" \"due \"2\"\"\nunload Scelta\n"
                    "text nome \"scelto\"\nshow Opt\ntext Valore(1) \"2\"\nunload Opt\n") +
+           kFine},
+      {"closing a form that has not the focus", "click Opzioni\ntype madre.nome q\nclose Opt\nclick Avviso\n",
+       std::string("text Label1 \"nome: \"\nshow Opt\nunload Opt\ntext Label1 \"nome: q\"\n"
+                   "message none \"T\" \"C:\\a\\r\\n\xE2\x82\xAC\\x01\" -> ok\n") +
            kFine},
       {"left open", "click Opzioni\nclick madre.Scegli\n",
        std::string("text Label1 \"nome: \"\nshow Opt\nshow Scelta modal\nlist ListSez \"uno\" \"due \"2\"\"\n"
@@ -270,19 +271,25 @@ TEST(Headless, TimePassesInTheLoopThatWaits) {
   FormMadre form;
   int scatti = 0;
   int alRitorno = 0;
+  int allaFine = 0;
   form.timer.scatto = [&] {
     ++scatti;
     ScaricaForm(form.scelta);
-    if (scatti == 5) TerminaProgramma(0);
   };
   form.scegli.click = [&] {
+    AbilitaTimer(form.timer, true);
     AbilitaTimer(form.timer, true);
     MostraFormModale(form.scelta);
     alRitorno = scatti;
   };
-  EXPECT_EQ(RecitaTesto(form, "click Scegli\ntick 1000\n").stato, 0);
+  form.avviso.click = [&] {
+    allaFine = scatti;
+    TerminaProgramma(0);
+  };
+  EXPECT_EQ(RecitaTesto(form, "click Scegli\ntick 45\ntick 4\nclick Avviso\n").stato, 0);
   EXPECT_EQ(alRitorno, 1);
-  EXPECT_EQ(scatti, 5);
+  EXPECT_EQ(allaFine, 4);
+  EXPECT_FALSE(form.timer.attivo) << "nothing is left running for the next run";
 }
 
 TEST(Headless, TheRegionFollowsItsDecimalSeparator) {
