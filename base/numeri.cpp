@@ -29,7 +29,7 @@ Cifre Scomponi(double grandezza) {
   auto fine =
       std::to_chars(testo.data(), testo.data() + testo.size(), grandezza, std::chars_format::scientific).ptr;
   const auto lunghezzaMantissa = [&] {
-    return std::string_view(testo.data(), fine - testo.data()).find('e');
+    return std::string_view(testo.data(), fine).find('e');
   };
   if (lunghezzaMantissa() > kCifre + 1)
     fine = std::to_chars(testo.data(), testo.data() + testo.size(), grandezza, std::chars_format::scientific,
