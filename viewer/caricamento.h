@@ -8,8 +8,8 @@
 
 namespace ostrel {
 
-/// Six times the fullest drawing that the program can write.
-inline constexpr long long kMassimoFile = 32LL << 20;
+/// More than the fullest drawing takes.
+inline constexpr long long kMassimoFile = 16LL << 20;
 
 /// A file being written is tried again this often before it is refused.
 inline constexpr int kTentativi = 40;

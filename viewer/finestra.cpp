@@ -4,12 +4,12 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStatusBar>
-#include <QVBoxLayout>
 
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
@@ -19,9 +19,8 @@ namespace ostrel {
 
 Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   auto* interno = new QWidget(this);
-  auto* colonna = new QVBoxLayout(interno);
-  colonna->setContentsMargins(0, 0, 0, 0);
-  colonna->setSpacing(0);
+  auto* posto = new QGridLayout(interno);
+  posto->setContentsMargins(0, 0, 0, 0);
   avviso_ = new QLabel(interno);
   avviso_->setObjectName("avviso");
   avviso_->setTextFormat(Qt::PlainText);
@@ -30,8 +29,10 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   avviso_->setStyleSheet("background: #8c1d18; color: white; padding: 6px;");
   avviso_->hide();
   tela_ = new Tela(interno);
-  colonna->addWidget(avviso_);
-  colonna->addWidget(tela_, 1);
+  // The notice lies over the drawing, whose place and zoom it must not change.
+  posto->addWidget(tela_, 0, 0);
+  posto->addWidget(avviso_, 0, 0, Qt::AlignTop);
+  avviso_->raise();
   setCentralWidget(interno);
 
   coordinate_ = new QLabel(this);

@@ -19,23 +19,25 @@ using tarvel::Testo;
 // Beyond this the squares that distances need would no longer be finite.
 constexpr double kMassimaGrandezza = 1e100;
 constexpr double kMinimoCarattere = 1e-100;
-constexpr std::size_t kMassimaScritta = 1000;
+constexpr std::size_t kMassimaScritta = 255;
 constexpr std::size_t kMassimaCitazione = 40;
 
 constexpr int kMin16 = std::numeric_limits<std::int16_t>::min();
 constexpr int kMax16 = std::numeric_limits<std::int16_t>::max();
 
-// A section of the file: what its count is called and the fewest bytes an entry can take, line
-// ends included, so that a count is believed only where its entries can follow.
+// A section of the file: what its count is called, the fewest bytes an entry can take, line ends
+// included, so that a count is believed only where its entries can follow, and the places of its
+// table in the program that draws.
 struct Sezione {
   std::string_view conteggio;
   std::size_t minimo;
+  int capienza;
 };
-constexpr Sezione kCoordinate{"il numero di coordinate", 6};
-constexpr Sezione kPunti{"il numero di punti", 6};
-constexpr Sezione kLinee{"il numero di linee", 8};
-constexpr Sezione kScritte{"il numero di testi", 13};
-constexpr Sezione kArchi{"il numero di archi", 12};
+constexpr Sezione kCoordinate{"il numero di coordinate", 6, 50000};
+constexpr Sezione kPunti{"il numero di punti", 6, 5001};
+constexpr Sezione kLinee{"il numero di linee", 8, 50000};
+constexpr Sezione kScritte{"il numero di testi", 13, 15000};
+constexpr Sezione kArchi{"il numero di archi", 12, 15000};
 
 class Lettore {
  public:
@@ -82,7 +84,7 @@ class Lettore {
     const auto [fine, errore] = std::from_chars(voce.data(), voce.data() + voce.size(), valore);
     if (errore != std::errc() || fine != voce.data() + voce.size()) Rifiuta();
     if (valore < minimo || valore > massimo)
-      Rifiuta("trovato " + std::to_string(valore) + ", fuori dei limiti da " + std::to_string(minimo) +
+      Rifiuta("trovato: " + std::to_string(valore) + ", fuori dei limiti da " + std::to_string(minimo) +
               " a " + std::to_string(massimo));
     return valore;
   }
@@ -90,22 +92,22 @@ class Lettore {
 
   std::size_t Conteggio(const Sezione& sezione) {
     const auto [voce] = Voci<1>(sezione.conteggio);
-    const int quanti = Intero(voce, 0, std::numeric_limits<int>::max());
+    const int quanti = Intero(voce, 0, sezione.capienza);
     // The last line may lack its end.
     if (static_cast<std::size_t>(quanti) > (resto_.size() + 1) / sezione.minimo) {
       ultima_ = true;
-      Rifiuta("trovato " + std::to_string(quanti) + ", più di quanti il resto del file ne contenga"_t);
+      Rifiuta("trovato: " + std::to_string(quanti) + ", più di quanti il resto del file ne contenga"_t);
     }
     return static_cast<std::size_t>(quanti);
   }
 
   [[noreturn]] void Rifiuta(const Testo& trovato) const {
     throw ErroreDis{
-        numero_, "riga " + std::to_string(numero_) + ": atteso " + Testo(attesa_) + "; " + trovato, ultima_};
+        numero_, "riga " + std::to_string(numero_) + ", atteso: " + Testo(attesa_) + "; " + trovato, ultima_};
   }
   [[noreturn]] void Rifiuta() const {
     const bool lunga = riga_.size() > kMassimaCitazione;
-    Rifiuta("trovato \"" + Visibile(riga_.substr(0, kMassimaCitazione)) + (lunga ? "...\"" : "\""));
+    Rifiuta("trovato: \"" + Visibile(riga_.substr(0, kMassimaCitazione)) + (lunga ? "...\"" : "\""));
   }
 
   static Testo Visibile(std::string_view testo) {
@@ -154,7 +156,7 @@ Disegno LeggiTutto(Lettore& file) {
   Disegno d;
 
   d.coordinate = LeggiSezione<Coordinata>(file, kCoordinate, [&](auto& coordinate) {
-    const auto [x, y, z] = file.Voci<3>("una coordinata: X, Y e Z");
+    const auto [x, y, z] = file.Voci<3>("una coordinata (X, Y e Z)");
     file.Numero(z);
     coordinate.push_back({file.Numero(x), file.Numero(y)});
   });
@@ -163,7 +165,7 @@ Disegno LeggiTutto(Lettore& file) {
   };
 
   d.punti = LeggiSezione<Punto>(file, kPunti, [&](auto& punti) {
-    const auto [posizione, b, a] = file.Voci<3>("un punto: indice della coordinata e due attributi");
+    const auto [posizione, b, a] = file.Voci<3>("un punto (indice della coordinata e due attributi)");
     file.Intero16(b);
     file.Intero16(a);
     punti.push_back({indice(posizione)});
@@ -171,7 +173,7 @@ Disegno LeggiTutto(Lettore& file) {
 
   d.linee = LeggiSezione<Linea>(file, kLinee, [&](auto& linee) {
     const auto [inizio, fine, colore, tipo] =
-        file.Voci<4>("una linea: indici del primo e del secondo punto, colore e tipo di linea");
+        file.Voci<4>("una linea (indici del primo e del secondo punto, colore e tipo di linea)");
     const Linea linea{inizio == "-1" ? -1 : indice(inizio), indice(fine), file.Intero16(colore),
                       file.Intero16(tipo)};
     if (linea.inizio < 0)
@@ -183,7 +185,7 @@ Disegno LeggiTutto(Lettore& file) {
   d.scritte = LeggiSezione<Scritta>(file, kScritte, [&](auto& scritte) {
     Scritta scritta;
     const auto [posizione, uno, angolo] =
-        file.Voci<3>("un testo: indice della posizione, 1 e angolo in gradi");
+        file.Voci<3>("un testo (indice della posizione, 1 e angolo in gradi)");
     scritta.posizione = indice(posizione);
     file.Intero16(uno);
     scritta.angolo = file.Intero16(angolo);
@@ -193,7 +195,7 @@ Disegno LeggiTutto(Lettore& file) {
     scritta.altezza = file.Numero(altezza);
     if (scritta.base < kMinimoCarattere || scritta.altezza < kMinimoCarattere) file.Rifiuta();
     scritta.colore = file.Intero16(colore);
-    const std::string_view testo = file.Riga("il testo, al massimo 1000 caratteri");
+    const std::string_view testo = file.Riga("il testo, al massimo 255 caratteri");
     if (testo.size() > kMassimaScritta) file.Rifiuta();
     scritta.testo = Lettore::Visibile(testo);
     scritte.push_back(std::move(scritta));
@@ -201,7 +203,7 @@ Disegno LeggiTutto(Lettore& file) {
 
   d.archi = LeggiSezione<Arco>(file, kArchi, [&](auto& archi) {
     const auto [centro, inizio, ancora, fine] =
-        file.Voci<4>("un arco: indici del centro, del primo punto, ancora del centro e dell'ultimo punto");
+        file.Voci<4>("un arco (indici del centro, del primo punto, ancora del centro e dell'ultimo punto)");
     Arco arco{indice(centro), indice(inizio), indice(fine), 0};
     if (indice(ancora) != arco.centro) file.Rifiuta();
     const auto [colore, genere] = file.Voci<2>("colore e genere dell'arco");

@@ -17,7 +17,8 @@ struct ErroreDis {
 };
 
 /// Numbers with '.' or ',' as the decimal separator; lines end with CR LF or LF. Anything else than
-/// a whole drawing is refused. Memory stays in proportion to the bytes, whatever counts they claim.
+/// a whole drawing is refused, and so are tables larger than the drawing program's own and texts of
+/// more than 255 characters. Memory stays in proportion to the bytes, whatever counts they claim.
 /// A line element whose first index is -1 is passed over and counted; every other index must be
 /// within the table. Control characters in texts become blanks.
 std::variant<Disegno, ErroreDis> LeggiDis(std::string_view byte);

@@ -17,7 +17,7 @@
 namespace ostrel {
 namespace {
 
-constexpr double kMargine = 0.04;
+constexpr double kMargine = 0.025;
 constexpr double kContrastoCarta = 3;
 constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
 constexpr double kMassimoRaggioIntero = 4000;

@@ -15,7 +15,7 @@ constexpr double kPassoRotella = 1.2;
 constexpr double kUnoScattoRotella = 120;
 // How far the whole drawing may be shrunk or enlarged.
 constexpr double kMinimoZoom = 0.01;
-constexpr double kMassimoZoom = 1e5;
+constexpr double kMassimoZoom = 2000;
 
 }  // namespace
 
