@@ -25,14 +25,15 @@ struct ChiudiFile {
 };
 
 /// A file read line by line or item by item. A line ends with CR LF or LF. After an item, the
-/// blanks that follow it, one comma or the line end belong to it. Reading past the end, a malformed
+/// blanks that follow it, one comma or the line end belong to it; a whole line read after an item is
+/// always the next one, what is left of the item's line is passed over. Reading past the end, a malformed
 /// item and a fault of the host are fatal, with file and line.
 class FileInLettura {
  public:
   /// Nothing when the file cannot be opened (a folder counts as such).
   static std::optional<FileInLettura> Apri(const Testo& percorso);
 
-  /// The rest of the line. The view holds until the next call.
+  /// The next whole line, without its end. The view holds until the next call.
   std::string_view LeggiRiga();
   /// Leading blanks skipped; ends at a comma or the line end; quotes around it are removed.
   Testo LeggiVoceTesto();
@@ -68,8 +69,8 @@ class FileInScrittura {
   /// Nothing when the file cannot be created; an existing one is then untouched.
   static std::optional<FileInScrittura> Crea(const Testo& percorso);
 
-  /// The line and CR LF. A write that fails is fatal and says that the file may be incomplete;
-  /// it may show only later, at the latest in Chiudi.
+  /// The line and CR LF. A write that fails is fatal (TipoErrore::File); it may show only later, at
+  /// the latest in Chiudi.
   void ScriviRiga(std::string_view riga);
   /// Everything is with the host when it returns. A file not closed so is closed without a check.
   void Chiudi();
@@ -77,6 +78,7 @@ class FileInScrittura {
  private:
   FileInScrittura(const Testo& percorso, std::FILE* file) : percorso_(percorso), file_(file) {}
   void Svuota();
+  [[noreturn]] void Fallita() const;
 
   Testo percorso_;
   std::unique_ptr<std::FILE, ChiudiFile> file_;
