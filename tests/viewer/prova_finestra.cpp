@@ -50,6 +50,18 @@ struct ConFinestra : testing::Test {
   Tela& tela = *finestra.findChild<Tela*>("tela");
 };
 
+// The largest difference of a colour channel between two pictures of one size.
+int Scarto(const QImage& a, const QImage& b) {
+  int scarto = 0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x) {
+      const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+      scarto = std::max({scarto, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
+                         std::abs(qBlue(p) - qBlue(q))});
+    }
+  return scarto;
+}
+
 struct ConSorveglianza : ConFinestra {
   ConSorveglianza() : ConFinestra(true) {}
 };
@@ -81,20 +93,22 @@ TEST_F(ConFinestra, RotellaETrascinamento) {
   EXPECT_NEAR(tela.VistaCorrente().Da(dove).x(), prima.x(), 1e-9);
   EXPECT_NEAR(tela.VistaCorrente().Da(dove).y(), prima.y(), 1e-9);
 
+  const auto fotografia = [&] {
+    QCoreApplication::processEvents();
+    return finestra.screen()->grabWindow(finestra.winId()).toImage();
+  };
+  const QImage ferma = fotografia();
   QTest::mousePress(&tela, Qt::LeftButton, {}, {200, 150});
   QTest::mouseMove(&tela, {260, 100});
   QTest::mouseRelease(&tela, Qt::LeftButton, {}, {260, 100});
   EXPECT_NEAR(tela.VistaCorrente().Da({260, 100}).x(), prima.x(), 1e-9);
   EXPECT_NEAR(tela.VistaCorrente().Da({260, 100}).y(), prima.y(), 1e-9);
 
-  // What was scrolled and what was painted anew make the same picture.
-  const auto fotografia = [&] {
-    QCoreApplication::processEvents();
-    return finestra.screen()->grabWindow(finestra.winId()).toImage();
-  };
+  // What was scrolled with what came into sight is what painting everything anew gives.
   const QImage composta = fotografia();
   tela.repaint();
-  EXPECT_EQ(composta, fotografia());
+  EXPECT_GT(Scarto(composta, ferma), 200);
+  EXPECT_LE(Scarto(composta, fotografia()), 2) << "smoothing rounds where a line is cut";
 
   for (int i = 0; i < 200; ++i) Rotella(1, dove);
   const double massima = tela.VistaCorrente().scala;
