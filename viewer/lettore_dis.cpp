@@ -13,7 +13,6 @@
 namespace ostrel {
 namespace {
 
-using tarvel::operator""_t;
 using tarvel::Testo;
 
 // Beyond this the squares that distances need would no longer be finite.
@@ -96,7 +95,8 @@ class Lettore {
     // The last line may lack its end.
     if (static_cast<std::size_t>(quanti) > (resto_.size() + 1) / sezione.minimo) {
       ultima_ = true;
-      Rifiuta("trovato: " + std::to_string(quanti) + ", più di quanti il resto del file ne contenga"_t);
+      Rifiuta("trovato: " + std::to_string(quanti) +
+              tarvel::DaUtf8(", più di quanti il resto del file ne contenga"));
     }
     return static_cast<std::size_t>(quanti);
   }

@@ -32,7 +32,7 @@ int EsportaSenzaFinestra(const QString& uscita, const QString& disegno) {
 
 // The working folder is the program's own where the preview starts it.
 std::optional<Avvio> CercaAvvio() {
-  if (const auto avvio = LeggiAvvio(tarvel::PercorsoHost(kFileAvvio))) return avvio;
+  if (auto avvio = LeggiAvvio(tarvel::PercorsoHost(kFileAvvio))) return avvio;
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
   return LeggiAvvio(tarvel::PercorsoHost(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio));
 }

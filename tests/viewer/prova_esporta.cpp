@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QImage>
+#include <QPrinter>
 #include <QProcess>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
@@ -36,7 +37,7 @@ std::map<std::string, int> Elementi(const std::string& dxf) {
   for (const auto& [codice, valore] : Gruppi(dxf)) {
     dentro = dentro || valore == "ENTITIES";
     if (codice == 0) genere = valore;
-    if (dentro && codice == 8) ++elementi[genere + " " + valore];
+    if (dentro && codice == 8) ++elementi[genere.append(" ").append(valore)];
   }
   return elementi;
 }
@@ -101,14 +102,19 @@ TEST(Esporta, Svg) {
   EXPECT_TRUE(testi.contains("Jyg:  5212229845")) << testi.join('|').toStdString();
 }
 
-TEST(Esporta, Pdf) {
+TEST(Esporta, PdfEStampa) {
   const QTemporaryDir cartella;
-  const QString file = cartella.filePath("s.pdf");
-  ASSERT_EQ(Esporta(prove::Esempio(), file), std::nullopt);
-  const std::string byte = prove::Leggi(file.toStdString());
-  EXPECT_TRUE(byte.starts_with("%PDF-"));
-  EXPECT_TRUE(byte.ends_with("%%EOF\n"));
-  EXPECT_NE(byte.find("/Count 1"), std::string::npos);
+  const QString esportato = cartella.filePath("s.pdf"), stampato = cartella.filePath("stampa.pdf");
+  ASSERT_EQ(Esporta(prove::Esempio(), esportato), std::nullopt);
+  QPrinter stampante(QPrinter::HighResolution);
+  stampante.setOutputFileName(stampato);
+  ASSERT_TRUE(Stampa(prove::Esempio(), stampante));
+  for (const QString& file : {esportato, stampato}) {
+    const std::string byte = prove::Leggi(file.toStdString());
+    EXPECT_TRUE(byte.starts_with("%PDF-"));
+    EXPECT_TRUE(byte.ends_with("%%EOF\n"));
+    EXPECT_NE(byte.find("/Count 1"), std::string::npos) << "one page";
+  }
 }
 
 TEST(Esporta, DisegniEstremi) {
