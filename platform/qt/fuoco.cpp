@@ -1,0 +1,70 @@
+// Which control of the desktop has the focus, as the forms see it.
+#include "platform/qt/fuoco.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "platform/qt/gestori.h"
+
+namespace tarvel {
+namespace {
+
+int messaggi = 0;
+int livelloModale = 0;
+Controllo* colFuoco = nullptr;
+std::vector<Finestra*> ordine;  // the windows on the screen, the last used one at the end
+
+}  // namespace
+
+void RaggiungeControllo(Finestra& finestra, Controllo& controllo) {
+  // The window manager may make a window active for a moment that cannot be used.
+  if (messaggi > 0 || finestra.livello < livelloModale || !finestra.isVisible()) return;
+  std::erase(ordine, &finestra);
+  ordine.push_back(&finestra);
+  if (colFuoco == &controllo) return;
+  if (const Controllo* lasciato = std::exchange(colFuoco, &controllo)) EseguiGestore(lasciato->fuocoPerso);
+}
+
+void LasciaControllo(const Finestra& finestra) {
+  if (colFuoco == nullptr || finestra.WidgetDi(*colFuoco) == nullptr) return;
+  EseguiGestore(std::exchange(colFuoco, nullptr)->fuocoPerso);
+}
+
+void RendeFuoco(const Finestra& finestra) {
+  const bool aveva = FinestraAttiva() == &finestra;
+  std::erase(ordine, &finestra);
+  if (!aveva) return;
+  // A modal form gives it back to what lay below, not to another form shown in the meantime.
+  if (finestra.ciclo != nullptr)
+    std::stable_partition(ordine.begin(), ordine.end(),
+                          [&](const Finestra* f) { return f->livello >= finestra.livello; });
+  colFuoco = ordine.empty() ? nullptr : ordine.back()->ColFuoco();
+}
+
+Finestra* FinestraAttiva() {
+  return ordine.empty() ? nullptr : ordine.back();
+}
+
+int LivelloModale() {
+  return livelloModale;
+}
+
+LivelloInPiu::LivelloInPiu() {
+  ++livelloModale;
+}
+
+LivelloInPiu::~LivelloInPiu() {
+  --livelloModale;
+  for (Finestra* finestra : ordine) finestra->livello = std::min(finestra->livello, livelloModale);
+}
+
+MessaggioAperto::MessaggioAperto() {
+  ++messaggi;
+}
+
+MessaggioAperto::~MessaggioAperto() {
+  --messaggi;
+}
+
+}  // namespace tarvel
