@@ -62,6 +62,17 @@ struct Controllo {
   std::function<void()> fuocoPerso;   // the focus has gone to another control
 };
 
+// A control as a form's table lists it; the form adds colours, fonts and handlers.
+inline Controllo NuovoControllo(TipoControllo tipo, const Testo& nome, const Rettangolo& posto,
+                                const Testo& testo = {}) {
+  Controllo c;
+  c.tipo = tipo;
+  c.nome = nome;
+  c.posto = posto;
+  c.testo = testo;
+  return c;
+}
+
 /// A static line of a schematic, drawn below the controls; the width is in pixels at scale 1.
 struct LineaForm {
   int x1 = 0, y1 = 0, x2 = 0, y2 = 0;

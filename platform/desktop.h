@@ -11,8 +11,12 @@
 // hands, `fuocoPerso` of the control that had it fires first, before any event of the new one
 // (a button's `click` finds the value of the box just left already stored). The close box of the
 // form that holds the focus makes its control lose it before Form_Unload, so that a value just
-// typed is not lost. A message box does not move the focus. When a modal form goes, the focus
-// returns to the control that had it, without an event. Labels never have the focus.
+// typed is not lost. A message box does not move the focus. Labels never have the focus.
+// A form shown by a handler takes the focus at once, but the control that had it hears of that only
+// when the program next waits for its user (in the loop of the form itself, if modal), before any
+// other event. When a form goes otherwise than by its close box, its control loses the focus
+// without an event; whenever one goes, the focus returns, without an event, to the control that
+// had it last on the form that is then in front.
 //
 // Modality. While a modal form is shown only it, and what its handlers show, can be used. While a
 // message box is open nothing else can be used.
@@ -68,8 +72,8 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
 
 enum class Puntatore { Predefinito, Clessidra };
 
-/// The mouse pointer over this form, at once.
-void ImpostaPuntatore(Form& form, Puntatore puntatore);
+/// The mouse pointer over the program's windows, at once.
+void ImpostaPuntatore(Puntatore puntatore);
 
 /// Starts or stops a timer; starting one that runs changes nothing. A timer never fires while a
 /// handler runs (its own included) or a message box is open: it fires when that is over. While a

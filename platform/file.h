@@ -25,14 +25,15 @@ struct ChiudiFile {
 };
 
 /// A file read line by line or item by item. A line ends with CR LF or LF. After an item, the
-/// blanks that follow it, one comma or the line end belong to it. Reading past the end, a malformed
+/// blanks that follow it, one comma or the line end belong to it; a whole line read after an item is
+/// always the next one, what is left of the item's line is passed over. Reading past the end, a malformed
 /// item and a fault of the host are fatal, with file and line.
 class FileInLettura {
  public:
   /// Nothing when the file cannot be opened (a folder counts as such).
   static std::optional<FileInLettura> Apri(const Testo& percorso);
 
-  /// The rest of the line. The view holds until the next call.
+  /// The next whole line, without its end. The view holds until the next call.
   std::string_view LeggiRiga();
   /// Leading blanks skipped; ends at a comma or the line end; quotes around it are removed.
   Testo LeggiVoceTesto();

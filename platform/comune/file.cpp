@@ -100,9 +100,10 @@ void FileInLettura::Prepara() {
 }
 
 std::string_view FileInLettura::LeggiRiga() {
+  rigaAperta_ = false;
   Prepara();
   rigaAperta_ = false;
-  return std::string_view(riga_).substr(letti_);
+  return riga_;
 }
 
 std::string_view FileInLettura::LeggiVoce(bool fineAlBlanco) {

@@ -1,0 +1,42 @@
+// The two small modal forms that list the sections of the table.
+#pragma once
+
+#include "base/intero.h"
+#include "base/tabella.h"
+#include "model/tabella_sezioni.h"
+#include "platform/controlli.h"
+
+namespace tarvel {
+
+/// Table index picked in FormSez, 0 for none. The close box leaves it as it was.
+extern Intero16 SezioneScelta;
+/// How many entries were selected in FormSez2 when it was last closed by its button, and which.
+extern Intero16 NumeroScelte;
+extern Tabella<"SezioniScelte", Intero16, 1, kMaxSezioni> SezioniScelte;
+
+/// Picks one section, by button or double click.
+class FormSez : public Form {
+ public:
+  FormSez();
+  void Form_Load() override;
+
+  Controllo Command1, ListSez;
+
+ private:
+  void Command1_Click();
+};
+
+/// Recalculates several sections in one go.
+class FormSez2 : public Form {
+ public:
+  FormSez2();
+  void Form_Load() override;
+
+  Controllo Command1, Command2, ListSez;
+
+ private:
+  void Command1_Click();
+  void Command2_Click();
+};
+
+}  // namespace tarvel

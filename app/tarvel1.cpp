@@ -1,0 +1,172 @@
+// Description, load and unload of the main form; the commands on sections stand in comandi.cpp.
+#include "app/tarvel1.h"
+
+#include "app/cartelle.h"
+#include "app/form_sez.h"
+#include "app/schema.h"
+#include "base/numeri.h"
+#include "drawing/disegno_sezione.h"
+#include "drawing/nome_file.h"
+#include "model/file_sezioni.h"
+#include "model/tabella_sezioni.h"
+#include "options/form_opt.h"
+#include "options/opzioni.h"
+#include "platform/desktop.h"
+#include "preview/anteprima.h"
+
+namespace tarvel {
+namespace {
+
+constexpr Colore kBlu{0, 0, 255};
+constexpr Colore kVerde{0, 128, 0};
+constexpr Colore kBluMarino{0, 0, 128};
+
+constexpr int kPrimaBase = 9;
+constexpr int kPrimaPendenza = 16;
+
+Colore ColoreGruppo(int indice) {
+  return indice < kPrimaBase ? kNero : indice < kPrimaPendenza ? kBlu : kVerde;
+}
+
+Testo TestoNota() {
+  return "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
+         "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)"_t;
+}
+
+}  // namespace
+
+Form& FormPrincipale() {
+  static tarvel1 form;
+  return form;
+}
+
+tarvel1::tarvel1() {
+  Form::nome = "tarvel1";
+  titolo = kTitoloProgramma;
+  larghezza = 9435;
+  altezza = 4785;
+  linee = LineeSchema();
+
+  for (int i = 0; i < kNumParametri; ++i) {
+    Controllo& casella = Text1[static_cast<std::size_t>(i)];
+    const PostoCasella& posto = PostiCaselle()[static_cast<std::size_t>(i)];
+    casella = NuovoControllo(TipoControllo::Casella, "Text1(" + std::to_string(i) + ")",
+                             {posto.sinistra, posto.alto, 396, 216}, "1234");
+    casella.coloreTesto = ColoreGruppo(i);
+    casella.carattere.punti = 6;
+    casella.tasto = [this, i](int codice) { Text1_KeyPress(i, codice); };
+    casella.fuocoPerso = [this, i] { Text1_LostFocus(i); };
+  }
+
+  nome = NuovoControllo(TipoControllo::Casella, "nome", {7320, 3960, 2004, 288});
+  nome.tasto = [this](int codice) { nome_KeyPress(codice); };
+  nome.fuocoPerso = [this] { nome_LostFocus(); };
+  nomute = NuovoControllo(TipoControllo::Etichetta, "nomute", {1524, 4404, 2460, 156});
+  nomute.coloreTesto = kBluMarino;
+  nomute.carattere.grassetto = true;
+  Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, TestoNota());
+  Label2 = NuovoControllo(TipoControllo::Etichetta, "Label2", {7296, 3768, 912, 156}, "Nome sezione:");
+
+  const struct {
+    Controllo& bottone;
+    const char* nome;
+    const char* testo;
+    Rettangolo posto;
+    void (tarvel1::*click)();
+  } bottoni[] = {
+      {Command1, "Command1", "Leggi", {7320, 4320, 972, 300}, &tarvel1::Command1_Click},
+      {Command2, "Command2", "Salva", {8352, 4320, 972, 300}, &tarvel1::Command2_Click},
+      {Calcolo, "Calcolo", "Calcola", {8352, 3312, 972, 300}, &tarvel1::Calcolo_Click},
+      {Command4, "Command4", "Anteprima", {8352, 2928, 972, 300}, &tarvel1::Command4_Click},
+      {Command6, "Command6", "Opzioni DIS", {8352, 2532, 972, 300}, &tarvel1::Command6_Click},
+      {Command7, "Command7", "Calcolo Multiplo", {5448, 4368, 1488, 240}, &tarvel1::Command7_Click},
+      {Command3, "Command3", "File SEZIO_UT:", {84, 4332, 1332, 300}, &tarvel1::Command3_Click},
+      {Command5, "Command5", "Chiudi", {8352, 144, 972, 300}, &tarvel1::Command5_Click},
+  };
+
+  for (const int i : OrdineCaselle()) controlli.push_back(&Text1[static_cast<std::size_t>(i)]);
+  controlli.push_back(&nome);
+  for (const auto& b : bottoni) {
+    b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome, b.posto, b.testo);
+    b.bottone.click = [this, click = b.click] { (this->*click)(); };
+    controlli.push_back(&b.bottone);
+  }
+  for (Controllo* etichetta : {&nomute, &Label1, &Label2}) controlli.push_back(etichetta);
+}
+
+void tarvel1::Form_Load() {
+  SezioneSalvata = true;
+  ChiusuraEseguita_ = false;
+  NumeroProposto = 1;
+  VerticiPoligono[1] = 13;
+  VerticiPoligono[2] = 11;
+  SezioneCorrente = 1;
+  PrefissoNome = "U_PO_";
+  InizializzaDirettori();
+  FileSezioni = DirLavori + "\\sezio_ut";
+  ImpostaTesto(nomute, FileSezioni);
+  NomeFileDisegno = kDisegnoTemporaneo;
+  LeggiOpzioni();
+  LeggiDefault();
+  ImpostaTesto(nome, ProponiNome(NumeroProposto));
+  AggiornaTextParametri();
+  LeggiFileSezioni(false);
+  CaricaForm(FormOpt::Unica());
+}
+
+void tarvel1::Form_Unload() {
+  if (!SezioneSalvata && MostraMessaggio("Sezione non salvata. Salvare?", "INFORMAZIONE", Icona::Informazione,
+                                         Bottoni::SiNo) == Risposta::Si)
+    SalvaSezione();
+  if (!ChiusuraEseguita_) ChiudiVisualizzatore();
+  formTimer_.Arma();
+}
+
+void tarvel1::AggiornaTextParametri() {
+  for (int i = 0; i < kNumParametri; ++i)
+    ImpostaTesto(Text1[static_cast<std::size_t>(i)], FormatoNumero(ParametriSezione[i]));
+}
+
+void tarvel1::Text1_KeyPress(int indice, int codice) {
+  if (codice == kTastoInvio) Text1_LostFocus(indice);
+  SezioneSalvata = false;
+}
+
+void tarvel1::Text1_LostFocus(int indice) {
+  ParametriSezione[indice] = ConvertiNumero(Text1[static_cast<std::size_t>(indice)].testo);
+  SezioneCalcolata = false;
+}
+
+void tarvel1::nome_KeyPress(int codice) {
+  if (codice != kTastoInvio || nome.testo.empty()) return;
+  if (const int i = CercaSezione(nome.testo); i != 0) RichiamaSezione(i);
+}
+
+void tarvel1::nome_LostFocus() {
+  SezioneCalcolata = false;
+}
+
+void tarvel1::Command4_Click() {
+  GeneraDisegno(kAvvisiNessuno);
+  Anteprima();
+}
+
+void tarvel1::Command5_Click() {
+  std::array<Testo, kNumParametri> caselle;
+  for (std::size_t i = 0; i < caselle.size(); ++i) caselle[i] = Text1[i].testo;
+  ScriviDefault(caselle);
+  ChiudiVisualizzatore();
+  ChiusuraEseguita_ = true;
+  formTimer_.Arma();
+}
+
+void tarvel1::Command6_Click() {
+  MostraForm(FormOpt::Unica());
+}
+
+void tarvel1::Command7_Click() {
+  FormSez2 form;
+  MostraFormModale(form);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,26 @@
+// The one drawing and its settings.
+#include "drawing/disegno.h"
+
+namespace tarvel::disegno {
+
+TabelleDisegno Disegno;
+
+Reale OrigineX, OrigineY;
+Intero16 ColoreCorrente, TipoLineaCorrente;
+tarvel::Testo FlagDisegno;
+Intero16 DecimaliQuote;
+
+Tabella<"FontPunti", Intero16, 0, 255> FontPunti;
+OrdinateFont<"FontX"> FontX;
+OrdinateFont<"FontY"> FontY;
+Intero16 SpaziaturaCaratteri;
+
+void SvuotaDisegno() {
+  Disegno.Coordinate.numero = 0;
+  Disegno.Punti.numero = 0;
+  Disegno.Linee.numero = 0;
+  Disegno.Archi.numero = 0;
+  Disegno.Testi.numero = 0;
+}
+
+}  // namespace tarvel::disegno

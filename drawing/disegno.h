@@ -1,0 +1,102 @@
+// The drawing that is being generated: fixed tables of elements over one shared table of
+// coordinates, and the settings that every primitive obeys. An element names its points by their
+// index in Coordinate, never by value.
+//
+// Everything about drawing lives in this namespace, where Testo is the primitive that draws a text;
+// the 8-bit string is tarvel::Testo.
+#pragma once
+
+#include <cstdint>
+
+#include "base/intero.h"
+#include "base/reale.h"
+#include "base/tabella.h"
+#include "base/testo.h"
+
+namespace tarvel::disegno {
+
+/// Absolute: points nearer than this in X and in Y are one point.
+inline constexpr double kTolleranza = 0.0001;
+
+struct Coordinata {
+  Reale x, y;
+};
+
+struct ElementoPunto {
+  std::int32_t coordinata = 0;
+  Intero16 attributoA, attributoB;  // carried to the file for the viewer
+};
+
+struct ElementoLinea {
+  std::int32_t primo = 0, secondo = 0;
+  Intero16 colore, tipo;
+};
+
+/// A full circle starts and ends at the same point.
+struct ElementoArco {
+  std::int32_t centro = 0, inizio = 0, secondoCentro = 0, fine = 0;
+  Intero16 colore, genere;  // genere: always 0
+};
+
+struct ElementoTesto {
+  std::int32_t posizione = 0;
+  Intero16 angolo;             // whole degrees
+  Intero16 base10, altezza10;  // of one character, times ten
+  Intero16 colore;
+  tarvel::Testo stringa;
+};
+
+/// Places 0 to Ultimo, of which `numero` are taken. The primitives leave the last place free.
+template <NomeTabella Nome, class T, int Ultimo>
+struct Elenco {
+  static constexpr std::int32_t kCapienza = Ultimo;
+
+  T& operator[](long long i) { return voci[i]; }
+  const T& operator[](long long i) const { return voci[i]; }
+
+  std::int32_t numero = 0;
+  Tabella<Nome, T, 0, Ultimo> voci;
+};
+
+struct TabelleDisegno {
+  Elenco<"Coordinate", Coordinata, 50000> Coordinate;
+  Elenco<"Punti", ElementoPunto, 5000> Punti;
+  Elenco<"Linee", ElementoLinea, 50000> Linee;
+  Elenco<"Archi", ElementoArco, 15000> Archi;
+  Elenco<"Testi", ElementoTesto, 15000> Testi;
+};
+
+extern TabelleDisegno Disegno;
+
+/// Sets every count to 0. The entries keep their values: the extents of a drawing without
+/// coordinates are those of place 0.
+void SvuotaDisegno();
+
+// --- Settings; each keeps its value from one drawing to the next.
+
+/// Added to whatever is recorded into Disegno, not to what is drawn onto a surface.
+extern Reale OrigineX, OrigineY;
+/// Of a line or circle recorded without a colour of its own.
+extern Intero16 ColoreCorrente;
+/// Of every recorded line.
+extern Intero16 TipoLineaCorrente;
+/// kGeneraDisegno while a drawing file is being generated, otherwise "": texts are then recorded as
+/// texts, otherwise drawn by the strokes of the font.
+extern tarvel::Testo FlagDisegno;
+inline constexpr char kGeneraDisegno[] = "gendis";
+/// Decimals of a measured dimension; a negative number counts as 0.
+extern Intero16 DecimaliQuote;
+
+// --- The stroke font, by character code: glyphs 99 units wide and 69 high, their baseline at
+// ordinate 30. Two consecutive points are one stroke. No font is supplied: all of it is 0.
+
+template <NomeTabella Nome>
+using OrdinateFont = Tabella<"carattere", Tabella<Nome, Intero16, 0, 100>, 0, 255>;
+
+extern Tabella<"FontPunti", Intero16, 0, 255> FontPunti;
+extern OrdinateFont<"FontX"> FontX;
+extern OrdinateFont<"FontY"> FontY;
+/// By which characters are narrowed, percent.
+extern Intero16 SpaziaturaCaratteri;
+
+}  // namespace tarvel::disegno

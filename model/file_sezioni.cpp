@@ -1,0 +1,218 @@
+// Writer and reader stand side by side, record by record, as the lines stand in the file.
+#include "model/file_sezioni.h"
+
+#include "base/errore.h"
+#include "base/numeri.h"
+#include "model/tabella_sezioni.h"
+#include "platform/desktop.h"
+#include "platform/file.h"
+#include "properties/utilita.h"
+
+namespace tarvel {
+
+Testo FileSezioni;
+Testo PrefissoNome;
+Intero16 NumeroProposto = 1;
+
+namespace {
+
+// --- Writing
+
+constexpr int kDecimali = 2;
+constexpr int kDecimaliTensioni = 14;
+constexpr std::size_t kPassoColonne = 20;  // column stops 21, 41 and 61
+
+// One line of values at the column stops. A value that reaches beyond the next stop pushes it to a
+// new line, where no reader looks for it: values of that length do not occur.
+class RigaColonne {
+ public:
+  RigaColonne(FileInScrittura& file, Testo& riga) : file_(file), riga_(riga) { riga_.clear(); }
+
+  RigaColonne& Testuale(std::string_view testo) {
+    ProssimaColonna();
+    riga_ += testo;
+    return *this;
+  }
+  RigaColonne& Tagliato(Reale valore) {
+    ProssimaColonna();
+    AccodaNumero(riga_, Tronca(valore, kDecimali));
+    return *this;
+  }
+  // The sign is dropped: stresses are stored as magnitudes.
+  RigaColonne& Tensione(Reale valore) {
+    ProssimaColonna();
+    AccodaNumero(riga_, Tronca(Assoluto(valore), kDecimaliTensioni));
+    return *this;
+  }
+  RigaColonne& Conteggio(Intero16 valore) {
+    ProssimaColonna();
+    AccodaNumero(riga_, static_cast<int>(valore));
+    return *this;
+  }
+  void Fine() { file_.ScriviRiga(riga_); }
+
+ private:
+  void ProssimaColonna() {
+    const std::size_t fermata = kPassoColonne * static_cast<std::size_t>(valori_++);
+    if (riga_.size() > fermata) {
+      file_.ScriviRiga(riga_);
+      riga_.clear();
+    }
+    riga_.resize(fermata, ' ');
+  }
+
+  FileInScrittura& file_;
+  Testo& riga_;
+  int valori_ = 0;
+};
+
+void ScriviPoligono(FileInScrittura& file, Testo& buffer, const GeometriaSezione& g, int p) {
+  buffer.clear();
+  AccodaStampato(buffer, static_cast<int>(g.NumVertici[p]));
+  file.ScriviRiga(buffer);
+  for (int v = g.NumVertici[p]; v >= 1; --v)
+    RigaColonne(file, buffer).Tagliato(g.VerticeZ(p, v)).Tagliato(g.VerticeY(p, v)).Testuale("0").Fine();
+}
+
+void ScriviPunto(FileInScrittura& file, Testo& buffer, RecordSezione& r, int j) {
+  const Testo etichetta(r.EtichettaPunto[j].Rifilato());
+  r.EtichettaPunto[j] = etichetta;
+  RigaColonne(file, buffer).Tagliato(r.PuntoZ[j]).Tagliato(r.PuntoY[j]).Testuale(etichetta).Fine();
+  RigaColonne(file, buffer).Tensione(r.TauT[j]).Conteggio(r.IndicatoreTauT[j]).Fine();
+  RigaColonne(file, buffer).Tensione(r.TauVy[j]).Conteggio(r.IndicatoreTauVy[j]).Fine();
+  RigaColonne(file, buffer).Tensione(r.TauVz[j]).Conteggio(r.IndicatoreTauVz[j]).Fine();
+}
+
+void ScriviRecord(FileInScrittura& file, Testo& buffer, RecordSezione& r) {
+  const auto riga = [&] { return RigaColonne(file, buffer); };
+  file.ScriviRiga(r.Nome);
+  riga().Tagliato(r.BaseTotale).Tagliato(r.AltezzaTotale).Tagliato(r.ZG).Tagliato(r.YG).Fine();
+  riga().Conteggio(r.NumPoligoni).Fine();
+  for (int p = 1; p <= r.NumPoligoni; ++p) ScriviPoligono(file, buffer, r, p);
+  riga().Tagliato(r.An).Tagliato(r.Aty).Tagliato(r.Atz).Fine();
+  riga().Tagliato(r.Jt).Tagliato(r.Jyg).Tagliato(r.Jzg).Tagliato(r.ValoreAggiuntivo).Fine();
+  riga().Conteggio(r.NumPunti).Fine();
+  for (int j = 1; j <= r.NumPunti; ++j) ScriviPunto(file, buffer, r, j);
+  file.ScriviRiga(SenzaBlanchi(r.Sigla));
+  riga().Tagliato(r.ValoreSigla).Fine();
+}
+
+// --- Reading
+
+// A whole line taken apart at its blanks.
+class RigaParole {
+ public:
+  explicit RigaParole(FileInLettura& file) : file_(file), resto_(SenzaBlanchi(file.LeggiRiga())) {}
+
+  std::string_view Parola() {
+    const std::string_view parola = resto_.substr(0, resto_.find(' '));
+    resto_ = SenzaBlanchi(resto_.substr(parola.size()));
+    return parola;
+  }
+  std::string_view Resto() const { return resto_; }
+  Reale Numero() { return ConvertiNumero(Parola()); }
+  // Points alone are read strictly; outlines and properties are not. Wanted so.
+  Reale NumeroStretto() {
+    const std::string_view parola = Parola();
+    const auto valore = NumeroInvariante(parola);
+    if (!valore)
+      file_.Malformato("coordinata di un punto non valida \"" + Testo(parola.substr(0, 40)) + "\"");
+    return *valore;
+  }
+
+ private:
+  FileInLettura& file_;
+  std::string_view resto_;
+};
+
+Intero16 LeggiConteggio(FileInLettura& file, int massimo, const char* cosa) {
+  const Intero16 n = file.LeggiVoceIntero();
+  if (n < 0 || n > massimo)
+    file.Malformato(Testo("numero di ") + cosa + " non valido: " + std::to_string(n) + ", al massimo " +
+                    std::to_string(massimo));
+  return n;
+}
+
+void LeggiPoligono(FileInLettura& file, GeometriaSezione& g, int p) {
+  g.NumVertici[p] = LeggiConteggio(file, kMaxVertici, "vertici");
+  for (int v = g.NumVertici[p]; v >= 1; --v) {
+    RigaParole riga(file);
+    const Reale z = riga.Numero();
+    g.ImpostaVertice(p, v, {z, riga.Numero()});
+  }
+}
+
+void LeggiPunto(FileInLettura& file, RecordSezione& r, int j) {
+  RigaParole riga(file);
+  r.PuntoZ[j] = riga.NumeroStretto();
+  r.PuntoY[j] = riga.NumeroStretto();
+  r.EtichettaPunto[j] = riga.Resto();
+  r.TauT[j] = file.LeggiVoceNumero();
+  r.IndicatoreTauT[j] = file.LeggiVoceIntero();
+  r.TauVy[j] = file.LeggiVoceNumero();
+  r.IndicatoreTauVy[j] = file.LeggiVoceIntero();
+  r.TauVz[j] = file.LeggiVoceNumero();
+  r.IndicatoreTauVz[j] = file.LeggiVoceIntero();
+}
+
+void LeggiRecord(FileInLettura& file, RecordSezione& r) {
+  r.Nome = file.LeggiVoceTesto();
+  {
+    RigaParole riga(file);  // values that are not there are 0
+    for (Reale* campo : {&r.BaseTotale, &r.AltezzaTotale, &r.ZG, &r.YG}) *campo = riga.Numero();
+  }
+  r.NumPoligoni = LeggiConteggio(file, kMaxPoligoni, "poligoni");
+  for (int p = 1; p <= r.NumPoligoni; ++p) LeggiPoligono(file, r, p);
+  for (Reale* campo : {&r.An, &r.Aty, &r.Atz}) *campo = file.LeggiVoceNumero();
+  {
+    RigaParole riga(file);
+    for (Reale* campo : {&r.Jt, &r.Jyg, &r.Jzg}) *campo = riga.Numero();
+    r.ValoreAggiuntivo = ConvertiNumero(riga.Resto());
+  }
+  r.NumPunti = LeggiConteggio(file, kMaxPunti, "punti");
+  for (int j = 1; j <= r.NumPunti; ++j) LeggiPunto(file, r, j);
+  r.Sigla = file.LeggiVoceTesto();
+  r.ValoreSigla = file.LeggiVoceNumero();
+}
+
+}  // namespace
+
+void LeggiFileSezioni(bool mostraErrore) {
+  auto file = FileInLettura::Apri(FileSezioni);
+  if (!file) {
+    if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
+    return;
+  }
+  NumeroSezioniFile = LeggiConteggio(*file, kMaxSezioni, "sezioni");
+  NumeroSezioni = NumeroSezioniFile;
+  for (int i = 1; i <= NumeroSezioni; ++i) LeggiRecord(*file, TabellaSezioni[i]);
+}
+
+void ScriviFileSezioni() {
+  auto file = FileInScrittura::Crea(FileSezioni);
+  if (!file) {
+    MostraMessaggio("Problemi nella scrittura del file " + FileSezioni, "ERRORE", Icona::Stop);
+    return;
+  }
+  const auto luogo = [] { return "scrittura del file " + FileSezioni + ", che può essere incompleto"_t; };
+  Durante(luogo, [&] {
+    Testo buffer;
+    RigaColonne(*file, buffer).Conteggio(NumeroSezioni).Fine();
+    for (int i = 1; i <= NumeroSezioni; ++i) ScriviRecord(*file, buffer, TabellaSezioni[i]);
+    file->Chiudi();
+  });
+}
+
+Testo ProponiNome(Intero16 numero) {
+  const Testo cifre = "000" + FormatoNumero(static_cast<int>(numero));
+  return Testo(SenzaBlanchi(PrefissoNome + cifre.substr(cifre.size() - 3)));
+}
+
+Testo NormalizzaNome(const Testo& nome, const Testo& voluto, const Testo& altro) {
+  const Testo inizio = Maiuscole(nome.substr(0, 2));
+  if (inizio == voluto) return nome;
+  if (inizio == altro) return voluto + nome.substr(2);
+  return voluto + Testo(SenzaBlanchi(nome));
+}
+
+}  // namespace tarvel

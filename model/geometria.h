@@ -1,0 +1,13 @@
+// From the 21 dimensions to the outline and the cell.
+#pragma once
+
+#include "model/parametri.h"
+#include "model/sezione.h"
+
+namespace tarvel {
+
+/// Writes polygons 1 (outline, 13 vertices) and 2 (cell, 11 vertices). It judges no shape: crossing
+/// dimensions give crossing polygons. An arithmetic fault is fatal.
+void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p);
+
+}  // namespace tarvel

@@ -1,0 +1,82 @@
+// One section: its outline, its properties and its characteristic points, as plain values.
+//
+// Axes: z horizontal, to the right, from the left edge; y vertical, upward, 0 at the top of the
+// left cantilever tip. Lengths are in whatever unit the user types.
+#pragma once
+
+#include "base/intero.h"
+#include "base/reale.h"
+#include "base/tabella.h"
+#include "base/testo.h"
+#include "base/testo_fisso.h"
+
+namespace tarvel {
+
+/// Absolute, everywhere: a magnitude not greater than this counts as zero.
+inline constexpr double kTolleranza = 0.0001;
+
+constexpr int kMaxPoligoni = 5;
+constexpr int kMaxVertici = 50;
+constexpr int kMaxPunti = 50;
+
+struct Punto {
+  Reale z, y;
+};
+
+/// Closed polygons, the first vertex not repeated. Polygon 1 is the outline, counter-clockwise;
+/// polygon 2 the cell, clockwise: signed integrals over both give the net section.
+struct GeometriaSezione {
+  Intero16 NumPoligoni;
+  Tabella<"NumVertici", Intero16, 1, kMaxPoligoni> NumVertici;
+  Griglia<"VerticeY", Reale, kMaxPoligoni, kMaxVertici> VerticeY;
+  Griglia<"VerticeZ", Reale, kMaxPoligoni, kMaxVertici> VerticeZ;
+
+  Punto Vertice(int poligono, int v) const { return {VerticeZ(poligono, v), VerticeY(poligono, v)}; }
+  void ImpostaVertice(int poligono, int v, Punto p) {
+    VerticeZ(poligono, v) = p.z;
+    VerticeY(poligono, v) = p.y;
+  }
+  /// Vertex v of the outline, vertex v of the cell: O4 and C4 in drawings and formulas.
+  Punto O(int v) const { return Vertice(1, v); }
+  Punto C(int v) const { return Vertice(2, v); }
+};
+
+using TestoEtichetta = TestoFisso<20>;
+
+struct CaratteristicheSezione {
+  Reale AltezzaTotale, BaseTotale;  // overall extents
+  Reale ZG, YG;                     // centroid
+  Reale An;                         // net area
+  Reale Aty, Atz;                   // shear areas for shear along y and along z
+  Reale Jt;                         // torsion constant; the product moment while it is being calculated
+  Reale Jyg, Jzg;                   // second moments about the vertical and the horizontal centroidal axis
+  Reale ValoreAggiuntivo;           // carried through the section file, computed by nothing
+
+  Intero16 NumPunti;
+  Tabella<"PuntoZ", Reale, 1, kMaxPunti> PuntoZ;
+  Tabella<"PuntoY", Reale, 1, kMaxPunti> PuntoY;
+  Tabella<"EtichettaPunto", TestoEtichetta, 1, kMaxPunti> EtichettaPunto;
+  // Stress for a unit torque, a unit shear along y and along z, each with the code that the
+  // program reading the section file expects beside it.
+  Tabella<"TauT", Reale, 1, kMaxPunti> TauT;
+  Tabella<"TauVy", Reale, 1, kMaxPunti> TauVy;
+  Tabella<"TauVz", Reale, 1, kMaxPunti> TauVz;
+  Tabella<"IndicatoreTauT", Intero16, 1, kMaxPunti> IndicatoreTauT;
+  Tabella<"IndicatoreTauVy", Intero16, 1, kMaxPunti> IndicatoreTauVy;
+  Tabella<"IndicatoreTauVz", Intero16, 1, kMaxPunti> IndicatoreTauVz;
+
+  Testo Sigla;
+  Reale ValoreSigla;
+
+  Punto P(int k) const { return {PuntoZ[k], PuntoY[k]}; }
+  void ImpostaPunto(int k, Punto p) {
+    PuntoZ[k] = p.z;
+    PuntoY[k] = p.y;
+  }
+};
+
+struct RecordSezione : GeometriaSezione, CaratteristicheSezione {
+  Testo Nome;
+};
+
+}  // namespace tarvel

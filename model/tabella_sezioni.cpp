@@ -1,0 +1,20 @@
+// The table and its lookup by name.
+#include "model/tabella_sezioni.h"
+
+namespace tarvel {
+
+Tabella<"TabellaSezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
+Intero16 NumeroSezioni;
+Intero16 NumeroSezioniFile;
+Intero16 SezioneCorrente = 1;
+bool SezioneCalcolata = false;
+bool SezioneSalvata = true;
+Tabella<"VerticiPoligono", Intero16, 1, kMaxPoligoni> VerticiPoligono;
+
+Intero16 CercaSezione(std::string_view nome) {
+  for (int i = 1; i <= NumeroSezioni; ++i)
+    if (TabellaSezioni[i].Nome == nome) return i;
+  return 0;
+}
+
+}  // namespace tarvel

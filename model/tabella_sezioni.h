@@ -1,0 +1,31 @@
+// The sections of the job in memory, and the state of the user's work on them.
+#pragma once
+
+#include <string_view>
+
+#include "model/sezione.h"
+
+namespace tarvel {
+
+constexpr int kMaxSezioni = 500;
+
+/// Slots above NumeroSezioni keep what they last held and are never read. No record is deleted.
+extern Tabella<"TabellaSezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
+extern Intero16 NumeroSezioni;
+/// How many records the section file held when it was last read.
+extern Intero16 NumeroSezioniFile;
+/// The record shown and drawn; 1 at start, even while the table is empty.
+extern Intero16 SezioneCorrente;
+
+/// The current record reflects the boxes.
+extern bool SezioneCalcolata;
+/// Nothing was changed since the last save or since the start.
+extern bool SezioneSalvata;
+
+/// Vertices of each polygon of an outline; the main form's load sets 13 and 11.
+extern Tabella<"VerticiPoligono", Intero16, 1, kMaxPoligoni> VerticiPoligono;
+
+/// 1-based index of the first record with exactly this name, 0 when there is none.
+Intero16 CercaSezione(std::string_view nome);
+
+}  // namespace tarvel

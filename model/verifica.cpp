@@ -1,0 +1,54 @@
+// The inverse of the outline's construction.
+#include "model/verifica.h"
+
+#include "model/parametri.h"
+#include "model/tabella_sezioni.h"
+#include "platform/desktop.h"
+#include "properties/utilita.h"
+
+namespace tarvel {
+namespace {
+
+// Slope in percent, cut down to three decimals of the ratio; 0 over a run within the tolerance.
+Reale Pendenza(Reale salita, Reale corsa) {
+  return Assoluto(corsa) > kTolleranza ? Tronca(salita / corsa, 3) * 100 : Reale(0);
+}
+
+}  // namespace
+
+bool VerificaSezione(const RecordSezione& r) {
+  if (r.NumVertici[1] != VerticiPoligono[1] || r.NumPoligoni != 2 || r.NumVertici[2] != VerticiPoligono[2]) {
+    MostraMessaggio("Sezione non valida", "ATTENZIONE", Icona::Esclamazione);
+    return false;
+  }
+  const auto O = [&](int v) { return r.O(v); };
+  const auto C = [&](int v) { return r.C(v); };
+  const auto pendenza = [](Punto da, Punto a) { return Pendenza(a.y - da.y, a.z - da.z); };
+  VettoreParametri& p = ParametriSezione;
+
+  p[0] = O(12).y - O(5).y;
+  p[1] = C(11).y - O(5).y;
+  p[2] = O(1).y - O(2).y;
+  p[9] = O(3).z - O(1).z;
+  p[10] = O(4).z - O(3).z;
+  p[11] = C(3).z - C(2).z;
+  p[12] = C(4).z - C(3).z;
+  p[13] = C(5).z - C(4).z;
+  p[14] = C(11).z - C(1).z;
+  p[8] = C(1).y - C(11).y;
+  p[15] = O(10).z - O(1).z;
+  p[7] = O(13).y - C(4).y;
+  p[16] = pendenza(O(1), O(13));
+  p[17] = pendenza(O(13), O(12));
+  p[18] = pendenza(O(12), O(11));
+  p[19] = pendenza(O(10), O(11));
+  p[20] = Pendenza(O(5).z - O(4).z, O(4).y - O(5).y);
+  // Depths below the line of slope p16, as it has just been cut.
+  p[3] = p[16] / 100 * p[9] - O(3).y;
+  p[4] = p[16] / 100 * O(4).z - O(4).y;
+  p[5] = p[16] / 100 * C(2).z - C(2).y;
+  p[6] = p[16] / 100 * C(3).z - C(3).y;
+  return true;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,56 @@
+// Starting, activating and ending programs that are not run.
+#include "platform/headless/compiti.h"
+
+#include <filesystem>
+#include <set>
+#include <string>
+
+#include "platform/file.h"
+#include "platform/headless/verbale.h"
+#include "platform/programmi.h"
+
+namespace tarvel {
+namespace headless {
+namespace {
+
+std::int32_t gUltimo = 0;
+std::set<std::int32_t> gAttivi;
+
+}  // namespace
+
+bool TerminaCompito(std::int32_t id) {
+  return gAttivi.erase(id) == 1;
+}
+
+void AzzeraCompiti() {
+  gUltimo = 0;
+  gAttivi.clear();
+}
+
+}  // namespace headless
+
+using namespace headless;
+
+std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t stile) {
+  const std::string riga = "start " + TraVirgolette(percorso) + ' ' + std::to_string(stile) + " -> ";
+  std::error_code errore;
+  if (!std::filesystem::is_regular_file(PercorsoHost(percorso), errore)) {
+    Annota(riga + "failed");
+    return std::nullopt;
+  }
+  gAttivi.insert(++gUltimo);
+  Annota(riga + std::to_string(gUltimo));
+  return gUltimo;
+}
+
+bool AttivaProgramma(std::int32_t id) {
+  const bool attivo = gAttivi.count(id) != 0;
+  Annota("activate " + std::to_string(id) + (attivo ? " -> done" : " -> failed"));
+  return attivo;
+}
+
+void InviaTasti(const Testo& sequenza) {
+  Annota("keys " + TraVirgolette(sequenza));
+}
+
+}  // namespace tarvel

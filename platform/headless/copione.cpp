@@ -1,0 +1,227 @@
+// The script's verbs, its answers and its leave-taking.
+#include "platform/headless/copione.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "platform/headless/compiti.h"
+#include "platform/headless/contenuto.h"
+#include "platform/headless/mano.h"
+#include "platform/headless/verbale.h"
+
+namespace tarvel::headless {
+namespace {
+
+constexpr int kTickMassimo = 3'600'000;
+constexpr Durata kAttesaFinaleMassima = 60'000;
+
+struct Evento {
+  int riga;
+  std::vector<std::string> argomenti;
+  std::string testo;  // what follows the first argument and one blank, as it is
+
+  [[noreturn]] void Errore(const std::string& cosa) const { throw ErroreCopione{riga, cosa}; }
+  void Esigi(bool riuscito) const {
+    if (!riuscito) Errore(argomenti.front() + " cannot be used so now");
+  }
+};
+
+// A script may hold anything: only the beginning of what is not understood is shown again.
+std::string Citazione(std::string_view parola) {
+  return TraVirgolette(DaUtf8(parola.substr(0, 40)));
+}
+
+int Numero(const Evento& e, const std::string& parola, int minimo, int massimo) {
+  int numero = 0;
+  const auto [fine, errore] = std::from_chars(parola.data(), parola.data() + parola.size(), numero);
+  if (errore != std::errc{} || fine != parola.data() + parola.size() || numero < minimo || numero > massimo)
+    e.Errore(Citazione(parola) + " is not a whole number from " + std::to_string(minimo) + " to " +
+             std::to_string(massimo));
+  return numero;
+}
+
+// "C" on the form in front, "FORM.C" on any visible one.
+Controllo& Trova(const Evento& e) {
+  const Testo nome = DaUtf8(e.argomenti.front());
+  const auto punto = nome.find('.');
+  const Form* form = punto == Testo::npos ? FormAttiva() : FormVisibile(nome.substr(0, punto));
+  if (form == nullptr) e.Errore("no visible form for the control " + Citazione(e.argomenti.front()));
+  const Testo cercato = punto == Testo::npos ? nome : nome.substr(punto + 1);
+  const auto trovato = std::find_if(form->controlli.begin(), form->controlli.end(),
+                                    [&](const Controllo* c) { return c->nome == cercato; });
+  if (trovato == form->controlli.end())
+    e.Errore("the form " + InUtf8(form->nome) + " has no control " + Citazione(InUtf8(cercato)));
+  return **trovato;
+}
+
+Controllo& TrovaLista(const Evento& e) {
+  Controllo& lista = Trova(e);
+  e.Esigi(lista.tipo == TipoControllo::Lista);
+  return lista;
+}
+
+// The numbers after the control's name, as entries from 0.
+std::vector<int> Voci(const Evento& e, const Controllo& lista) {
+  std::vector<int> voci;
+  for (std::size_t i = 1; i < e.argomenti.size(); ++i)
+    voci.push_back(Numero(e, e.argomenti[i], 1, static_cast<int>(lista.voci.size())) - 1);
+  return voci;
+}
+
+void EseguiType(const Evento& e) {
+  const Testo testo = DaUtf8(e.testo);
+  if (std::any_of(testo.begin(), testo.end(), [](char c) { return c >= 0 && c < ' '; }))
+    e.Errore("a control character cannot be typed");
+  e.Esigi(Digita(Trova(e), testo));
+}
+
+void EseguiSelect(const Evento& e) {
+  Controllo& lista = TrovaLista(e);
+  e.Esigi(Seleziona(lista, Voci(e, lista)));
+}
+
+void EseguiDblclick(const Evento& e) {
+  Controllo& lista = TrovaLista(e);
+  e.Esigi(DoppioClick(lista, Voci(e, lista).front()));
+}
+
+void EseguiClose(const Evento& e) {
+  Form* form = e.argomenti.empty() ? FormAttiva() : FormVisibile(DaUtf8(e.argomenti.front()));
+  if (form == nullptr) e.Errore("no such visible form");
+  if (!Chiudi(*form)) e.Errore("the form " + InUtf8(form->nome) + " cannot be closed now");
+}
+
+void EseguiPrint(const Evento& e) {
+  const Controllo& controllo = Trova(e);
+  e.Esigi(Usabile(*FormDi(controllo)));
+  Annota(RigaContenuto(controllo));
+}
+
+void EseguiEndtask(const Evento& e) {
+  if (!TerminaCompito(Numero(e, e.argomenti.front(), 1, INT32_MAX))) e.Errore("no such task runs");
+}
+
+struct Verbo {
+  std::string_view nome;
+  std::size_t minimo, massimo;  // number of arguments
+  void (*esegui)(const Evento&);
+};
+constexpr std::size_t kQuanti = SIZE_MAX;
+
+constexpr std::array<Verbo, 10> kVerbi = {{
+    {"type", 1, kQuanti, EseguiType},
+    {"focus", 1, 1, [](const Evento& e) { e.Esigi(Vai(Trova(e))); }},
+    {"enter", 1, 1, [](const Evento& e) { e.Esigi(Invio(Trova(e))); }},
+    {"click", 1, 1, [](const Evento& e) { e.Esigi(Clicca(Trova(e))); }},
+    {"select", 1, kQuanti, EseguiSelect},
+    {"dblclick", 2, 2, EseguiDblclick},
+    {"close", 0, 1, EseguiClose},
+    {"print", 1, 1, EseguiPrint},
+    {"tick", 1, 1, [](const Evento& e) { LasciaPassare(Numero(e, e.argomenti.front(), 0, kTickMassimo)); }},
+    {"endtask", 1, 1, EseguiEndtask},
+}};
+
+std::vector<std::string> Parole(std::string_view testo) {
+  constexpr std::string_view kBlanchi = " \t";
+  std::vector<std::string> parole;
+  for (auto inizio = testo.find_first_not_of(kBlanchi); inizio != std::string_view::npos;
+       inizio = testo.find_first_not_of(kBlanchi)) {
+    testo.remove_prefix(inizio);
+    const auto fine = std::min(testo.find_first_of(kBlanchi), testo.size());
+    parole.emplace_back(testo.substr(0, fine));
+    testo.remove_prefix(fine);
+  }
+  return parole;
+}
+
+std::string Descrizione(const Messaggio& m) {
+  return TraVirgolette(m.titolo) + ' ' + TraVirgolette(m.testo);
+}
+
+}  // namespace
+
+void Copione::Agisce() {
+  const std::optional<std::string> riga = righe_.Prossima();
+  if (!riga) {
+    Congeda();
+    return;
+  }
+  Evento evento{righe_.Numero(), Parole(*riga), {}};
+  const std::string verbo = evento.argomenti.front();
+  evento.argomenti.erase(evento.argomenti.begin());
+  if (!evento.argomenti.empty()) {
+    const auto dopo = riga->find(evento.argomenti.front(), verbo.size()) + evento.argomenti.front().size();
+    evento.testo = dopo < riga->size() ? riga->substr(dopo + 1) : "";
+  }
+  if (verbo == "answer") {
+    PreparaRisposte(evento.argomenti);
+    return;
+  }
+  const auto* voce =
+      std::find_if(kVerbi.begin(), kVerbi.end(), [&](const Verbo& v) { return v.nome == verbo; });
+  if (voce == kVerbi.end()) evento.Errore("unknown verb " + Citazione(verbo));
+  if (evento.argomenti.size() < voce->minimo || evento.argomenti.size() > voce->massimo)
+    evento.Errore("wrong number of arguments for " + verbo);
+  voce->esegui(evento);
+}
+
+void Copione::PreparaRisposte(const std::vector<std::string>& risposte) {
+  const int riga = righe_.Numero();
+  if (risposte.empty()) throw ErroreCopione{riga, "answer what?"};
+  for (const std::string& parola : risposte) {
+    if (parola == "ok")
+      risposte_.push_back({Risposta::Ok, riga});
+    else if (parola == "yes")
+      risposte_.push_back({Risposta::Si, riga});
+    else if (parola == "no")
+      risposte_.push_back({Risposta::No, riga});
+    else
+      throw ErroreCopione{riga, Citazione(parola) + " is no answer: ok, yes or no"};
+  }
+}
+
+Risposta Copione::Risponde(const Messaggio& messaggio) {
+  const bool domanda = messaggio.bottoni == Bottoni::SiNo;
+  if (risposte_.empty()) {
+    if (domanda && !finito_)
+      throw ErroreCopione{righe_.Numero(), "a question without an answer: " + Descrizione(messaggio)};
+    return domanda ? Risposta::No : Risposta::Ok;
+  }
+  const RispostaPronta pronta = risposte_.front();
+  risposte_.pop_front();
+  if (domanda == (pronta.risposta == Risposta::Ok))
+    throw ErroreCopione{pronta.riga, "an answer that the box does not offer: " + Descrizione(messaggio)};
+  return pronta.risposta;
+}
+
+void Copione::ControllaRisposte() const {
+  if (!risposte_.empty()) throw ErroreCopione{risposte_.front().riga, "an answer that nobody asked for"};
+}
+
+void Copione::ControllaResto() {
+  ControllaRisposte();
+  if (!finito_ && righe_.Prossima())
+    throw ErroreCopione{righe_.Numero(), "an event after the program has ended"};
+}
+
+void Copione::Congeda() {
+  ControllaRisposte();
+  finito_ = true;
+  if (Form* modale = FormModale(); modale != nullptr) {
+    Chiudi(*modale);
+    return;
+  }
+  if (Chiudi(principale_)) return;
+  const std::optional<Durata> attesa = AttesaProssimo();
+  if (!attesa) TerminaProgramma(0);
+  attesaFinale_ += *attesa;
+  if (attesaFinale_ > kAttesaFinaleMassima)
+    throw ErroreCopione{righe_.Numero(), "the program did not end after the script"};
+  LasciaPassare(*attesa);
+}
+
+}  // namespace tarvel::headless

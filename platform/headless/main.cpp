@@ -1,0 +1,77 @@
+// The program on the scripted desktop.
+#include <cctype>
+#include <fstream>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/tarvel1.h"
+#include "platform/headless/ambiente.h"
+#include "platform/headless/recita.h"
+
+namespace {
+
+using namespace tarvel;
+
+constexpr int kUsoErrato = 2;
+constexpr char kUso[] = "usage: tarvel1-headless [--script FILE] [--decimal CHAR] [--] ARGUMENT...\n";
+
+struct Opzioni {
+  std::optional<std::string> copione;
+  char decimale = '.';
+  Testo rigaComando;
+};
+
+// Such a character would leave numbers in the regional format unreadable.
+bool PuoStareInNumero(char c) {
+  return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '+' || c == '-' || c == '&' || c == ' ';
+}
+
+std::optional<Opzioni> LeggiArgomenti(const std::vector<std::string_view>& argomenti) {
+  Opzioni opzioni;
+  auto a = argomenti.begin();
+  for (; a != argomenti.end() && a->starts_with('-'); ++a) {
+    const std::string_view nome = *a;
+    if (nome == "--") {
+      ++a;
+      break;
+    }
+    if ((nome != "--script" && nome != "--decimal") || ++a == argomenti.end()) return std::nullopt;
+    if (nome == "--script") {
+      opzioni.copione = *a;
+    } else {
+      const Testo decimale = DaUtf8(*a);
+      if (decimale.size() != 1 || PuoStareInNumero(decimale[0])) return std::nullopt;
+      opzioni.decimale = decimale[0];
+    }
+  }
+  for (; a != argomenti.end(); ++a) {
+    if (!opzioni.rigaComando.empty()) opzioni.rigaComando += ' ';
+    opzioni.rigaComando += DaUtf8(*a);
+  }
+  return opzioni;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto opzioni = LeggiArgomenti({argv + 1, argv + argc});
+  if (!opzioni) {
+    std::cerr << kUso;
+    return kUsoErrato;
+  }
+  std::ifstream file;
+  if (opzioni->copione) {
+    file.open(*opzioni->copione, std::ios::binary);
+    file.peek();
+    if (!file.is_open() || file.bad()) {
+      std::cerr << "tarvel1-headless: cannot read the script " << *opzioni->copione << '\n';
+      return kUsoErrato;
+    }
+    file.clear();  // an empty script is one too
+  }
+  headless::ImpostaAmbiente(opzioni->rigaComando, opzioni->decimale);
+  return headless::Recita(FormPrincipale(), opzioni->copione ? file : std::cin, std::cout, std::cerr);
+}

@@ -1,0 +1,26 @@
+// The user's hand: what a person does with mouse and keyboard, with the events it causes in their
+// order. Each action is false when it could not be done: the control cannot be used now, does not
+// take it, or was taken away by a handler of the action itself.
+#pragma once
+
+#include <vector>
+
+#include "platform/controlli.h"
+
+namespace tarvel::headless {
+
+/// Its form is visible and not blocked, and it can have the focus (labels never have it).
+bool Usabile(const Controllo& controllo);
+
+bool Vai(Controllo& controllo);
+bool Clicca(Controllo& controllo);  // buttons and boxes
+bool Invio(Controllo& controllo);
+/// Selects all and types key by key; an empty text is one Backspace.
+bool Digita(Controllo& casella, const Testo& testo);
+/// Exactly these entries, from 0.
+bool Seleziona(Controllo& lista, const std::vector<int>& voci);
+bool DoppioClick(Controllo& lista, int voce);
+/// The close box.
+bool Chiudi(Form& form);
+
+}  // namespace tarvel::headless

@@ -1,0 +1,24 @@
+// The virtual clock: time passes only when somebody lets it, and timers fire by it.
+#pragma once
+
+#include <optional>
+
+namespace tarvel::headless {
+
+/// Milliseconds.
+using Durata = long long;
+
+/// Lets so much time pass. The timers that fall due meanwhile fire as soon as the program waits
+/// for its user, not inside this call.
+void LasciaPassare(Durata durata);
+
+/// Fires the timer that is due first; false when none is due.
+bool ScattaProssimo();
+
+/// How long until a timer falls due, nothing when all are stopped.
+std::optional<Durata> AttesaProssimo();
+
+/// Stops every timer.
+void FermaOrologio();
+
+}  // namespace tarvel::headless

@@ -1,0 +1,68 @@
+// The viewer is started once; later previews only ask it to read the same file again.
+#include "preview/anteprima.h"
+
+#include "app/cartelle.h"
+#include "base/errore.h"
+#include "drawing/nome_file.h"
+#include "platform/desktop.h"
+#include "platform/file.h"
+#include "platform/programmi.h"
+
+namespace tarvel {
+
+std::int32_t IdVisualizzatore = 0;
+
+namespace {
+
+constexpr char kTastiRicarica[] = "%(fg)";  // File menu, reload
+constexpr char kTastiChiudi[] = "%{F4}";
+
+void ErroreStop(const Testo& messaggio) {
+  MostraMessaggio(messaggio, "ERRORE", Icona::Stop);
+}
+
+std::int32_t AvviaVisualizzatore(const Testo& percorso, std::int16_t stile) {
+  const auto id = AvviaProgramma(percorso, stile);
+  // The path begins with the folder, which stands twice in the text: wanted so.
+  if (!id) ErroreStop("Problemi con l'apertura dell'applicazione " + DirProgra + percorso);
+  return id.value_or(0);
+}
+
+bool ScriviInput(const Testo& percorso) {
+  try {
+    auto file = FileInScrittura::Crea(percorso);
+    if (!file) return false;
+    // The viewer's own: an unused line, the drawing, then left, top, width and height of its window.
+    for (const Testo& riga : {Testo("inutilizzato"), DirLavori + NomeFileDisegno, Testo("1350"),
+                              Testo("5250"), Testo("9500"), Testo("3900")})
+      file->ScriviRiga(riga);
+    file->Chiudi();
+    return true;
+  } catch (const ErroreFatale&) {
+    return false;
+  }
+}
+
+void ScriviInputVisualizzatore() {
+  if (AttivaProgramma(IdVisualizzatore)) return;
+  const Testo percorso = DirProgra + "\\ostrel.inp";
+  if (!ScriviInput(percorso)) return ErroreStop("Problemi con la scrittura del file " + percorso);
+  IdVisualizzatore = AvviaVisualizzatore(DirProgra + "\\ostrel.exe", 1);
+}
+
+}  // namespace
+
+void Anteprima() {
+  ImpostaPuntatore(Puntatore::Clessidra);
+  if (AttivaProgramma(IdVisualizzatore))
+    InviaTasti(kTastiRicarica);
+  else
+    ScriviInputVisualizzatore();
+  ImpostaPuntatore(Puntatore::Predefinito);
+}
+
+void ChiudiVisualizzatore() {
+  if (AttivaProgramma(IdVisualizzatore)) InviaTasti(kTastiChiudi);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,19 @@
+// The section drawing in the viewer, a program of its own that is spoken to through an input file,
+// the drawing file and key strokes.
+#pragma once
+
+#include <cstdint>
+
+namespace tarvel {
+
+/// Task id of the viewer when it was last started; 0 before any start.
+extern std::int32_t IdVisualizzatore;
+
+/// Shows the current drawing file: a running viewer comes to the front and is sent the keys of its
+/// reload command, otherwise it is started; the pointer is the hourglass meanwhile.
+void Anteprima();
+
+/// Sends Alt+F4 to the viewer, if it is running.
+void ChiudiVisualizzatore();
+
+}  // namespace tarvel

@@ -1,0 +1,33 @@
+// Small functions shared by the calculation, the section file and the drawing.
+#pragma once
+
+#include "model/sezione.h"
+
+namespace tarvel {
+
+/// floor(valore · 10^decimali) / 10^decimali in double precision, with no correction: 0.29 cut to
+/// two decimals may give 0.28, and a negative value moves away from zero.
+inline Reale Tronca(Reale valore, Intero16 decimali) {
+  const Reale potenza = Potenza(Reale(10), decimali);
+  return Pavimento(valore * potenza) / potenza;
+}
+
+/// On equality the second.
+inline Reale Minimo(Reale a, Reale b) {
+  return a < b ? a : b;
+}
+inline Reale Massimo(Reale a, Reale b) {
+  return a > b ? a : b;
+}
+
+/// Shifts the first `numPoligoni` polygons so that the record's centroid becomes the origin.
+template <class Conteggi>
+void TraslaBaricentro(RecordSezione& sezione, int numPoligoni, const Conteggi& numVertici) {
+  for (int p = 1; p <= numPoligoni; ++p)
+    for (int v = 1; v <= numVertici[p]; ++v) {
+      sezione.VerticeZ(p, v) -= sezione.ZG;
+      sezione.VerticeY(p, v) -= sezione.YG;
+    }
+}
+
+}  // namespace tarvel

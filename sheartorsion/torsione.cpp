@@ -1,0 +1,97 @@
+// Thirteen segments of median line, clockwise from the top of the left web.
+#include "sheartorsion/torsione.h"
+
+#include "model/parametri.h"
+#include "properties/integrali.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int kPuntiMediana = 13;
+using LineaMediana = Tabella<"linea mediana", Punto, 1, kPuntiMediana>;
+
+Reale Lunghezza(Punto a, Punto b) {
+  return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
+}
+
+LineaMediana Mediana(const GeometriaSezione& g) {
+  const auto O = [&](int v) { return g.O(v); };
+  const auto C = [&](int v) { return g.C(v); };
+  const Reale p16 = ParametriSezione[16];
+  const Reale p19 = ParametriSezione[19];
+
+  LineaMediana M;
+  M[1] = {C(2).z, (p16 * C(2).z / 100 + C(2).y) / 2};
+  M[2] = {C(3).z, (p16 * C(3).z / 100 + C(3).y) / 2};
+  M[3] = {O(13).z, (O(13).y + C(4).y) / 2};
+  M[4] = {O(12).z, (O(12).y + C(5).y) / 2};
+  M[5] = {O(11).z, (C(6).y + O(11).y) / 2};
+  M[6] = {C(7).z, ((C(7).z - O(11).z) * p19 / 100 + C(7).y + O(11).y) / 2};
+  M[7] = {C(8).z, ((C(8).z - O(11).z) * p19 / 100 + O(11).y + C(8).y) / 2};
+  M[8] = {(C(8).z + O(7).z) / 2, (O(7).y + C(8).y) / 2};
+  M[9] = {(O(7).z - C(8).z) / 2 + C(9).z, C(9).y};
+  M[10] = {C(10).z, (O(6).y + C(10).y) / 2};
+  M[11] = {C(11).z, M[10].y};  // the ordinate of the right end, also for the left one: wanted
+  M[12] = {C(1).z - (C(2).z - O(4).z) / 2, C(1).y};
+  M[13] = {(O(4).z + C(2).z) / 2, (O(4).y + C(2).y) / 2};
+  return M;
+}
+
+// ∮ds/t around the median line.
+Reale IntegraleSpessori(const LineaMediana& M, const GeometriaSezione& g) {
+  const Reale t5 = Assoluto(ParametriSezione[5]);
+  const Reale t6 = Assoluto(ParametriSezione[6]);
+  const Reale t7 = Assoluto(ParametriSezione[7]);
+  const Reale destra = Lunghezza(g.O(7), g.C(8));
+  const Reale fondo = Assoluto(g.C(10).y - g.O(6).y);
+  const Reale sinistra = Lunghezza(g.O(4), g.C(2));
+
+  const struct {
+    int da, a;
+    Reale t1, t2;
+  } tratti[] = {
+      {1, 2, t5, t6},
+      {2, 3, t6, t7},
+      {4, 3, t7, t7},
+      {5, 4, t7, t7},
+      {6, 5, t7, t6},
+      {7, 6, t6, t5},
+      {7, 8, t5, destra},
+      {8, 9, destra, destra},
+      {9, 10, destra, fondo},
+      {10, 11, fondo, fondo},
+      {11, 12, fondo, sinistra},
+      {12, 13, sinistra, sinistra},
+      {1, 13, sinistra, t5},
+  };
+  Reale somma;
+  for (const auto& t : tratti)
+    if (!TrattoSpessoreVariabile(t.t1, t.t2, Lunghezza(M[t.da], M[t.a]), somma)) return 0;
+  return somma;
+}
+
+}  // namespace
+
+bool TrattoSpessoreVariabile(Reale t1, Reale t2, Reale s, Reale& somma) {
+  const Reale salto = Assoluto(t2 - t1);
+  const bool spesso = t1 > kTolleranza && t2 > kTolleranza;
+  if (s > kTolleranza && spesso && salto > kTolleranza) {
+    somma += s / (t2 - t1) * Logaritmo(t2 / t1);
+  } else if ((t1 < kTolleranza || t2 < kTolleranza) && s > kTolleranza) {
+    somma = 0;
+    return false;
+  } else if (s > kTolleranza && spesso && salto < kTolleranza) {
+    somma += s / t1;
+  }
+  return true;
+}
+
+void CalcolaTorsione(const GeometriaSezione& g, Reale& omega, Reale& Jt) {
+  const LineaMediana M = Mediana(g);
+  omega = AreaPoligono({M.begin(), M.end()});
+  const Reale L = IntegraleSpessori(M, g);
+  Jt = L;
+  Jt = Assoluto(L) > kTolleranza ? 4 * Potenza(omega, 2) / L : Reale(0);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,159 @@
+// Numbers and their texts, checked arithmetic.
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "base/errore.h"
+#include "base/intero.h"
+#include "base/numeri.h"
+#include "base/tabella.h"
+#include "properties/utilita.h"
+
+namespace tarvel {
+namespace {
+
+constexpr double kMax = std::numeric_limits<double>::max();
+
+TEST(Numeri, FormaInvariante) {
+  const struct {
+    double valore;
+    const char* testo;
+  } casi[] = {
+      {0, "0"},
+      {-0.0, "0"},
+      {3, "3"},
+      {-12.75, "-12.75"},
+      {0.5, ".5"},
+      {-0.25, "-.25"},
+      {1234000, "1234000"},
+      {0.1 + 0.2, ".3"},
+      {1.0 / 3, ".333333333333333"},
+      {2.0 / 3 * 1e10, "6666666666.66667"},
+      {999999999999999, "999999999999999"},
+      {1e15, "1E+15"},
+      {999999999999999.9, "1E+15"},
+      {1.5e16, "1.5E+16"},
+      {123456789012345678., "1.23456789012346E+17"},
+      {1e-4, ".0001"},
+      {0.00012345, ".00012345"},
+      {9.9999999999999999e-5, ".0001"},
+      {9.5e-5, "9.5E-05"},
+      {-1e-5, "-1E-05"},
+      {2.2572178e-7, "2.2572178E-07"},
+      {1e100, "1E+100"},
+      {kMax, "1.79769313486232E+308"},
+      {5e-324, "5E-324"},
+  };
+  for (const auto& c : casi) {
+    EXPECT_EQ(FormatoNumero(c.valore), c.testo) << c.valore;
+    if (c.valore < 1e308) EXPECT_NEAR(ConvertiNumero(c.testo).Valore(), c.valore, 1e-14 * std::fabs(c.valore));
+  }
+  Testo stampato;
+  AccodaStampato(stampato, 13);
+  AccodaStampato(stampato, -0.5, ',');
+  AccodaNumero(stampato, 0.25, ',', true);
+  EXPECT_EQ(stampato, " 13 -,5 0,25");
+}
+
+TEST(Numeri, ConversioneIndulgente) {
+  const struct {
+    const char* testo;
+    double valore;
+  } casi[] = {
+      {"", 0},          {"abc", 0},      {".5", .5},        {"0.5", .5},      {"-.25", -.25},    {"+7", 7},
+      {"1e3", 1000},    {"1D3", 1000},   {"1d-2", .01},     {"1e", 1},        {"1e+", 1},        {"12,5", 12},
+      {"12.5cm", 12.5}, {"1 2", 12},     {" \t1\n2 .5", 12.5}, {"1.2.3", 1.2}, {".", 0},          {"-", 0},
+      {"--1", 0},       {"&H10", 16},    {"&hff", 255},     {"&O17", 15},     {"&O8", 0},        {"&H", 0},
+      {"&", 0},         {"1e400", kMax}, {"-1e400", -kMax}, {"1e-400", 0},    {"0e99999", 0},    {"1e99999999999999999999", kMax},
+      {"nan", 0},       {"inf", 0},      {"0x10", 0},       {"00012", 12},    {"1.5E+16", 1.5e16}, {"5.", 5},
+  };
+  for (const auto& c : casi) EXPECT_EQ(ConvertiNumero(c.testo).Valore(), c.valore) << '"' << c.testo << '"';
+
+  EXPECT_EQ(ConvertiNumero(std::string(400, '9')).Valore(), kMax);
+  EXPECT_EQ(ConvertiNumero("-" + std::string(400, '9')).Valore(), -kMax);
+  EXPECT_EQ(ConvertiNumero("&H" + std::string(400, 'F')).Valore(), kMax);
+  EXPECT_EQ(ConvertiNumero("." + std::string(500, '0') + "1").Valore(), 0);
+  EXPECT_DOUBLE_EQ(ConvertiNumero("." + std::string(500, '0') + "1e501").Valore(), 1);
+}
+
+TEST(Numeri, ConversioneRegionale) {
+  const struct {
+    char decimale, migliaia;
+    const char* testo;
+    double valore;  // -99: no number
+  } casi[] = {
+      {',', '.', " 1,5 ", 1.5},     {',', '.', " 1.5", 1.5},     {',', '.', "1.500", 1500},   {',', '.', "1.500,25", 1500.25},
+      {',', '.', "1.50,0", -99},    {',', '.', "12.34.567", -99}, {',', '.', "1.234.567", 1234567}, {',', '.', "-1.234", -1234},
+      {',', '.', ",5", .5},         {',', '.', "1,2,3", -99},    {',', '.', "1e3", 1000},     {',', '.', "1,5E-02", .015},
+      {'.', ',', "1,500.5", 1500.5}, {'.', ',', "1,5", -99},     {'.', ',', ",5", -99},       {'.', ',', "1.5", 1.5},
+      {',', '.', "", -99},          {',', '.', "abc", -99},      {',', '.', "12cm", -99},     {',', 0, "1.500", 1.5},
+      {',', '.', "1 5", -99},       {'.', ',', "1234,567", -99}, {'.', ',', "1,5.000", -99},
+  };
+  for (const auto& c : casi) {
+    const auto letto = NumeroRegionale(c.testo, c.decimale, c.migliaia);
+    EXPECT_EQ(letto.value_or(-99).Valore(), c.valore) << c.decimale << " \"" << c.testo << '"';
+  }
+}
+
+TEST(Numeri, Taglio) {
+  EXPECT_EQ(Tronca(0.29, 2), 0.28);
+  EXPECT_EQ(Tronca(-0.005, 2), -0.01);
+  EXPECT_EQ(Tronca(0.009, 2), 0);
+  EXPECT_EQ(Tronca(-1.238, 2), -1.24);
+  EXPECT_THROW(Tronca(1e300, 14), ErroreFatale);
+}
+
+TipoErrore ErroreDi(const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const ErroreFatale& e) {
+    return e.tipo;
+  }
+  ADD_FAILURE() << "nessun errore";
+  return TipoErrore::File;
+}
+
+TEST(Numeri, OgniGuastoAritmeticoFerma) {
+  const Reale grande = 1e308, zero = 0;
+  EXPECT_EQ(ErroreDi([&] { grande + grande; }), TipoErrore::Overflow);
+  EXPECT_EQ(ErroreDi([&] { -grande - grande; }), TipoErrore::Overflow);
+  EXPECT_EQ(ErroreDi([&] { grande * 2; }), TipoErrore::Overflow);
+  EXPECT_EQ(ErroreDi([&] { grande / 1e-10; }), TipoErrore::Overflow);
+  EXPECT_EQ(ErroreDi([&] { Potenza(grande, 2); }), TipoErrore::Overflow);
+  EXPECT_EQ(ErroreDi([&] { Reale(1) / zero; }), TipoErrore::DivisionePerZero);
+  EXPECT_EQ(ErroreDi([&] { zero / zero; }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(ErroreDi([&] { Radice(Reale(-1)); }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(ErroreDi([&] { Logaritmo(zero); }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(ErroreDi([&] { Reale(std::nan("")); }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ((Reale(1e-300) * 1e-300).Valore(), 0) << "l'underflow non è un guasto";
+
+  Intero16 n = 32767;
+  EXPECT_EQ(ErroreDi([&] { ++n; }), TipoErrore::Overflow);
+  EXPECT_EQ(n, 32767);
+  EXPECT_EQ(ErroreDi([&] { InteroPari(32767.5); }), TipoErrore::Overflow);
+  EXPECT_EQ(InteroPari(2.5), 2);
+  EXPECT_EQ(InteroPari(3.5), 4);
+
+  Tabella<"prova", int, 1, 3> t;
+  EXPECT_EQ(ErroreDi([&] { t[0] = 1; }), TipoErrore::Indice);
+  try {
+    t[4] = 1;
+  } catch (const ErroreFatale& e) {
+    EXPECT_EQ(e.Messaggio(), "indice 4 fuori dai limiti (tabella prova, da 1 a 3)");
+  }
+}
+
+TEST(Testo, PaginaDiCodici) {
+  EXPECT_EQ(DaUtf8("già è €"), "gi\xE0 \xE8 \x80");
+  EXPECT_EQ(DaUtf8("日本\xFFx\xC3"), "???x?");
+  std::string tutti;
+  for (int c = 1; c < 256; ++c)
+    if (c != 0x81 && c != 0x8D && c != 0x8F && c != 0x90 && c != 0x9D) tutti += static_cast<char>(c);
+  EXPECT_EQ(DaUtf8(InUtf8(tutti)), tutti);
+  EXPECT_EQ(Minuscole(DaUtf8("CITTÀ ŠŸ×")), DaUtf8("città šÿ×"));
+  EXPECT_EQ(Maiuscole(DaUtf8("è÷ß")), DaUtf8("È÷ß"));
+  EXPECT_EQ(SenzaBlanchi("  a b\t "), "a b\t");
+}
+
+}  // namespace
+}  // namespace tarvel

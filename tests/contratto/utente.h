@@ -1,0 +1,84 @@
+// The user of the contract suite: what a person can do at the desktop and can see on it. Each
+// platform's test executable plays this user by its own means; the suite is the same for all.
+//
+// A case builds its forms inside `Prova` and lets `Utente::Esegui` run the program. Everything is
+// checked afterwards on the diary that `Prova` returns: a platform may run the program in a
+// process of its own and leave it when the program ends.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/desktop.h"
+
+namespace tarvel::contratto {
+
+/// What the user does at one moment. A call that opens a modal form comes back only after that
+/// form has gone, so it stands last in its step; the next step is then played inside the form.
+using Passo = std::function<void()>;
+
+class Utente {
+ public:
+  Utente() = default;
+  Utente(const Utente&) = delete;
+  Utente& operator=(const Utente&) = delete;
+  virtual ~Utente() = default;
+
+  /// Starts the program as the platform's own entry does (loads `principale` and shows it), then
+  /// plays the steps in order, each as soon as the program waits for its user: in the main loop or
+  /// in the loop of a modal form, never while a message box is open. When all are played and the
+  /// program waits again, TerminaProgramma(0). It may never return.
+  virtual void Esegui(Form& principale, std::vector<Passo> passi) = 0;
+
+  /// Adds a line to the diary, which keeps it whatever happens next.
+  virtual void Annota(const std::string& riga) = 0;
+
+  // --- Inside a step. An action on something that cannot be used now has no effect.
+
+  /// Goes to the control with Tab or, where nothing else comes of it, a click: only the focus moves.
+  virtual void Vai(Controllo& controllo) = 0;
+  /// Buttons and boxes: a mouse click.
+  virtual void Clicca(Controllo& controllo) = 0;
+  /// Goes to the box, selects all and types the text key by key; "" is one Backspace.
+  virtual void Scrivi(Controllo& casella, const Testo& testo) = 0;
+  /// Goes to the control (without clicking a button) and presses Enter.
+  virtual void Invio(Controllo& controllo) = 0;
+  /// Makes exactly these entries (from 0) the selected ones: click, then Ctrl+click.
+  virtual void Seleziona(Controllo& lista, const std::vector<int>& voci) = 0;
+  virtual void DoppioClick(Controllo& lista, int voce) = 0;
+  /// The close box in the window's title bar.
+  virtual void Chiudi(Form& form) = 0;
+
+  /// The answer to the next message box that has none yet, given after it was open for `attesa`
+  /// milliseconds. A box without an answer is dismissed by its close box or Esc. May also be called
+  /// before Esegui. The platform notes each box in the diary once it is answered: RigaMessaggio.
+  virtual void Rispondi(Risposta risposta, int attesa = 0) = 0;
+
+  /// Lets time pass, the program waiting for its user, until the diary holds this line; gives up
+  /// after some seconds, so that the case fails on what the diary lacks. It may do so only after
+  /// the step has returned: it stands last in its step.
+  virtual void AspettaRiga(const std::string& riga) = 0;
+
+  // --- What is on the screen, anywhere during Esegui.
+
+  virtual bool Vede(const Form& form) = 0;
+  /// Text of a box, caption of a button or label; the entries of a list joined by '|', each
+  /// selected one with a '*' before it ("A|*B|C").
+  virtual Testo Legge(const Controllo& controllo) = 0;
+};
+
+struct Esito {
+  int stato = -1;  // the program's exit status
+  std::vector<std::string> diario;
+};
+
+/// Defined by each platform's test executable: calls `caso` with a user and an empty desktop.
+Esito Prova(const std::function<void(Utente&)>& caso);
+
+/// The diary's line of a message box: messaggio stop ok "TITLE" "TEXT" -> ok; icons nessuna, stop,
+/// esclamazione, informazione; buttons ok, sino; answers ok, si, no.
+std::string RigaMessaggio(Icona icona, Bottoni bottoni, const Testo& titolo, const Testo& testo,
+                          Risposta risposta);
+
+}  // namespace tarvel::contratto

@@ -1,0 +1,247 @@
+// The section file: round trip, columns, refusals. A file is spoiled line by line and field by
+// field; each time the answer is one fatal error with file and line, or a reading that is allowed.
+#include "model/file_sezioni.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "aiuti.h"
+#include "base/errore.h"
+#include "base/numeri.h"
+#include "properties/caratteristiche.h"
+
+namespace tarvel {
+namespace {
+
+using prove::Contenuto;
+using prove::Scrivi;
+
+class ProvaFile : public testing::Test {
+ protected:
+  ProvaFile() {
+    FileSezioni = percorso.string();
+    prove::Prepara(prove::Esempio());
+  }
+
+  static void AggiungiCalcolata(const VettoreParametri& p, const Testo& nome) {
+    ParametriSezione = p;
+    RecordSezione& r = TabellaSezioni[++NumeroSezioni];
+    r = {};
+    CostruisciGeometria(r, p);
+    r.Nome = nome;
+    CalcolaCaratteristiche(r);
+  }
+
+  // What reading the text ends with: "" or the fatal error's message.
+  Testo Leggi(const std::string& testo) {
+    Scrivi(percorso, testo);
+    NumeroSezioni = 0;
+    try {
+      LeggiFileSezioni(false);
+      return "";
+    } catch (const ErroreFatale& e) {
+      return e.Messaggio();
+    }
+  }
+
+  prove::Cartella cartella;
+  std::filesystem::path percorso = cartella / "sezio_ut";
+};
+
+std::vector<std::string> Righe(const std::string& testo) {
+  std::vector<std::string> righe;
+  std::istringstream in(testo);
+  for (std::string riga; std::getline(in, riga);) righe.push_back(riga + "\n");
+  return righe;
+}
+
+std::string Unite(const std::vector<std::string>& righe) {
+  std::string testo;
+  for (const auto& r : righe) testo += r;
+  return testo;
+}
+
+TEST_F(ProvaFile, RiletturaERiscritturaIdentiche) {
+  std::mt19937 caso(3);
+  for (int n = 1; n <= 40; ++n) AggiungiCalcolata(prove::Casuale(caso, n % 3 == 0), ProponiNome(n));
+  TabellaSezioni[7].NumPunti = 0;
+  TabellaSezioni[8].Sigla = "";
+  TabellaSezioni[9].ValoreAggiuntivo = 12.5;
+  ScriviFileSezioni();
+  const std::string primo = Contenuto(percorso);
+  ASSERT_EQ(Leggi(primo), "");
+  EXPECT_EQ(NumeroSezioni, 40);
+  EXPECT_EQ(NumeroSezioniFile, 40);
+  EXPECT_EQ(TabellaSezioni[9].ValoreAggiuntivo, 12.5);
+  EXPECT_EQ(TabellaSezioni[3].EtichettaPunto[1].Rifilato(), "NODO 1 TAG2_0");
+  const auto inMemoria = TabellaSezioni[5].VerticeZ(1, 3);
+  ScriviFileSezioni();
+  // A cut number is a binary fraction that may lie just below its two decimals: each value may lose
+  // one more unit of the last place, once; nothing else may change.
+  const auto a = Righe(primo), b = Righe(Contenuto(percorso));
+  ASSERT_EQ(a.size(), b.size());
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    std::istringstream x(a[i]), y(b[i]);
+    for (std::string u, v; x >> u && y >> v;) {
+      const bool numero = NumeroInvariante(u).has_value();
+      if (numero)
+        EXPECT_NEAR(ConvertiNumero(v).Valore(), ConvertiNumero(u).Valore(), 0.0101) << "riga " << i + 1;
+      else
+        EXPECT_EQ(u, v) << "riga " << i + 1;
+    }
+  }
+  EXPECT_NE(inMemoria, 0);
+  ASSERT_EQ(Leggi(Contenuto(percorso)), "");
+}
+
+TEST_F(ProvaFile, ColonneEFormati) {
+  RecordSezione& r = TabellaSezioni[1];
+  r = {};
+  NumeroSezioni = 1;
+  r.Nome = "X";
+  r.BaseTotale = 12.3456;
+  r.AltezzaTotale = -0.005;
+  r.ZG = 1e14;                    // 15 characters
+  r.YG = .5;
+  r.An = 123456789012345e3;       // 1.23456789012345E+17: 20 characters, reaches the stop exactly
+  r.Aty = -123456789012345e3;     // one more: the next stop goes to a new line
+  r.Atz = 1;
+  r.NumPunti = 1;
+  r.PuntoZ[1] = -1;
+  r.EtichettaPunto[1] = "  con  blanchi  ";
+  r.TauT[1] = -2.2572178123e-7;
+  r.IndicatoreTauT[1] = 2;
+  r.Sigla = " A ";
+  ScriviFileSezioni();
+  EXPECT_EQ(Contenuto(percorso),
+            "1\r\nX\r\n"
+            "12.34               -.01                100000000000000     .5\r\n"
+            "0\r\n"
+            "1.23456789012345E+17-1.23456789012345E+17\r\n"
+            "                                        1\r\n"
+            "0                   0                   0                   0\r\n"
+            "1\r\n"
+            "-1                  0                   con  blanchi\r\n"
+            "2.2572178E-07       2\r\n"
+            "0                   0\r\n"
+            "0                   0\r\n"
+            "A\r\n"
+            "0\r\n");
+}
+
+TEST_F(ProvaFile, TagliatoAOgniRiga) {
+  AggiungiCalcolata(prove::Esempio(), "U_PO_001");
+  AggiungiCalcolata(prove::Esempio(), "U_PO_002");
+  ScriviFileSezioni();
+  const auto righe = Righe(Contenuto(percorso));
+  for (std::size_t n = 0; n < righe.size(); ++n) {
+    const Testo errore = Leggi(Unite({righe.begin(), righe.begin() + static_cast<long>(n)}));
+    EXPECT_EQ(errore, "fine del file inattesa (" + FileSezioni + ", riga " + std::to_string(n + 1) + ")");
+  }
+  EXPECT_EQ(Leggi(Unite(righe)), "");
+}
+
+TEST_F(ProvaFile, OgniRigaRovinata) {
+  AggiungiCalcolata(prove::Esempio(), "U_PO_001");
+  ScriviFileSezioni();
+  const auto righe = Righe(Contenuto(percorso));
+  // Lines that are read leniently take a word for 0: the name, extents, vertices, Jt..., Sigla.
+  const auto indulgente = [&](std::size_t i) {
+    const std::size_t dopoPoligoni = 5 + 13 + 1 + 11;
+    return i == 1 || i == 2 || (i >= 5 && i < dopoPoligoni && i != 18) || i == dopoPoligoni + 1 || i == righe.size() - 2;
+  };
+  for (std::size_t i = 0; i < righe.size(); ++i)
+    for (const char* guasto : {"parola", "", "12x", "&H10"}) {
+      auto spoiled = righe;
+      spoiled[i] = std::string(guasto) + "\r\n";
+      const Testo errore = Leggi(Unite(spoiled));
+      if (indulgente(i))
+        EXPECT_EQ(errore, "") << "riga " << i + 1 << ' ' << guasto;
+      else
+        EXPECT_NE(errore.find(FileSezioni + ", riga " + std::to_string(i + 1)), Testo::npos)
+            << "riga " << i + 1 << " \"" << guasto << "\": " << errore;
+    }
+}
+
+TEST_F(ProvaFile, ConteggiFuoriMisura) {
+  const std::string testa = "X\r\n1 1 1 1\r\n", punto = "1 1 a\r\n0 1\r\n0 1\r\n0 1\r\n";
+  const struct {
+    std::string testo;
+    int riga;
+  } casi[] = {
+      {"-1\r\n", 1},  {"501\r\n", 1}, {"32768\r\n", 1}, {"1.5\r\n", 1}, {"1E9\r\n", 1},
+      {"1\r\n" + testa + "6\r\n", 4}, {"1\r\n" + testa + "-1\r\n", 4}, {"1\r\n" + testa + "1\r\n 51 \r\n", 5},
+      {"1\r\n" + testa + "0\r\n1 1 1\r\n1 1 1\r\n51\r\n", 7},
+      {"1\r\n" + testa + "0\r\n1 1 1\r\n1 1 1\r\n1\r\n1,5 1 a\r\n", 8},  // a point's coordinate, strict
+      {"1\r\n" + testa + "0\r\n1 1\r\n1 1 1\r\n0\r\nA\r\n0\r\n", 6},
+  };
+  for (const auto& c : casi) {
+    const Testo errore = Leggi(c.testo);
+    EXPECT_NE(errore.find(", riga " + std::to_string(c.riga) + ")"), Testo::npos) << c.testo << errore;
+  }
+  EXPECT_EQ(Leggi("0\r\n"), "");
+  EXPECT_EQ(NumeroSezioni, 0);
+}
+
+TEST_F(ProvaFile, LettureParticolari) {
+  // LF alone, quotes, two values for four, three for four, a label longer than 20, blanks inside.
+  ASSERT_EQ(Leggi("1\n  \"A,B\" \n240 180\n1\n 1 \n1 2 x\n1 2 3\n4 5 6\n1\n"
+                  "1.5   -2   etichetta molto molto lunga \n.1 1\n.2 -2\n.3 3\n A\n0"),
+            "");
+  const RecordSezione& r = TabellaSezioni[1];
+  EXPECT_EQ(r.Nome, "A,B");
+  EXPECT_EQ(r.AltezzaTotale, 180);
+  EXPECT_EQ(r.ZG, 0);
+  EXPECT_EQ(r.YG, 0);
+  EXPECT_EQ(r.ValoreAggiuntivo, 0);
+  EXPECT_EQ(r.EtichettaPunto[1].Intero(), "etichetta molto molt");
+  EXPECT_EQ(r.IndicatoreTauVy[1], -2);
+  // A comma ends a name; the rest of its line is passed over, the section is whole.
+  ASSERT_EQ(Leggi("1\r\nA,B\r\n1 2 3 4\r\n0\r\n1 1 1\r\n7 8 9 1 0\r\n0\r\nA\r\n0\r\n"), "");
+  EXPECT_EQ(r.Nome, "A");
+  EXPECT_EQ(r.YG, 4);
+  EXPECT_EQ(r.ValoreAggiuntivo, 10);
+  EXPECT_EQ(r.Jzg, 9);
+
+  const std::string lunga(5'000'000, ' ');
+  EXPECT_EQ(Leggi("1\r\nA\r\n1 2" + lunga + "3 4\r\n0\r\n1 1 1\r\n7 8 9\r\n0\r\nA\r\n0\r\n"), "");
+  EXPECT_EQ(r.ZG, 3);
+}
+
+TEST_F(ProvaFile, GuastiDelFile) {
+  AggiungiCalcolata(prove::Esempio(), "U_PO_001");
+  FileSezioni = "/dev/full";
+  try {
+    ScriviFileSezioni();
+    FAIL() << "un disco pieno passa inosservato";
+  } catch (const ErroreFatale& e) {
+    EXPECT_EQ(e.tipo, TipoErrore::File);
+    EXPECT_NE(e.dove.find("/dev/full"), Testo::npos);
+  }
+  FileSezioni = (cartella / "manca" / "sezio_ut").string();
+  testing::internal::CaptureStdout();
+  ScriviFileSezioni();
+  LeggiFileSezioni(true);
+  LeggiFileSezioni(false);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "message stop \"ERRORE\" \"Problemi nella scrittura del file " + FileSezioni + "\" -> ok\n" +
+                "message stop \"ERRORE\" \"File " + FileSezioni + " non trovato\" -> ok\n");
+  EXPECT_EQ(NumeroSezioni, 1);
+}
+
+TEST(NomiSezioni, PropostiENormalizzati) {
+  PrefissoNome = "U_PO_";
+  for (const auto& [n, nome] : {std::pair{1, "U_PO_001"}, {42, "U_PO_042"}, {1000, "U_PO_000"}, {1234, "U_PO_234"}})
+    EXPECT_EQ(ProponiNome(n), nome);
+  const struct {
+    const char *nome, *voluto, *altro, *atteso;
+  } casi[] = {
+      {"U_PO_001", "G_", "U_", "G_PO_001"}, {"u_po_001", "G_", "U_", "G_po_001"}, {"g_x", "G_", "U_", "g_x"},
+      {"  altro ", "G_", "U_", "G_altro"},  {"", "U_", "G_", "U_"},              {"U", "G_", "U_", "G_U"},
+  };
+  for (const auto& c : casi) EXPECT_EQ(NormalizzaNome(c.nome, c.voluto, c.altro), c.atteso) << c.nome;
+}
+
+}  // namespace
+}  // namespace tarvel

@@ -1,0 +1,185 @@
+// Torsion against Bredt's closed form; axis crossings, labels and degenerate widths of the points.
+#include <gtest/gtest.h>
+
+#include "aiuti.h"
+#include "base/errore.h"
+#include "properties/caratteristiche.h"
+#include "sheartorsion/asse.h"
+#include "sheartorsion/tagli.h"
+#include "sheartorsion/tau_punti.h"
+#include "sheartorsion/torsione.h"
+
+namespace tarvel {
+namespace {
+
+using prove::Costruita;
+using prove::Esempio;
+
+// A rectangular box of even thin walls, b × h on the median line: Jt = 4 (b h)² t / (2 (b + h)).
+// The median line rounds the corners off, by about t on sides of 100: 1% of the result.
+TEST(Torsione, CassoneSottile) {
+  const double t = 0.2, b = 100, h = 80;
+  const double web = (1000 - b) / 2;  // the cantilevers carry no torsion
+  const VettoreParametri p = prove::Vettore({h + t, t, t, t, t, t, t, t, 0, web - t / 2 - 1, 1, 0, b / 2 - t / 2 - 20, 20, 0, 1000, 0, 0, 0, 0, 0});
+  const RecordSezione r = Costruita(p);
+  Reale omega, Jt;
+  CalcolaTorsione(r, omega, Jt);
+  EXPECT_NEAR(omega.Valore(), b * h, 0.01 * b * h);
+  EXPECT_NEAR(Jt.Valore(), 4 * b * b * h * h * t / (2 * (b + h)), 0.01 * Jt.Valore());
+}
+
+TEST(Torsione, TrattoASpessoreVariabile) {
+  const struct {
+    double t1, t2, s, somma;
+    bool esito;
+  } casi[] = {
+      {2, 2, 10, 1 + 5, true},
+      {1, 2, 10, 1 + 10 * std::log(2.0), true},
+      {2, 1, 10, 1 + 10 * std::log(2.0), true},
+      {2, 2.00005, 10, 1 + 5, true},                        // even, within the tolerance
+      {2, 2.00011, 10, 1 + 10 / 0.00011 * std::log1p(0.000055), true},
+      {0, 2, 10, 0, false},
+      {2, 0.00009, 10, 0, false},
+      {2, 2, 0.0001, 1, true},  // no length: adds nothing
+      {0, 0, 0, 1, true},
+      {0.0001, 2, 10, 1, true},  // exactly the tolerance: adds nothing
+  };
+  for (const auto& c : casi) {
+    Reale somma = 1;
+    EXPECT_EQ(TrattoSpessoreVariabile(c.t1, c.t2, c.s, somma), c.esito) << c.t1 << ' ' << c.t2 << ' ' << c.s;
+    EXPECT_NEAR(somma.Valore(), c.somma, 1e-6) << c.t1 << ' ' << c.t2 << ' ' << c.s;
+  }
+}
+
+TEST(Torsione, PareteSenzaSpessore) {
+  for (const int parametro : {5, 6, 7}) {
+    VettoreParametri p = Esempio();
+    p[parametro] = 0;
+    RecordSezione r = Costruita(p);
+    Reale omega, Jt;
+    CalcolaTorsione(r, omega, Jt);
+    EXPECT_EQ(Jt, 0) << 'p' << parametro;
+    EXPECT_GT(omega, 0);
+  }
+}
+
+TEST(Asse, LatiAttraversati) {
+  const RecordSezione esempio = Costruita(Esempio());
+  const struct {
+    double YG;
+    bool trovato;
+    int esterno, interno;
+  } casi[] = {
+      {-61.2612, true, 4, 1},  // both webs
+      {-41.5, true, 4, 1},     // exactly a vertex of the cell: the first edge wins
+      {-37.5, true, 3, 2},     // exactly O4: the edge that ends there wins
+      {-25, true, 2, 2},       // cantilever and upper fillet
+      {-15, true, 1, 3},
+      {-150, true, 4, 11},  // lower fillet: the closing edge of the cell
+      {-170, false, 4, 0},  // bottom slab
+      {10, false, 0, 0},
+      {-190, false, 0, 0},
+  };
+  for (const auto& c : casi) {
+    RecordSezione r = esempio;
+    r.YG = c.YG;
+    r.PuntoY[14] = 1;
+    const AsseBaricentrico asse = CercaAsseBaricentrico(r);
+    ASSERT_EQ(asse.Trovato, c.trovato) << c.YG;
+    EXPECT_EQ(r.PuntoY[14], c.trovato ? c.YG : 1);
+    if (!c.trovato) continue;
+    EXPECT_EQ(asse.LatoEsterno, c.esterno) << c.YG;
+    EXPECT_EQ(asse.LatoInterno, c.interno) << c.YG;
+    EXPECT_GT(r.PuntoZ[15], r.PuntoZ[14]) << c.YG;
+  }
+}
+
+// An abscissa is compared with an ordinate on horizontal edges.
+TEST(Asse, LatoOrizzontale) {
+  RecordSezione r = Costruita(Esempio());
+  for (const auto& [y3, y4, z] : {std::tuple{-30.0, -30.0, 300.0}, {400.0, 400.0, 250.0}}) {
+    r.ImpostaVertice(1, 1, {0, 500});
+    r.ImpostaVertice(1, 2, {0, y3 + 10});
+    r.ImpostaVertice(1, 3, {250, y3});
+    r.ImpostaVertice(1, 4, {300, y4});
+    r.YG = y3;
+    r.ImpostaVertice(1, 2, {0, y3 - 10});  // only the horizontal edge holds YG
+    r.ImpostaVertice(1, 1, {0, y3 - 20});
+    r.ImpostaVertice(2, 1, {350, y3 - 5});
+    r.ImpostaVertice(2, 2, {340, y3 + 5});
+    ASSERT_TRUE(CercaAsseBaricentrico(r).Trovato);
+    EXPECT_EQ(r.PuntoZ[14], z) << y3;
+  }
+}
+
+TEST(Tagli, SegnoEdegeneri) {
+  const std::vector<Punto> orario = {{0, 0}, {0, 2}, {3, 2}, {3, 0}};
+  const std::vector<Punto> antiorario(orario.rbegin(), orario.rend());
+  const auto m = MomentiStaticiPoligono(orario, 1);
+  EXPECT_NEAR(m.MomStaticoParteZ.Valore(), 6, 1e-12);
+  EXPECT_NEAR(m.MomStaticoParteY.Valore(), 9, 1e-12);
+  EXPECT_EQ(MomentiStaticiPoligono(orario, -1).MomStaticoParteY, -m.MomStaticoParteY);
+  EXPECT_NEAR(MomentiStaticiPoligono(antiorario, 1).MomStaticoParteZ.Valore(), -6, 1e-12);
+  const std::vector<Punto> verticale = {{1, 0}, {1.00005, 7}, {1.00003, 3}};
+  EXPECT_EQ(MomentiStaticiPoligono(verticale, 1).MomStaticoParteZ, 0);
+}
+
+TEST(Tagli, TroppiPuntiAlPunto14) {
+  const RecordSezione r = Costruita(Esempio());
+  EXPECT_NO_THROW(TaglioAsse(r, {true, 1, 4}));
+  EXPECT_NO_THROW(TaglioAsse(r, {true, 2, 5}));
+  EXPECT_THROW(TaglioAsse(r, {true, 1, 5}), ErroreFatale);
+}
+
+TEST(Punti, EtichetteDellEsempio) {
+  RecordSezione r = Costruita(Esempio());
+  CalcolaCaratteristiche(r);
+  const char* attese[] = {"NODO 1 TAG2_0",     "NODO 2 TAG0_25",    "NODO 3 TAG2_25", "NODO 4 TAG0_25",
+                          "NODO 5 TAG2_0",     "NODO 6 TAG2_53.7",  "NODO 7 TAG2_53.7", "NODO 8 TAG0_41.6",
+                          "NODO 9 TAG0_41.6",  "NODO 10 TAG2_25",   "NODO 11 TAG2_30", "NODO 12 TAG2_25",
+                          "NODO 13 TAG1_35",   "NODO 14 TAG1_40"};
+  // Widths are cut to one decimal: a width of 30 may stand as 29.9.
+  for (int k = 1; k <= 14; ++k) {
+    const Testo scritta(r.EtichettaPunto[k].Rifilato()), attesa = attese[k - 1];
+    const auto numero = attesa.find('_') + 1;
+    EXPECT_EQ(scritta.substr(0, numero), attesa.substr(0, numero));
+    EXPECT_NEAR(std::stod(scritta.substr(numero)), std::stod(attesa.substr(numero)), 0.1001) << scritta;
+  }
+}
+
+TEST(Punti, LarghezzeNulleSegnate) {
+  VettoreParametri p = Esempio();
+  p[7] = 0;  // no top slab under the crown zone: points 2, 3 and 4 have no width
+  RecordSezione r = Costruita(p);
+  CalcolaCaratteristiche(r);
+  EXPECT_EQ(r.TauVy[2], kSenzaLarghezza);
+  EXPECT_EQ(r.TauVy[4], -kSenzaLarghezza);
+  EXPECT_EQ(r.TauVy[11], kSenzaLarghezza) << "usa la larghezza del punto 2";
+  EXPECT_EQ(r.TauVz[3], kSenzaLarghezza) << "positivo anche dove la formula ha il segno meno";
+  EXPECT_EQ(r.TauT[4], kSenzaLarghezza);
+
+  p = Esempio();
+  p[1] = 0;
+  r = Costruita(p);
+  CalcolaCaratteristiche(r);
+  EXPECT_EQ(r.TauVy[10], kSenzaLarghezza);
+  EXPECT_EQ(r.TauT[10], kSenzaLarghezza);
+  EXPECT_EQ(r.TauT[6], -Assoluto(r.TauT[9])) << "il minore dei due, negativo";
+}
+
+TEST(Punti, SenzaAsseTredici) {
+  VettoreParametri p = Esempio();
+  p[1] = 150;  // so thick a bottom slab that the centroid lies in it
+  p[5] = 30;
+  p[8] = 5;
+  RecordSezione r = Costruita(p);
+  r.TauVy[14] = 77;
+  r.TauVz[14] = 77;
+  CalcolaCaratteristiche(r);
+  EXPECT_EQ(r.NumPunti, 13);
+  EXPECT_EQ(r.TauVy[14], 77);
+  EXPECT_EQ(r.TauVz[14], 0);
+}
+
+}  // namespace
+}  // namespace tarvel
