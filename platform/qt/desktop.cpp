@@ -6,6 +6,7 @@
 #include <QWindow>
 #include <algorithm>
 #include <list>
+#include <utility>
 
 #include "platform/qt/finestra.h"
 #include "platform/qt/fuoco.h"
@@ -67,7 +68,7 @@ void Mostra(Caricata& caricata, bool modale) {
 void Togli(Finestra& finestra) {
   RendeFuoco(finestra);
   finestra.hide();
-  if (finestra.ciclo != nullptr) finestra.ciclo->quit();
+  if (QEventLoop* ciclo = std::exchange(finestra.ciclo, nullptr)) ciclo->quit();
   if (FinestraAttiva() != nullptr) FinestraAttiva()->activateWindow();
 }
 
@@ -88,14 +89,14 @@ void MostraFormModale(Form& form) {
   CaricaForm(form);
   Caricata* const caricata = Cerca(form);
   if (caricata == nullptr) return;
-  const AttesaModale attesa;
   const LivelloInPiu livello;
-  QEventLoop ciclo;
   Mostra(*caricata, true);
   Finestra& finestra = *caricata->finestra;
+  QEventLoop ciclo;
   finestra.ciclo = &ciclo;
-  ciclo.exec();
-  finestra.ciclo = nullptr;
+  const AttesaModale attesa;
+  // The control left hears of it first, and its handler may have unloaded the form.
+  if (finestra.ciclo == &ciclo) ciclo.exec();
 }
 
 void NascondiForm(Form& form) {
@@ -133,9 +134,9 @@ void ImpostaVoci(Controllo& lista, std::vector<Testo> voci) {
   if (QWidget* widget = WidgetDi(lista)) AggiornaWidget(widget, lista);
 }
 
-void ImpostaPuntatore(Form& form, Puntatore puntatore) {
-  if (const Caricata* caricata = Cerca(form); caricata != nullptr && caricata->finestra != nullptr)
-    caricata->finestra->MostraPuntatore(puntatore == Puntatore::Clessidra ? Qt::WaitCursor : Qt::ArrowCursor);
+void ImpostaPuntatore(Puntatore puntatore) {
+  while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
+  if (puntatore == Puntatore::Clessidra) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 }  // namespace tarvel

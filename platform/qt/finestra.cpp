@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <algorithm>
 #include <cmath>
 
@@ -34,9 +35,12 @@ class Vedetta : public QObject {
     const auto tipo = evento->type();
     if (tipo != QEvent::FocusIn && tipo != QEvent::KeyPress && tipo != QEvent::MouseButtonPress) return false;
     RaggiungeControllo(finestra_, controllo_);
-    // A press whose release was taken by a message that the control just left has shown.
-    return tipo == QEvent::MouseButtonPress &&
-           !QGuiApplication::mouseButtons().testFlag(static_cast<QMouseEvent*>(evento)->button());
+    if (tipo != QEvent::MouseButtonPress ||
+        QGuiApplication::mouseButtons().testFlag(static_cast<QMouseEvent*>(evento)->button()))
+      return false;
+    // The control left has shown a message, which has taken the release: the click is done.
+    if (auto* bottone = qobject_cast<QPushButton*>(parent())) bottone->click();
+    return true;
   }
 
  private:
@@ -92,13 +96,6 @@ void Finestra::VaiAlPrimo() {
       if (controllo->tipo == TipoControllo::Casella) static_cast<QLineEdit*>(widget)->selectAll();
       return;
     }
-}
-
-void Finestra::MostraPuntatore(Qt::CursorShape forma) {
-  setCursor(forma);
-  for (const auto& [controllo, widget] : widget_)
-    if (controllo->tipo == TipoControllo::Casella)
-      widget->setCursor(forma == Qt::ArrowCursor ? Qt::IBeamCursor : forma);
 }
 
 void Finestra::Stacca() {

@@ -19,7 +19,6 @@ class Finestra : public QWidget {
   Controllo* ColFuoco() const;
   /// The keyboard goes to the first control that can have it.
   void VaiAlPrimo();
-  void MostraPuntatore(Qt::CursorShape forma);
   /// The form is gone: nothing of it is referred to any more.
   void Stacca();
 

@@ -15,6 +15,11 @@ int livelloModale = 0;
 Controllo* colFuoco = nullptr;
 std::vector<Finestra*> ordine;  // the windows on the screen, the last used one at the end
 
+bool SulloSchermo(const Controllo* controllo) {
+  return std::any_of(ordine.begin(), ordine.end(),
+                     [&](const Finestra* f) { return f->WidgetDi(*controllo) != nullptr; });
+}
+
 }  // namespace
 
 void RaggiungeControllo(Finestra& finestra, Controllo& controllo) {
@@ -23,7 +28,10 @@ void RaggiungeControllo(Finestra& finestra, Controllo& controllo) {
   std::erase(ordine, &finestra);
   ordine.push_back(&finestra);
   if (colFuoco == &controllo) return;
-  if (const Controllo* lasciato = std::exchange(colFuoco, &controllo)) EseguiGestore(lasciato->fuocoPerso);
+  if (const Controllo* lasciato = std::exchange(colFuoco, &controllo))
+    QuandoLibero([lasciato] {
+      if (SulloSchermo(lasciato)) EseguiGestore(lasciato->fuocoPerso);
+    });
 }
 
 void LasciaControllo(const Finestra& finestra) {
@@ -35,10 +43,6 @@ void RendeFuoco(const Finestra& finestra) {
   const bool aveva = FinestraAttiva() == &finestra;
   std::erase(ordine, &finestra);
   if (!aveva) return;
-  // A modal form gives it back to what lay below, not to another form shown in the meantime.
-  if (finestra.ciclo != nullptr)
-    std::stable_partition(ordine.begin(), ordine.end(),
-                          [&](const Finestra* f) { return f->livello >= finestra.livello; });
   colFuoco = ordine.empty() ? nullptr : ordine.back()->ColFuoco();
 }
 

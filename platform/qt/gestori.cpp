@@ -1,10 +1,8 @@
 // Running the forms' handlers from the toolkit's events.
 #include "platform/qt/gestori.h"
 
-#include <QApplication>
-#include <QTimer>
+#include <deque>
 #include <utility>
-#include <vector>
 
 #include "platform/comune/smista.h"
 
@@ -13,18 +11,18 @@ namespace {
 
 int inCorso = 0;  // handlers of the current loop
 int totali = 0;   // and of the loops outside it, with the modal showings between them
-std::vector<std::function<void()>> rimandati;
-std::vector<std::function<void()>> finali;
+std::deque<std::function<void()>> rimandati;
+std::deque<std::function<void()>> finali;
 
-void RiprendiRimandati() {
-  if (Occupato()) return;
-  for (auto& lavoro : std::exchange(rimandati, {})) AppenaLibero(std::move(lavoro));
+void EseguiPrimo(std::deque<std::function<void()>>& lavori) {
+  const std::function<void()> lavoro = std::move(lavori.front());
+  lavori.pop_front();
+  lavoro();
 }
 
-void Ripulisci() {
-  RiprendiRimandati();
-  if (totali == 0)
-    for (auto& lavoro : std::exchange(finali, {})) lavoro();
+void Riprendi() {
+  while (!Occupato() && !rimandati.empty()) EseguiPrimo(rimandati);
+  while (totali == 0 && !finali.empty()) EseguiPrimo(finali);
 }
 
 }  // namespace
@@ -34,43 +32,32 @@ void EseguiGestore(const std::function<void()>& gestore) {
   ++inCorso, ++totali;
   Smista(gestore);
   --inCorso, --totali;
-  Ripulisci();
+  Riprendi();
 }
 
 bool Occupato() {
   return inCorso > 0;
 }
 
-void AppenaLibero(std::function<void()> lavoro) {
-  if (Occupato()) {
-    rimandati.push_back(std::move(lavoro));
-    return;
-  }
-  QTimer::singleShot(0, qApp, [lavoro = std::move(lavoro)]() mutable {
-    // A handler that waits in a message box may have begun in the meantime.
-    if (Occupato())
-      rimandati.push_back(std::move(lavoro));
-    else
-      lavoro();
-  });
+void QuandoLibero(std::function<void()> lavoro) {
+  rimandati.push_back(std::move(lavoro));
+  Riprendi();
 }
 
 void FinitiTutti(std::function<void()> lavoro) {
-  if (totali == 0)
-    lavoro();
-  else
-    finali.push_back(std::move(lavoro));
+  finali.push_back(std::move(lavoro));
+  Riprendi();
 }
 
 AttesaModale::AttesaModale() : salvato_(std::exchange(inCorso, 0)) {
   ++totali;
-  RiprendiRimandati();
+  Riprendi();
 }
 
 AttesaModale::~AttesaModale() {
   inCorso = salvato_;
   --totali;
-  Ripulisci();
+  Riprendi();
 }
 
 }  // namespace tarvel

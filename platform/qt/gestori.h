@@ -12,12 +12,12 @@ void EseguiGestore(const std::function<void()>& gestore);
 /// A handler runs that is not waiting in a modal form.
 bool Occupato();
 
-/// Runs this from the event loop, soon, but not while Occupato().
-void AppenaLibero(std::function<void()> lavoro);
+/// Runs this now or, while Occupato(), when that is over, before any other event.
+void QuandoLibero(std::function<void()> lavoro);
 /// Runs this as soon as no handler and no modal showing is on the stack, waiting ones included.
 void FinitiTutti(std::function<void()> lavoro);
 
-/// A modal form is shown: while this lives its caller waits and other handlers may run.
+/// A modal form waits for its user: while this lives its caller waits and other handlers may run.
 class AttesaModale {
  public:
   AttesaModale();

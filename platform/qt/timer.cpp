@@ -12,8 +12,17 @@ namespace {
 // A timer of the program lives as long as the program.
 std::map<Temporizzatore*, std::unique_ptr<QTimer>> orologi;
 
-void Scatta(Temporizzatore& timer) {
-  if (timer.attivo) EseguiGestore(timer.scatto);
+void Scaduto(Temporizzatore& timer, QTimer& orologio) {
+  if (!Occupato()) {
+    orologio.start(timer.intervallo);
+    return EseguiGestore(timer.scatto);
+  }
+  // One firing waits, however long the handler takes.
+  orologio.stop();
+  QuandoLibero([&] {
+    const bool riavviato = orologio.isActive();
+    if (timer.attivo && !riavviato) orologio.start(0);
+  });
 }
 
 }  // namespace
@@ -24,17 +33,7 @@ void AbilitaTimer(Temporizzatore& timer, bool attivo) {
   auto& orologio = orologi[&timer];
   if (!orologio) {
     orologio = std::make_unique<QTimer>();
-    QObject::connect(orologio.get(), &QTimer::timeout, [&timer] {
-      if (!Occupato()) return Scatta(timer);
-      // One firing waits, however long the handler takes.
-      QTimer* const mio = orologi[&timer].get();
-      mio->stop();
-      AppenaLibero([&timer, mio] {
-        if (!timer.attivo || mio->isActive()) return;  // stopped, or started anew, in the meantime
-        mio->start();
-        Scatta(timer);
-      });
-    });
+    QObject::connect(orologio.get(), &QTimer::timeout, [&timer, &o = *orologio] { Scaduto(timer, o); });
   }
   if (attivo)
     orologio->start(timer.intervallo);
