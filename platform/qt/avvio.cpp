@@ -61,7 +61,7 @@ void PreparaDesktop(int argc, char** argv, const Form& principale) {
 
   ScegliScala(principale);
   QFont messaggi = QApplication::font();
-  messaggi.setPointSizeF(std::max(messaggi.pointSizeF(), Punti(principale.controlli.front()->carattere)));
+  messaggi.setPointSizeF(std::max(messaggi.pointSizeF(), Punti(Carattere())));
   QApplication::setFont(messaggi);
 }
 

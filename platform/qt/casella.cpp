@@ -35,14 +35,19 @@ void Casella::keyPressEvent(QKeyEvent* evento) {
   const bool alt = evento->modifiers().testFlag(Qt::AltModifier);
   const bool ctrl = evento->modifiers().testFlag(Qt::ControlModifier);
   if (alt && !ctrl) return evento->ignore();  // Alt and a letter is no typing
-  if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) {
-    EseguiGestore([this] {
-      if (controllo_.tasto) controllo_.tasto(kTastoInvio);
-    });
-    return;
-  }
   const QScopedValueRollback<bool> cambio(annunciato_);
-  if (const QString testo = evento->text(); !testo.isEmpty() && testo[0].isPrint() && alt == ctrl)
+  if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) {
+    return Annuncia(kTastoInvio);
+  }
+  const QString testo = evento->text();
+  const bool cancella = evento->key() == Qt::Key_Delete
+                            ? hasSelectedText() || cursorPosition() < text().size()
+                            : evento->key() == Qt::Key_Backspace || evento->matches(QKeySequence::Cut);
+  if (cancella)
+    Annuncia(kTastoCancella);
+  else if (evento->matches(QKeySequence::Paste))
+    Annuncia(kTastoIncolla);
+  else if (!testo.isEmpty() && testo[0].isPrint() && alt == ctrl)
     Scrivi(testo);
   QLineEdit::keyPressEvent(evento);
 }
@@ -65,13 +70,15 @@ void Casella::paintEvent(QPaintEvent* evento) {
   penna.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+void Casella::Annuncia(int codice) {
+  annunciato_ = true;
+  EseguiGestore([&] {
+    if (controllo_.tasto) controllo_.tasto(codice);
+  });
+}
+
 void Casella::Scrivi(const QString& testo) {
-  for (const char c : DaQt(testo)) {
-    annunciato_ = true;
-    EseguiGestore([&] {
-      if (controllo_.tasto) controllo_.tasto(static_cast<unsigned char>(c));
-    });
-  }
+  for (const char c : DaQt(testo)) Annuncia(static_cast<unsigned char>(c));
 }
 
 void Casella::Modificato(const QString& testo) {
@@ -83,11 +90,8 @@ void Casella::Modificato(const QString& testo) {
     setCursorPosition(int(cursore));
   }
   const Testo nuovo = DaQt(pulito);
-  if (!annunciato_)
-    EseguiGestore([&] {
-      const bool cancella = nuovo.size() < controllo_.testo.size();
-      if (controllo_.tasto) controllo_.tasto(cancella ? kTastoCancella : kTastoIncolla);
-    });
+  const QScopedValueRollback<bool> cambio(annunciato_);
+  if (!annunciato_) Annuncia(nuovo.size() < controllo_.testo.size() ? kTastoCancella : kTastoIncolla);
   controllo_.testo = DaQt(text());
 }
 

@@ -8,7 +8,8 @@
 namespace tarvel {
 
 /// `tasto` fires for each character typed, before the text changes, and once, with a stand-in
-/// code, for a change that comes otherwise (deletion, paste, drop, undo).
+/// code, for a change that comes otherwise (deletion, paste, drop, undo); then `testo` is still what
+/// the box held.
 class Casella : public QLineEdit {
  public:
   Casella(Controllo& controllo, QWidget* padre);
@@ -20,6 +21,7 @@ class Casella : public QLineEdit {
   void paintEvent(QPaintEvent* evento) override;
 
  private:
+  void Annuncia(int codice);
   void Scrivi(const QString& testo);
   void Modificato(const QString& testo);
 

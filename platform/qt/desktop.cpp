@@ -62,7 +62,7 @@ void Mostra(Caricata& caricata, bool modale) {
   finestra.show();
   finestra.raise();
   finestra.activateWindow();
-  if (Controllo* controllo = finestra.ColFuoco()) RaggiungeControllo(finestra, *controllo);
+  RaggiungeControllo(finestra, finestra.ColFuoco());
 }
 
 void Togli(Finestra& finestra) {

@@ -34,7 +34,7 @@ class Vedetta : public QObject {
     if (finestra_.form == nullptr) return false;
     const auto tipo = evento->type();
     if (tipo != QEvent::FocusIn && tipo != QEvent::KeyPress && tipo != QEvent::MouseButtonPress) return false;
-    RaggiungeControllo(finestra_, controllo_);
+    RaggiungeControllo(finestra_, &controllo_);
     if (tipo != QEvent::MouseButtonPress ||
         QGuiApplication::mouseButtons().testFlag(static_cast<QMouseEvent*>(evento)->button()))
       return false;
@@ -119,7 +119,7 @@ void Finestra::paintEvent(QPaintEvent*) {
 
 void Finestra::closeEvent(QCloseEvent* evento) {
   evento->ignore();  // the window goes when the form is unloaded
-  if (form == nullptr) return;
+  if (form == nullptr || !Usabile(*this)) return;
   EseguiGestore([this] {
     LasciaControllo(*this);
     if (form != nullptr) ScaricaForm(*form);

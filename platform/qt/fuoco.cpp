@@ -22,13 +22,17 @@ bool SulloSchermo(const Controllo* controllo) {
 
 }  // namespace
 
-void RaggiungeControllo(Finestra& finestra, Controllo& controllo) {
+bool Usabile(const Finestra& finestra) {
+  return messaggi == 0 && finestra.livello >= livelloModale && finestra.isVisible();
+}
+
+void RaggiungeControllo(Finestra& finestra, Controllo* controllo) {
   // The window manager may make a window active for a moment that cannot be used.
-  if (messaggi > 0 || finestra.livello < livelloModale || !finestra.isVisible()) return;
+  if (!Usabile(finestra)) return;
   std::erase(ordine, &finestra);
   ordine.push_back(&finestra);
-  if (colFuoco == &controllo) return;
-  if (const Controllo* lasciato = std::exchange(colFuoco, &controllo))
+  if (colFuoco == controllo) return;
+  if (const Controllo* lasciato = std::exchange(colFuoco, controllo))
     QuandoLibero([lasciato] {
       if (SulloSchermo(lasciato)) EseguiGestore(lasciato->fuocoPerso);
     });

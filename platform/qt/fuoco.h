@@ -7,8 +7,11 @@
 
 namespace tarvel {
 
-/// The user, or the showing of a form, has reached this control: the one left loses the focus.
-void RaggiungeControllo(Finestra& finestra, Controllo& controllo);
+/// Neither a modal form shown later nor a message box keeps the user from this window.
+bool Usabile(const Finestra& finestra);
+/// The user, or the showing of a form, has reached this control (nullptr: a form that has none to
+/// reach): the one left loses the focus. Nothing when the window cannot be used.
+void RaggiungeControllo(Finestra& finestra, Controllo* controllo);
 /// The close box of a form that holds the focus: its control loses it.
 void LasciaControllo(const Finestra& finestra);
 /// The form goes: the focus returns, without an event, to the control that had it before.
