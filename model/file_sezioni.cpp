@@ -194,7 +194,7 @@ void ScriviFileSezioni() {
     MostraMessaggio("Problemi nella scrittura del file " + FileSezioni, "ERRORE", Icona::Stop);
     return;
   }
-  const auto luogo = [] { return "scrittura del file " + FileSezioni + ", che può essere incompleto"_t; };
+  const auto luogo = [] { return "il file " + FileSezioni + " può essere incompleto"_t; };
   Durante(luogo, [&] {
     Testo buffer;
     RigaColonne(*file, buffer).Conteggio(NumeroSezioni).Fine();

@@ -26,11 +26,12 @@ void LeggiDefault() {
 }
 
 void ScriviDefault(std::span<const Testo> caselle) {
-  auto file = FileInScrittura::Crea(FileDefault());
-  if (!file)
-    throw ErroreFatale(TipoErrore::File, "impossibile scrivere il file dei valori iniziali", FileDefault());
-  for (const Testo& testo : caselle) file->ScriviRiga(SenzaBlanchi(testo));
-  file->Chiudi();
+  Durante([] { return "il file " + FileDefault() + " può essere incompleto"_t; }, [&] {
+    auto file = FileInScrittura::Crea(FileDefault());
+    if (!file) throw ErroreFatale(TipoErrore::File, "impossibile creare il file dei valori iniziali");
+    for (const Testo& testo : caselle) file->ScriviRiga(SenzaBlanchi(testo));
+    file->Chiudi();
+  });
 }
 
 }  // namespace tarvel

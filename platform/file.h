@@ -69,8 +69,8 @@ class FileInScrittura {
   /// Nothing when the file cannot be created; an existing one is then untouched.
   static std::optional<FileInScrittura> Crea(const Testo& percorso);
 
-  /// The line and CR LF. A write that fails is fatal and says that the file may be incomplete;
-  /// it may show only later, at the latest in Chiudi.
+  /// The line and CR LF. A write that fails is fatal (TipoErrore::File); it may show only later, at
+  /// the latest in Chiudi.
   void ScriviRiga(std::string_view riga);
   /// Everything is with the host when it returns. A file not closed so is closed without a check.
   void Chiudi();
@@ -78,6 +78,7 @@ class FileInScrittura {
  private:
   FileInScrittura(const Testo& percorso, std::FILE* file) : percorso_(percorso), file_(file) {}
   void Svuota();
+  [[noreturn]] void Fallita() const;
 
   Testo percorso_;
   std::unique_ptr<std::FILE, ChiudiFile> file_;

@@ -21,31 +21,33 @@ struct Sommatori {
   Reale MomStaticoZTot;  // ∫ y dA
 };
 
-// Calls lavoro(from, to, segment) for each edge that is not vertical.
+// Calls lavoro(from, to) for each edge of a polygon.
 template <class Lavoro>
-void IntegraLati(const GeometriaSezione& g, int poligono, int n, Lavoro lavoro) {
+void PerOgniLatoDi(const GeometriaSezione& g, int poligono, int n, Lavoro lavoro) {
   PerOgniLato(
-      n, [&](int v) { return g.Vertice(poligono, v); },
-      [&](Punto da, Punto a) {
-        if (const auto s = SegmentoDi(da, a)) lavoro(da, a, *s);
-      });
+      n, [&](int v) { return g.Vertice(poligono, v); }, lavoro);
 }
 
 // `segno`: -1 for the whole section (counter-clockwise outline), +1 for the clockwise parts.
+// Vertical edges contribute nothing, not even to the area.
 void SommaAreaStatici(RecordSezione& r, int poligono, int n, int segno, Sommatori& somme) {
-  IntegraLati(r, poligono, n, [&](Punto da, Punto a, const Segmento& s) {
+  PerOgniLatoDi(r, poligono, n, [&](Punto da, Punto a) {
+    const auto s = SegmentoDi(da, a);
+    if (!s) return;
     r.An += segno * AreaTrapezio(da, a);
-    somme.MomStaticoYTot += segno * MomStaticoY(s);
-    somme.MomStaticoZTot += segno * MomStaticoZ(s);
+    somme.MomStaticoYTot += segno * MomStaticoY(*s);
+    somme.MomStaticoZTot += segno * MomStaticoZ(*s);
   });
 }
 
 // Second moments of the outline of `g`, added to those of `r`; Jt takes the product moment.
 void SommaInerzie(const GeometriaSezione& g, RecordSezione& r, int poligono, int n, int segno) {
-  IntegraLati(g, poligono, n, [&](Punto, Punto, const Segmento& s) {
-    r.Jyg += segno * MomInerziaY(s);
-    r.Jzg += segno * MomInerziaZ(s);
-    r.Jt += segno * MomCentrifugo(s);
+  PerOgniLatoDi(g, poligono, n, [&](Punto da, Punto a) {
+    const auto s = SegmentoQuartoDi(da, a);
+    if (!s) return;
+    r.Jyg += segno * MomInerziaY(*s);
+    r.Jzg += segno * MomInerziaZ(*s);
+    r.Jt += segno * MomCentrifugo(*s);
   });
 }
 

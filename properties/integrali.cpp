@@ -3,12 +3,25 @@
 
 namespace tarvel {
 
+namespace {
+
+Reale Differenza(Punto da, Punto a, double n) {
+  return Potenza(a.z, n) - Potenza(da.z, n);
+}
+
+}  // namespace
+
 std::optional<Segmento> SegmentoDi(Punto da, Punto a) {
   const Reale d1 = a.z - da.z;
   if (Assoluto(d1) <= kTolleranza) return std::nullopt;
   const Reale m = (a.y - da.y) / d1;
-  const auto differenza = [&](double n) { return Potenza(a.z, n) - Potenza(da.z, n); };
-  return Segmento{m, da.y - m * da.z, d1, differenza(2), differenza(3), differenza(4)};
+  return Segmento{m, da.y - m * da.z, d1, Differenza(da, a, 2), Differenza(da, a, 3)};
+}
+
+std::optional<SegmentoQuarto> SegmentoQuartoDi(Punto da, Punto a) {
+  const auto s = SegmentoDi(da, a);
+  if (!s) return std::nullopt;
+  return SegmentoQuarto{*s, Differenza(da, a, 4)};
 }
 
 Reale MomStaticoY(const Segmento& s) {
@@ -21,11 +34,11 @@ Reale MomStaticoZ(const Segmento& s) {
   return (Potenza(m, 2) * s.d3 / 3 + m * q * s.d2 + Potenza(q, 2) * s.d1) / 2;
 }
 
-Reale MomInerziaY(const Segmento& s) {
+Reale MomInerziaY(const SegmentoQuarto& s) {
   return s.d3 * s.TermineNotoSegmento / 3 + s.d4 * s.PendenzaSegmento / 4;
 }
 
-Reale MomInerziaZ(const Segmento& s) {
+Reale MomInerziaZ(const SegmentoQuarto& s) {
   const Reale m = s.PendenzaSegmento;
   const Reale q = s.TermineNotoSegmento;
   return (Potenza(m, 3) * s.d4 / 4 + Potenza(m, 2) * q * s.d3 + 3 * m * Potenza(q, 2) * s.d2 / 2 +
@@ -33,7 +46,7 @@ Reale MomInerziaZ(const Segmento& s) {
          3;
 }
 
-Reale MomCentrifugo(const Segmento& s) {
+Reale MomCentrifugo(const SegmentoQuarto& s) {
   const Reale m = s.PendenzaSegmento;
   const Reale q = s.TermineNotoSegmento;
   return (Potenza(m, 2) * s.d4 / 4 + 2 * m * q * s.d3 / 3 + Potenza(q, 2) * s.d2 / 2) / 2;

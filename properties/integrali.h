@@ -10,11 +10,10 @@
 
 namespace tarvel {
 
-/// An edge that is not vertical: its line y = m z + q and its abscissas, with the differences
-/// z2^n - z1^n that the integrals share.
+/// An edge that is not vertical: its line y = m z + q and the differences z2^n - z1^n of its abscissas.
 struct Segmento {
   Reale PendenzaSegmento, TermineNotoSegmento;
-  Reale d1, d2, d3, d4;
+  Reale d1, d2, d3;
 };
 
 /// Nothing for an edge with |z1 - z2| within the tolerance: it contributes to no integral.
@@ -25,11 +24,18 @@ inline Reale AreaTrapezio(Punto da, Punto a) {
   return (da.y + a.y) * (a.z - da.z) / 2;
 }
 
-Reale MomStaticoY(const Segmento& s);    ///< integral of z dA
-Reale MomStaticoZ(const Segmento& s);    ///< integral of y dA
-Reale MomInerziaY(const Segmento& s);    ///< integral of z² dA
-Reale MomInerziaZ(const Segmento& s);    ///< integral of y² dA
-Reale MomCentrifugo(const Segmento& s);  ///< integral of z·y dA
+Reale MomStaticoY(const Segmento& s);  ///< integral of z dA
+Reale MomStaticoZ(const Segmento& s);  ///< integral of y dA
+
+/// Second moments need the fourth powers too; an outline too large for them still has an area.
+struct SegmentoQuarto : Segmento {
+  Reale d4;
+};
+std::optional<SegmentoQuarto> SegmentoQuartoDi(Punto da, Punto a);
+
+Reale MomInerziaY(const SegmentoQuarto& s);    ///< integral of z² dA
+Reale MomInerziaZ(const SegmentoQuarto& s);    ///< integral of y² dA
+Reale MomCentrifugo(const SegmentoQuarto& s);  ///< integral of z·y dA
 
 /// Calls lavoro(from, to) for each edge of a closed polygon of n vertices, the closing one last.
 template <class Vertice, class Lavoro>

@@ -152,12 +152,14 @@ std::optional<FileInScrittura> FileInScrittura::Crea(const Testo& percorso) {
   return FileInScrittura(percorso, file);
 }
 
+void FileInScrittura::Fallita() const {
+  throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita", percorso_);
+}
+
 void FileInScrittura::Svuota() {
   const bool scritto = std::fwrite(buffer_.data(), 1, buffer_.size(), file_.get()) == buffer_.size();
   buffer_.clear();
-  if (!scritto)
-    throw ErroreFatale(TipoErrore::File, "scrittura non riuscita, il file può essere incompleto"_t,
-                       percorso_);
+  if (!scritto) Fallita();
 }
 
 void FileInScrittura::ScriviRiga(std::string_view riga) {
@@ -167,9 +169,7 @@ void FileInScrittura::ScriviRiga(std::string_view riga) {
 
 void FileInScrittura::Chiudi() {
   Svuota();
-  if (std::fclose(file_.release()) != 0)
-    throw ErroreFatale(TipoErrore::File, "scrittura non riuscita, il file può essere incompleto"_t,
-                       percorso_);
+  if (std::fclose(file_.release()) != 0) Fallita();
 }
 
 }  // namespace tarvel

@@ -29,7 +29,6 @@ struct Finestra {
   bool mostrata = false;    // visible at least once since it was loaded
   std::size_t livello = 0;  // modal loops that ran when it was shown: later ones block it
   Controllo* fuoco = nullptr;
-  Puntatore puntatore = Puntatore::Predefinito;
 };
 
 struct CicloModale {
@@ -38,6 +37,7 @@ struct CicloModale {
 };
 
 struct Scrivania {
+  Puntatore puntatore = Puntatore::Predefinito;
   Attore attore;
   std::map<const Form*, Finestra> finestre;
   std::vector<Form*> fila;  // the visible forms, the one in front last
@@ -218,11 +218,10 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
   return risposta;
 }
 
-void ImpostaPuntatore(Form& form, Puntatore puntatore) {
-  Finestra& finestra = Di(form);
-  if (finestra.puntatore == puntatore) return;
-  finestra.puntatore = puntatore;
-  if (finestra.visibile) Annota(puntatore == Puntatore::Clessidra ? "pointer hourglass" : "pointer default");
+void ImpostaPuntatore(Puntatore puntatore) {
+  if (gScrivania.puntatore == puntatore) return;
+  gScrivania.puntatore = puntatore;
+  Annota(puntatore == Puntatore::Clessidra ? "pointer hourglass" : "pointer default");
 }
 
 }  // namespace tarvel

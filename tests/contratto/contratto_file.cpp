@@ -116,16 +116,16 @@ TEST_F(ContrattoFile, ItemsEndAtCommasAndLineEnds) {
 }
 
 TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
-  FileInLettura file = Apri("f", " .5  -2,\"3\" 1E+03\r\n7 resto\r\nx\r\n32768\r\n1.5\r\n");
+  FileInLettura file = Apri("f", " .5  -2,\"3\" 1E+03\r\n7 resto\r\nintera\r\nx\r\n32768\r\n1.5\r\n");
   EXPECT_EQ(file.LeggiVoceNumero().Valore(), 0.5);
   EXPECT_EQ(file.LeggiVoceIntero(), -2);
   EXPECT_EQ(file.LeggiVoceIntero(), 3);
   EXPECT_EQ(file.LeggiVoceNumero().Valore(), 1000.0);
   EXPECT_EQ(file.LeggiVoceIntero(), 7);
-  EXPECT_EQ(file.LeggiRiga(), "resto");
-  for (const int riga : {3, 4, 5}) {
+  EXPECT_EQ(file.LeggiRiga(), "intera");
+  for (const int riga : {4, 5, 6}) {
     try {
-      riga == 3 ? void(file.LeggiVoceNumero()) : void(file.LeggiVoceIntero());
+      riga == 4 ? void(file.LeggiVoceNumero()) : void(file.LeggiVoceIntero());
       ADD_FAILURE() << riga;
     } catch (const ErroreFatale& errore) {
       EXPECT_EQ(errore.dove, Percorso("f") + ", riga " + std::to_string(riga));

@@ -1,7 +1,5 @@
 // The section file: round trip, columns, refusals. A file is spoiled line by line and field by
 // field; each time the answer is one fatal error with file and line, or a reading that is allowed.
-#include "model/file_sezioni.h"
-
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -9,6 +7,7 @@
 #include "aiuti.h"
 #include "base/errore.h"
 #include "base/numeri.h"
+#include "model/file_sezioni.h"
 #include "properties/caratteristiche.h"
 
 namespace tarvel {
@@ -102,10 +101,10 @@ TEST_F(ProvaFile, ColonneEFormati) {
   r.Nome = "X";
   r.BaseTotale = 12.3456;
   r.AltezzaTotale = -0.005;
-  r.ZG = 1e14;                    // 15 characters
+  r.ZG = 1e14;  // 15 characters
   r.YG = .5;
-  r.An = 123456789012345e3;       // 1.23456789012345E+17: 20 characters, reaches the stop exactly
-  r.Aty = -123456789012345e3;     // one more: the next stop goes to a new line
+  r.An = 123456789012345e3;    // 1.23456789012345E+17: 20 characters, reaches the stop exactly
+  r.Aty = -123456789012345e3;  // one more: the next stop goes to a new line
   r.Atz = 1;
   r.NumPunti = 1;
   r.PuntoZ[1] = -1;
@@ -149,7 +148,8 @@ TEST_F(ProvaFile, OgniRigaRovinata) {
   // Lines that are read leniently take a word for 0: the name, extents, vertices, Jt..., Sigla.
   const auto indulgente = [&](std::size_t i) {
     const std::size_t dopoPoligoni = 5 + 13 + 1 + 11;
-    return i == 1 || i == 2 || (i >= 5 && i < dopoPoligoni && i != 18) || i == dopoPoligoni + 1 || i == righe.size() - 2;
+    return i == 1 || i == 2 || (i >= 5 && i < dopoPoligoni && i != 18) || i == dopoPoligoni + 1 ||
+           i == righe.size() - 2;
   };
   for (std::size_t i = 0; i < righe.size(); ++i)
     for (const char* guasto : {"parola", "", "12x", "&H10"}) {
@@ -170,11 +170,18 @@ TEST_F(ProvaFile, ConteggiFuoriMisura) {
     std::string testo;
     int riga;
   } casi[] = {
-      {"-1\r\n", 1},  {"501\r\n", 1}, {"32768\r\n", 1}, {"1.5\r\n", 1}, {"1E9\r\n", 1},
-      {"1\r\n" + testa + "6\r\n", 4}, {"1\r\n" + testa + "-1\r\n", 4}, {"1\r\n" + testa + "1\r\n 51 \r\n", 5},
+      {"-1\r\n", 1},
+      {"501\r\n", 1},
+      {"32768\r\n", 1},
+      {"1.5\r\n", 1},
+      {"1E9\r\n", 1},
+      {"1\r\n" + testa + "6\r\n", 4},
+      {"1\r\n" + testa + "-1\r\n", 4},
+      {"1\r\n" + testa + "1\r\n 51 \r\n", 5},
       {"1\r\n" + testa + "0\r\n1 1 1\r\n1 1 1\r\n51\r\n", 7},
       {"1\r\n" + testa + "0\r\n1 1 1\r\n1 1 1\r\n1\r\n1,5 1 a\r\n", 8},  // a point's coordinate, strict
-      {"1\r\n" + testa + "0\r\n1 1\r\n1 1 1\r\n0\r\nA\r\n0\r\n", 6},
+      {"1\r\n" + testa + "0\r\n1 1\r\n1 1 1\r\n0\r\nA\r\n0\r\n",
+       8},  // the missing item is taken from the next line
   };
   for (const auto& c : casi) {
     const Testo errore = Leggi(c.testo);
@@ -220,25 +227,30 @@ TEST_F(ProvaFile, GuastiDelFile) {
     EXPECT_NE(e.dove.find("/dev/full"), Testo::npos);
   }
   FileSezioni = (cartella / "manca" / "sezio_ut").string();
-  testing::internal::CaptureStdout();
+  const prove::Verbale verbale;
   ScriviFileSezioni();
   LeggiFileSezioni(true);
   LeggiFileSezioni(false);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(),
-            "message stop \"ERRORE\" \"Problemi nella scrittura del file " + FileSezioni + "\" -> ok\n" +
-                "message stop \"ERRORE\" \"File " + FileSezioni + " non trovato\" -> ok\n");
+  EXPECT_EQ(verbale.Testo(), "message stop \"ERRORE\" \"Problemi nella scrittura del file " + FileSezioni +
+                                 "\" -> ok\n" + "message stop \"ERRORE\" \"File " + FileSezioni +
+                                 " non trovato\" -> ok\n");
   EXPECT_EQ(NumeroSezioni, 1);
 }
 
 TEST(NomiSezioni, PropostiENormalizzati) {
   PrefissoNome = "U_PO_";
-  for (const auto& [n, nome] : {std::pair{1, "U_PO_001"}, {42, "U_PO_042"}, {1000, "U_PO_000"}, {1234, "U_PO_234"}})
+  for (const auto& [n, nome] :
+       {std::pair{1, "U_PO_001"}, {42, "U_PO_042"}, {1000, "U_PO_000"}, {1234, "U_PO_234"}})
     EXPECT_EQ(ProponiNome(n), nome);
   const struct {
     const char *nome, *voluto, *altro, *atteso;
   } casi[] = {
-      {"U_PO_001", "G_", "U_", "G_PO_001"}, {"u_po_001", "G_", "U_", "G_po_001"}, {"g_x", "G_", "U_", "g_x"},
-      {"  altro ", "G_", "U_", "G_altro"},  {"", "U_", "G_", "U_"},              {"U", "G_", "U_", "G_U"},
+      {"U_PO_001", "G_", "U_", "G_PO_001"},
+      {"u_po_001", "G_", "U_", "G_po_001"},
+      {"g_x", "G_", "U_", "g_x"},
+      {"  altro ", "G_", "U_", "G_altro"},
+      {"", "U_", "G_", "U_"},
+      {"U", "G_", "U_", "G_U"},
   };
   for (const auto& c : casi) EXPECT_EQ(NormalizzaNome(c.nome, c.voluto, c.altro), c.atteso) << c.nome;
 }

@@ -10,11 +10,12 @@ namespace {
 using prove::Costruita;
 using prove::Esempio;
 
-constexpr double kContorno[][2] = {{0, 0},       {0, -20},     {250, -28.75}, {300, -37.5}, {329.5, -185},
+constexpr double kContorno[][2] = {{0, 0},        {0, -20},     {250, -28.75}, {300, -37.5}, {329.5, -185},
                                    {870.5, -185}, {900, -37.5}, {950, -28.75}, {1200, -20},  {1200, 0},
-                                   {650, 13.75}, {600, 15},    {550, 13.75}};
-constexpr double kCella[][2] = {{359.7, -140}, {340, -41.5}, {400, -20},   {550, -11.25},   {600, -10},     {650, -11.25},
-                                {800, -20},    {860, -41.5}, {840.3, -140}, {800.3, -160}, {399.7, -160}};
+                                   {650, 13.75},  {600, 15},    {550, 13.75}};
+constexpr double kCella[][2] = {{359.7, -140}, {340, -41.5},  {400, -20},   {550, -11.25},
+                                {600, -10},    {650, -11.25}, {800, -20},   {860, -41.5},
+                                {840.3, -140}, {800.3, -160}, {399.7, -160}};
 
 TEST(Geometria, EsempioVerticePerVertice) {
   const RecordSezione r = Costruita(Esempio());
@@ -91,14 +92,15 @@ TEST(Geometria, PendenzeTagliateInGiu) {
 
 TEST(Geometria, AltreFormeRifiutate) {
   const RecordSezione buona = Costruita(Esempio());
-  for (const auto& guasta : {+[](RecordSezione& r) { r.NumPoligoni = 3; }, +[](RecordSezione& r) { r.NumVertici[1] = 12; },
-                             +[](RecordSezione& r) { r.NumVertici[2] = 12; }}) {
+  for (const auto& guasta :
+       {+[](RecordSezione& r) { r.NumPoligoni = 3; }, +[](RecordSezione& r) { r.NumVertici[1] = 12; },
+        +[](RecordSezione& r) { r.NumVertici[2] = 12; }}) {
     RecordSezione r = buona;
     guasta(r);
     prove::Prepara(prove::Vettore({1, 2, 3}));
-    testing::internal::CaptureStdout();
+    const prove::Verbale verbale;
     EXPECT_FALSE(VerificaSezione(r));
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "message exclamation \"ATTENZIONE\" \"Sezione non valida\" -> ok\n");
+    EXPECT_EQ(verbale.Testo(), "message exclamation \"ATTENZIONE\" \"Sezione non valida\" -> ok\n");
     EXPECT_EQ(ParametriSezione[2], 3);
   }
 }

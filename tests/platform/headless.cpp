@@ -75,10 +75,10 @@ struct FormMadre : Form {
     if (finisce) AbilitaTimer(timer, true);
   }
   void Programma() {
-    ImpostaPuntatore(*this, Puntatore::Clessidra);
+    ImpostaPuntatore(Puntatore::Clessidra);
     if (!AttivaProgramma(id)) id = AvviaProgramma(percorso, 1).value_or(0);
     InviaTasti("%(fg)");
-    ImpostaPuntatore(*this, Puntatore::Predefinito);
+    ImpostaPuntatore(Puntatore::Predefinito);
   }
   Controllo titoletto = Nuovo(TipoControllo::Etichetta, "Label1");
   Controllo nomeBox = Nuovo(TipoControllo::Casella, "nome");

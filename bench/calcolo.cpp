@@ -1,0 +1,72 @@
+// The calculation of one section, the building of an outline, the section file.
+#include <benchmark/benchmark.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "model/file_sezioni.h"
+#include "model/geometria.h"
+#include "model/tabella_sezioni.h"
+#include "properties/caratteristiche.h"
+
+namespace tarvel {
+namespace {
+
+void Prepara() {
+  int i = 0;
+  for (const double p : {200., 25.,  20., 35., 45.,   50., 30., 25.,  20.,  250., 50.,
+                         60.,  150., 50., 40., 1200., 2.5, 2.5, -2.5, -2.5, 20.})
+    ParametriSezione[i++] = p;
+  VerticiPoligono[1] = 13;
+  VerticiPoligono[2] = 11;
+}
+
+void CostruzioneContorno(benchmark::State& stato) {
+  Prepara();
+  static RecordSezione r;
+  for (auto _ : stato) {
+    CostruisciGeometria(r, ParametriSezione);
+    benchmark::DoNotOptimize(r);
+  }
+}
+BENCHMARK(CostruzioneContorno);
+
+void CalcoloCompleto(benchmark::State& stato) {
+  Prepara();
+  static RecordSezione r;
+  CostruisciGeometria(r, ParametriSezione);
+  for (auto _ : stato) {
+    CalcolaCaratteristiche(r);
+    benchmark::DoNotOptimize(r);
+  }
+}
+BENCHMARK(CalcoloCompleto);
+
+class FileDiCinquecento : public benchmark::Fixture {
+ public:
+  void SetUp(const benchmark::State&) override {
+    Prepara();
+    FileSezioni =
+        (std::filesystem::temp_directory_path() / ("tarvel_bench_" + std::to_string(getpid()))).string();
+    NumeroSezioni = kMaxSezioni;
+    for (int i = 1; i <= kMaxSezioni; ++i) {
+      RecordSezione& r = TabellaSezioni[i];
+      ParametriSezione[0] = 200 + i * 0.37;
+      CostruisciGeometria(r, ParametriSezione);
+      CalcolaCaratteristiche(r);
+      r.Nome = "U_PO_" + std::to_string(i);
+    }
+    ScriviFileSezioni();
+  }
+  void TearDown(const benchmark::State&) override { std::filesystem::remove(FileSezioni); }
+};
+
+BENCHMARK_F(FileDiCinquecento, Scrittura)(benchmark::State& stato) {
+  for (auto _ : stato) ScriviFileSezioni();
+}
+BENCHMARK_F(FileDiCinquecento, Lettura)(benchmark::State& stato) {
+  for (auto _ : stato) LeggiFileSezioni(false);
+}
+
+}  // namespace
+}  // namespace tarvel

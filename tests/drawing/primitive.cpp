@@ -1,0 +1,231 @@
+// The primitives and the dimension lines: what they record, where, and what they pass over.
+#include <algorithm>
+#include <functional>
+#include <numbers>
+#include <vector>
+
+#include "base/errore.h"
+#include "drawing/funz_disegno.h"
+#include "platform/regione.h"
+#include "tests/drawing/attrezzi.h"
+
+namespace tarvel::disegno {
+namespace {
+
+using Primitive = ConDisegno;
+using Quote = ConDisegno;
+
+Coordinata Punto(std::int32_t i) {
+  return Disegno.Coordinate[i];
+}
+
+// The lines as "x y x y; ".
+std::string Linee() {
+  std::ostringstream s;
+  for (std::int32_t i = 0; i < Disegno.Linee.numero; ++i) {
+    const Coordinata a = Punto(Disegno.Linee[i].primo), b = Punto(Disegno.Linee[i].secondo);
+    s << a.x.Valore() << ' ' << a.y.Valore() << ' ' << b.x.Valore() << ' ' << b.y.Valore() << "; ";
+  }
+  return s.str();
+}
+
+TEST_F(Primitive, CoordinateRicordateSoloDaVicino) {
+  for (const int altre : {0, 30, 31}) {
+    Azzera();
+    AggiungiCoordinata(-5, -5);
+    AggiungiCoordinata(7, 8);
+    for (int i = 0; i < altre; ++i) AggiungiCoordinata(i, 100);
+    EXPECT_EQ(AggiungiCoordinata(7, 8), altre < 31 ? 1 : altre + 2) << altre;
+  }
+}
+
+TEST_F(Primitive, TolleranzaDiCoordinateESegmenti) {
+  const struct {
+    double dx, dy;
+    bool stessoPunto, siVede;
+  } casi[] = {
+      {0.00009, -0.00009, true, false}, {0.0001, 0, false, false}, {0, 0.0001, false, false},
+      {0.0001, -0.0001, false, false},  {0.00011, 0, false, true}, {0.00005, 0.00011, false, true},
+  };
+  for (const auto& c : casi) {
+    Azzera();
+    Linea(0, 0, c.dx, c.dy);
+    EXPECT_EQ(Disegno.Linee.numero, c.siVede ? 1 : 0) << c.dx << ' ' << c.dy;
+    Azzera();
+    AggiungiCoordinata(0, 0);
+    EXPECT_EQ(AggiungiCoordinata(c.dx, c.dy), c.stessoPunto ? 0 : 1) << c.dx << ' ' << c.dy;
+  }
+}
+
+TEST_F(Primitive, TabellePiene) {
+  const struct {
+    std::int32_t& numero;
+    int capienza;
+    std::function<void()> aggiungi;
+    std::string avviso;
+  } casi[] = {
+      {Disegno.Linee.numero, 50000, [] { Linea(0, 0, 1, 1); }, "elementi di disegno"},
+      {Disegno.Archi.numero, 15000, [] { Cerchio(0, 0, 1); }, "elementi di disegno"},
+      {Disegno.Testi.numero, 15000, [] { Testo("a", 0, 0, 0, 1, 1, 1); }, "testi"},
+  };
+  for (const auto& c : casi) {
+    c.numero = c.capienza - 2;
+    EXPECT_EQ(Mostrato(c.aggiungi), "");
+    EXPECT_EQ(Mostrato(c.aggiungi),
+              "message exclamation \"Problema\" \" Numero eccessivo di " + c.avviso + " \" -> ok\n");
+    EXPECT_EQ(c.numero, c.capienza);
+    EXPECT_EQ(Mostrato(c.aggiungi), "");
+    EXPECT_EQ(c.numero, c.capienza);
+  }
+  Disegno.Coordinate.numero = 32768;
+  Disegno.Coordinate[32767] = {3, 4};
+  EXPECT_EQ(AggiungiCoordinata(3, 4), 32767);
+  EXPECT_THROW(AggiungiCoordinata(5, 6), ErroreFatale);  // beyond 16-bit positions
+  EXPECT_THROW(AggiungiCoordinata(5, 6), ErroreFatale);
+}
+
+TEST_F(Primitive, RegistranoConOrigineColoreETipo) {
+  OrigineX = 10;
+  OrigineY = -1;
+  ColoreCorrente = 4;
+  TipoLineaCorrente = 2;
+  Linea(0, 0, 1, 0);
+  Linea(1, 0, 1, 2, 0);
+  Cerchio(0, 0, 2, 0);
+  Cerchio(1, 2, 2, {}, 0, std::numbers::pi / 2);
+  Cerchio(0, 0, 0.0001);
+  Testo("x", 1, 2, -90, 1.25, 0.04, 0);
+  Testo("senza base", 0, 0, 0, 0, 1, 1);
+  EXPECT_EQ(Fotografia(),
+            "0x1.4p+3 -0x1p+0 ; 0x1.6p+3 -0x1p+0 ; 0x1.6p+3 0x1p+0 ; 0x1.8p+3 0x1p+0 ; 0x1.6p+3 0x1p+1 ; \n\n"
+            "0 1 4 2 ; 1 2 0 2 ; \n0 1 0 1 1 0 ; 2 3 2 4 4 0 ; \n2 -90 12 0 1 x ; \n");
+  for (const auto& [misura, decimi] :
+       {std::pair{0.05, 0}, {0.15, 2}, {0.25, 2}, {-3, -30}, {3276.74, 32767}}) {
+    Testo("a", 0, 0, 0, misura, 1, 1);
+    EXPECT_EQ(Disegno.Testi[Disegno.Testi.numero - 1].base10, decimi) << misura;
+  }
+  EXPECT_THROW(Testo("a", 0, 0, 0, 1, 3276.75, 1), ErroreFatale);
+}
+
+TEST_F(Primitive, SuUnaSuperficie) {
+  std::ostringstream visto;
+  const Superficie superficie{[&](Coordinata da, Coordinata a, std::int32_t rgb) {
+                                visto << da.y.Valore() << ' ' << a.x.Valore() << ' ' << rgb << "; ";
+                              },
+                              [&](Coordinata c, Reale r, Reale da, Reale a, std::int32_t rgb) {
+                                visto << c.y.Valore() << ' ' << r.Valore() << ' ' << da.Valore() << ' '
+                                      << a.Valore() << ' ' << rgb << "; ";
+                              }};
+  OrigineY = 5;
+  ColoreCorrente = 5;
+  Linea(1, 2, 3, 4, {}, &superficie);
+  Cerchio(1, 2, 3, 10, 0.5, {}, &superficie);
+  Linea(1, 2, 1, 2, 9, &superficie);
+  EXPECT_EQ(visto.str(), "2 3 0; 2 1.5 0.5 0.5 16777215; ");
+  EXPECT_EQ(Disegno.Coordinate.numero, 0);
+}
+
+TEST_F(Primitive, CaratteriATratti) {
+  // Upright, the second character: glyph abscissas run up, ordinates to the left.
+  FlagDisegno = "";
+  SpaziaturaCaratteri = 50;
+  FontPunti[0xE0] = 2;
+  FontX[0xE0][1] = FontY[0xE0][1] = 99;
+  FontY[0xE0][0] = 30;
+  Testo("a\xE0", 100, 200, 90, 10, 6, 3);
+  EXPECT_EQ(Linee(), "100 210 94 215; ");
+  FontPunti[0xE0] = 101;  // the last point has no partner
+  EXPECT_THROW(Testo("\xE0", 0, 0, 0, 10, 6, 3), ErroreFatale);
+  FontPunti[0xE0] = SpaziaturaCaratteri = 0;
+}
+
+// Colours 1 and 5, dots of 5, characters 1 by 2, label at 3, scale 1, extension 4, long side right.
+constexpr StileQuota kStile{1, 5, 5, 1, 2, 3, 1, 4, 0};
+
+std::string Etichetta(std::int32_t i) {
+  const ElementoTesto& t = Disegno.Testi[i];
+  std::ostringstream s;
+  s << t.stringa << " @ " << Punto(t.posizione).x.Valore() << ' ' << Punto(t.posizione).y.Valore() << " ang "
+    << t.angolo;
+  return s.str();
+}
+
+TEST_F(Quote, LineaPalliniETestimoni) {
+  Quota("", 0, 100, 20, 20, kStile);
+  EXPECT_EQ(Linee(), "-4 20 104 20; 0 24 0 12; 100 24 100 12; ");
+  EXPECT_EQ(Disegno.Archi.numero, 2);
+  const std::string andata = Fotografia();
+  Azzera();
+  Quota("", 100, 0, 20, 20, kStile);
+  EXPECT_EQ(Fotografia(), andata);
+
+  Azzera();
+  StileQuota stile = kStile;
+  stile.lato = 1;
+  Quota(" ", 7, 7, 50, 0, stile);  // runs upwards: the left is at smaller x
+  EXPECT_EQ(Linee(), "7 -4 7 54; -1 0 11 0; -1 50 11 50; ");
+  EXPECT_EQ(Disegno.Testi.numero, 0);
+
+  Azzera();
+  stile.coloreLinea = -1;
+  Quota("TITOLO", 0, 100, 0, 0, stile);
+  Quota("", 3, 3.00009, 3, 2.99991, kStile);
+  EXPECT_EQ(Disegno.Linee.numero + Disegno.Archi.numero, 0);
+  EXPECT_EQ(Etichetta(0), "TITOLO @ 47 3 ang 0");
+}
+
+TEST_F(Quote, PostoEAngoloDellEtichetta) {
+  const struct {
+    double x1, x2, y1, y2;
+    const char* atteso;
+  } casi[] = {
+      {5, 5, 0, 100, "100 @ 2 48.5 ang 90"},         {5, 5, 100, 0, "100 @ 2 48.5 ang 90"},
+      {0, 30, 0, 40, "50 @ 12 21 ang 53"},           {30, 0, 0, 40, "50 @ 16.8 22.6 ang -53"},
+      {0, 40, 0, 40, "57 @ 17.1716 21.4142 ang 45"}, {0, 0.0001, 9, 0, "9 @ 3.00004 5.00003 ang -90"},
+  };
+  for (const auto& c : casi) {
+    Azzera();
+    Quota("", c.x1, c.x2, c.y1, c.y2, kStile);
+    EXPECT_EQ(Etichetta(0), c.atteso);
+  }
+}
+
+TEST_F(Quote, ValoreMisurato) {
+  const struct {
+    double lunghezza, scala;
+    int decimali;
+    std::string atteso;
+  } casi[] = {
+      {2.5, 1, 0, "2"},   {3.5, 1, 0, "4"},    {2.5, -1, -7, "2"},     {0.3, 1, 0, "0"},
+      {0.5, 1, 1, "0,5"}, {1.25, 1, 1, "1,2"}, {120, 100, 0, "12000"}, {12.3456, 1, 2, "12,35"},
+  };
+  for (const auto& c : casi) {
+    Azzera();
+    DecimaliQuote = c.decimali;
+    StileQuota stile = kStile;
+    stile.scala = c.scala;
+    Quota("", 0, c.lunghezza, 0, 0, stile);
+    std::string atteso = c.atteso;
+    std::replace(atteso.begin(), atteso.end(), ',', SeparatoreDecimale());
+    EXPECT_EQ(Disegno.Testi[0].stringa, atteso);
+  }
+}
+
+TEST_F(Quote, LeEtichetteLungheSiAlternano) {
+  StileQuota stile = kStile;
+  stile.base = 6;  // a label of two characters does not fit a length of 10
+  const std::vector<Reale> ascisse = {0, 10, 20, 30, 130, 140, 240};
+  CatenaQuote(1, ascisse, 0, stile);
+  Quota("", 0, 10, 0, 0, stile);  // outside a chain it stays on its side
+  ASSERT_EQ(Disegno.Testi.numero, 7);
+  const double attese[] = {-5, 3, -5, 3, -5, 3, 3};
+  for (std::int32_t i = 0; i < 7; ++i) EXPECT_EQ(Punto(Disegno.Testi[i].posizione).y, attese[i]) << i;
+
+  Azzera();
+  CatenaQuote(0, ascisse, 0, stile);
+  EXPECT_EQ(Disegno.Testi.numero, 0);
+  EXPECT_EQ(Disegno.Archi.numero, 12);
+}
+
+}  // namespace
+}  // namespace tarvel::disegno

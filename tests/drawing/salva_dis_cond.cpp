@@ -1,0 +1,92 @@
+// The drawing file, byte for byte, and what the user is told about it.
+#include "drawing/salva_dis_cond.h"
+
+#include <algorithm>
+
+#include "drawing/funz_disegno.h"
+#include "platform/regione.h"
+#include "tests/drawing/attrezzi.h"
+
+namespace tarvel::disegno {
+namespace {
+
+// The text with CR LF for '|'.
+std::string Righe(const std::string& testo) {
+  std::string righe;
+  for (const char c : testo) righe += c == '|' ? "\r\n" : std::string(1, c);
+  return righe;
+}
+
+class FileDisegno : public ConDisegno {
+ protected:
+  // The file's text with '.' for the decimal separator.
+  std::string Salvato(int intestazione = 0) {
+    Intero16 tipo = intestazione;
+    SalvaDisegno(nome_, tipo, 1);
+    EXPECT_EQ(tipo, 1);
+    std::string testo = prove::Contenuto(nome_);
+    std::replace(testo.begin(), testo.end(), SeparatoreDecimale(), '.');
+    return testo;
+  }
+
+  const prove::Cartella cartella_;
+  const std::string nome_ = (cartella_ / "prova.dis").string();
+};
+
+TEST_F(FileDisegno, TutteLeSezioni) {
+  TipoLineaCorrente = 2;
+  Linea(-0.25, 0, 1e16, 12.5, 3);
+  Testo("A b", -0.25, -1e-5, 0, 1.5, 2.5, 0);
+  Testo("due\r\nrighe", -0.25, 0, -90, 0.5, 1, 4);
+  Testo("sparisce", 70, 80, 0, 0.04, 1, 4);
+  Cerchio(1e16, 12.5, 8, 6);
+  Cerchio(1e16, 12.5, 8, 6);
+  Disegno.Punti.numero = 1;
+  Disegno.Punti[0] = {1, 7, -8};
+  EXPECT_EQ(Salvato(), Righe("                   3|-.25  1E+16 | 0  80 |-10000.000000        10000.000000|"
+                             " 3 |-.25  0  0 | 1E+16  12.5  0 | 1E+16  12.5  0 |"
+                             " 1 | 1 -8  7 | 1 | 0  1  3  2 |"
+                             " 2 | 0  1  0 | 1.5  2.5  1 |A b| 0  1 -90 | .5  1  4 |due  righe|"
+                             " 1 | 1  2  1  2 | 6  0 |"));
+}
+
+TEST_F(FileDisegno, Vuoto) {
+  AggiungiCoordinata(9, 9);
+  AggiungiCoordinata(-1.5, 4);
+  Salvato();
+  // Nothing referred to the two points: the last one is left in place 0.
+  EXPECT_EQ(
+      Salvato(4),
+      Righe("                   4|-1.5 -1.5 | 4  4 |-10000.000000        10000.000000| 0 | 0 | 0 | 0 | 0 |"));
+}
+
+TEST_F(FileDisegno, Avvisi) {
+  const std::string riuscito =
+      "message information \"SALVA FILE DISEGNO\" \"File " + nome_ + " salvato.\" -> ok\n";
+  const auto fallito = [](const std::string& nome) {
+    return "message none \"ERRORE\" \"Errore durante la scrittura sul file" + nome + "\" -> ok\n";
+  };
+  const std::string senzaCartella = (cartella_ / "manca/x.dis").string();
+  const struct {
+    std::string nome;
+    int modo;
+    int scritto;
+    std::string messaggio;
+  } casi[] = {
+      {nome_, 0, 1, riuscito},
+      {nome_, 1, 1, ""},
+      {nome_, 2, 1, ""},
+      {senzaCartella, 0, 0, fallito(senzaCartella)},
+      {senzaCartella, 1, 0, ""},
+      {senzaCartella, 2, 0, fallito(senzaCartella)},
+      {"/dev/full", 0, 0, fallito("/dev/full")},  // opens, and refuses every write
+  };
+  for (const auto& c : casi) {
+    Intero16 tipo = 0;
+    EXPECT_EQ(Mostrato([&] { SalvaDisegno(c.nome, tipo, c.modo); }), c.messaggio) << c.nome << ' ' << c.modo;
+    EXPECT_EQ(tipo, c.scritto) << c.nome << ' ' << c.modo;
+  }
+}
+
+}  // namespace
+}  // namespace tarvel::disegno
