@@ -2,13 +2,12 @@
 #include "platform/qt/finestra.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/desktop.h"
 #include "platform/qt/fuoco.h"
@@ -34,11 +33,14 @@ class Vedetta : public QObject {
     if (finestra_.form == nullptr) return false;
     const auto tipo = evento->type();
     if (tipo != QEvent::FocusIn && tipo != QEvent::KeyPress && tipo != QEvent::MouseButtonPress) return false;
+    const bool colMouse =
+        tipo == QEvent::MouseButtonPress ||
+        (tipo == QEvent::FocusIn && static_cast<QFocusEvent*>(evento)->reason() == Qt::MouseFocusReason);
+    if (tipo == QEvent::FocusIn) clickInterrotto_ = false;
+    const int prima = LoopAperti();
     RaggiungeControllo(finestra_, &controllo_);
-    if (tipo != QEvent::MouseButtonPress ||
-        QGuiApplication::mouseButtons().testFlag(static_cast<QMouseEvent*>(evento)->button()))
-      return false;
-    // The control left has shown a message, which has taken the release: the click is done.
+    if (LoopAperti() != prima) clickInterrotto_ = colMouse;
+    if (tipo != QEvent::MouseButtonPress || !std::exchange(clickInterrotto_, false)) return false;
     if (auto* bottone = qobject_cast<QPushButton*>(parent())) bottone->click();
     return true;
   }
@@ -46,6 +48,9 @@ class Vedetta : public QObject {
  private:
   Finestra& finestra_;
   Controllo& controllo_;
+  // The control left by this click has shown a message: the release may have gone there, and the
+  // press alone counts.
+  bool clickInterrotto_ = false;
 };
 
 QColor InQColor(Colore colore) {

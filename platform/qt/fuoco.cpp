@@ -11,6 +11,7 @@ namespace tarvel {
 namespace {
 
 int messaggi = 0;
+int loopAperti = 0;
 int livelloModale = 0;
 Controllo* colFuoco = nullptr;
 std::vector<Finestra*> ordine;  // the windows on the screen, the last used one at the end
@@ -54,12 +55,16 @@ Finestra* FinestraAttiva() {
   return ordine.empty() ? nullptr : ordine.back();
 }
 
+int LoopAperti() {
+  return loopAperti;
+}
+
 int LivelloModale() {
   return livelloModale;
 }
 
 LivelloInPiu::LivelloInPiu() {
-  ++livelloModale;
+  ++livelloModale, ++loopAperti;
 }
 
 LivelloInPiu::~LivelloInPiu() {
@@ -68,7 +73,7 @@ LivelloInPiu::~LivelloInPiu() {
 }
 
 MessaggioAperto::MessaggioAperto() {
-  ++messaggi;
+  ++messaggi, ++loopAperti;
 }
 
 MessaggioAperto::~MessaggioAperto() {

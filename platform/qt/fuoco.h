@@ -19,6 +19,9 @@ void RendeFuoco(const Finestra& finestra);
 /// The window that holds the focus; nullptr when none is shown.
 Finestra* FinestraAttiva();
 
+/// Message boxes and modal forms opened so far: tells whether one came in between.
+int LoopAperti();
+
 /// How many modal forms are shown. Only the forms shown at this level can be used.
 int LivelloModale();
 
