@@ -58,7 +58,7 @@ void Clic(QWidget* widget, QPoint punto, Qt::KeyboardModifiers con = {}) {
 bool Attiva(QWidget* widget) {
   if (widget == nullptr || !widget->isVisible()) return false;
   widget->activateWindow();
-  return QTest::qWaitForWindowActive(widget->window());
+  return QTest::qWaitFor([&] { return QApplication::activeWindow() == widget->window(); });
 }
 
 struct Pronta {
@@ -184,7 +184,8 @@ class UtenteQt : public Utente {
       return Risponde(riquadro);
     const bool agisceGia = !livelli_.empty() && LivelloModale() <= livelli_.back();
     if (Occupato() || agisceGia || Attende()) return;
-    if (FinestraAttiva() != nullptr && !Attiva(FinestraAttiva())) return;
+    if (FinestraAttiva() != nullptr && QApplication::activeWindow() != FinestraAttiva())
+      return FinestraAttiva()->activateWindow();  // it is on its way
     if (passi_.empty()) TerminaProgramma(0);
     const Passo passo = std::move(passi_.front());
     passi_.pop_front();
