@@ -1,0 +1,79 @@
+// The start of the program in a window.
+#include "platform/qt/avvio.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QLibraryInfo>
+#include <QPalette>
+#include <QTranslator>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+
+#include "platform/desktop.h"
+#include "platform/qt/gestori.h"
+#include "platform/qt/scala.h"
+#include "platform/qt/testo_qt.h"
+
+namespace tarvel {
+namespace {
+
+Testo rigaComando;
+
+// The forms choose their own colours for a light desktop, so the rest has to be light as well.
+QPalette Chiara() {
+  QPalette colori(QColor(236, 236, 236), QColor(236, 236, 236));
+  colori.setColor(QPalette::Highlight, QColor(0, 84, 166));
+  colori.setColor(QPalette::HighlightedText, Qt::white);
+  colori.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+  colori.setColor(QPalette::ToolTipText, Qt::black);
+  return colori;
+}
+
+}  // namespace
+
+Testo RigaComando() {
+  return rigaComando;
+}
+
+void PreparaDesktop(int argc, char** argv, const Form& principale) {
+  for (int i = 1; i < argc; ++i) {
+    if (i > 1) rigaComando += ' ';
+    rigaComando += DaUtf8(argv[i]);
+  }
+
+  // Keys for the viewer go through X11, natively or by the X server that Wayland desktops run.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+
+  // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,
+  // and so does the application object, which the process's end takes away.
+  static int solo = 1;
+  new QApplication(solo, argv);
+  std::setlocale(LC_NUMERIC, "C");
+
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle("Fusion");
+  QApplication::setPalette(Chiara());
+  auto* italiano = new QTranslator(qApp);
+  if (italiano->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(italiano);
+
+  ScegliScala(principale);
+  QFont messaggi = QApplication::font();
+  messaggi.setPointSizeF(std::max(messaggi.pointSizeF(), Punti(Carattere())));
+  QApplication::setFont(messaggi);
+}
+
+int EseguiProgramma(int argc, char** argv, Form& principale) {
+  PreparaDesktop(argc, argv, principale);
+  EseguiGestore([&] { MostraForm(principale); });
+  return QApplication::exec();
+}
+
+void TerminaProgramma(int stato) {
+  std::fflush(nullptr);
+  std::_Exit(stato);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,51 @@
+// Message boxes.
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/desktop.h"
+#include "platform/qt/fuoco.h"
+#include "platform/qt/gestori.h"
+#include "platform/qt/testo_qt.h"
+
+namespace tarvel {
+namespace {
+
+QMessageBox::Icon InQt(Icona icona) {
+  switch (icona) {
+    case Icona::Stop:
+      return QMessageBox::Critical;
+    case Icona::Esclamazione:
+      return QMessageBox::Warning;
+    case Icona::Informazione:
+      return QMessageBox::Information;
+    case Icona::Nessuna:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, Bottoni bottoni) {
+  Risposta risposta = Risposta::Ok;
+  // As a handler: timers wait until the box has gone.
+  EseguiGestore([&] {
+    const MessaggioAperto aperto;
+    QMessageBox riquadro(InQt(icona), InQt(titolo), InQt(testo), QMessageBox::NoButton, FinestraAttiva());
+    riquadro.setTextFormat(Qt::PlainText);
+    riquadro.setObjectName("messaggio");
+    QPushButton* si = nullptr;
+    if (bottoni == Bottoni::SiNo) {
+      si = riquadro.addButton(QStringLiteral("&Sì"), QMessageBox::YesRole);
+      riquadro.setDefaultButton(si);
+      riquadro.setEscapeButton(riquadro.addButton(QStringLiteral("&No"), QMessageBox::NoRole));
+    } else {
+      riquadro.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    }
+    riquadro.exec();
+    if (si != nullptr) risposta = riquadro.clickedButton() == si ? Risposta::Si : Risposta::No;
+  });
+  return risposta;
+}
+
+}  // namespace tarvel

@@ -1,0 +1,271 @@
+// The suite's user at a real window, by mouse and keyboard events. Every case runs the program in a
+// process of its own, as the program leaves its process when it ends; the diary comes by a pipe.
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <deque>
+
+#include "platform/qt/avvio.h"
+#include "platform/qt/finestra.h"
+#include "platform/qt/fuoco.h"
+#include "platform/qt/gestori.h"
+#include "platform/qt/testo_qt.h"
+#include "tests/contratto/utente.h"
+
+namespace tarvel::contratto {
+namespace {
+
+constexpr int kPazienza = 5000;      // milliseconds for a line that does not come
+constexpr unsigned kTempoCaso = 20;  // seconds after which a case that hangs is ended
+
+Finestra* FinestraCon(const std::function<bool(const Finestra&)>& quale) {
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (auto* finestra = dynamic_cast<Finestra*>(widget);
+        finestra != nullptr && finestra->form != nullptr && quale(*finestra))
+      return finestra;
+  return nullptr;
+}
+
+Finestra* FinestraDi(const Form& form) {
+  return FinestraCon([&](const Finestra& f) { return f.form == &form && f.isVisible(); });
+}
+
+QWidget* WidgetDi(const Controllo& controllo) {
+  const Finestra* finestra = FinestraCon([&](const Finestra& f) { return f.WidgetDi(controllo) != nullptr; });
+  return finestra == nullptr ? nullptr : finestra->WidgetDi(controllo);
+}
+
+void Clic(QWidget* widget, QPoint punto, Qt::KeyboardModifiers con = {}) {
+  QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, con,
+                    widget->mapTo(widget->window(), punto));
+}
+
+// The window manager's part: a window that the user clicks becomes the active one.
+bool Attiva(QWidget* widget) {
+  if (widget == nullptr || !widget->isVisible()) return false;
+  widget->activateWindow();
+  return QTest::qWaitFor([&] { return QApplication::activeWindow() == widget->window(); });
+}
+
+struct Pronta {
+  Risposta risposta;
+  int attesa;
+};
+
+class UtenteQt : public Utente {
+ public:
+  explicit UtenteQt(int diario) : diario_(diario) {}
+
+  void Esegui(Form& principale, std::vector<Passo> passi) override {
+    passi_.assign(passi.begin(), passi.end());
+    std::string nome = "contratto-qt";
+    char* argomenti[] = {nome.data(), nullptr};
+    PreparaDesktop(1, argomenti, principale);
+    Guarda();
+    EseguiGestore([&] { MostraForm(principale); });
+    QApplication::exec();
+  }
+
+  void Annota(const std::string& riga) override {
+    righe_.push_back(riga);
+    const std::string scritta = riga + '\n';
+    if (write(diario_, scritta.data(), scritta.size()) < 0) std::perror("contratto-qt");
+  }
+
+  void Vai(Controllo& controllo) override {
+    QWidget* const widget = Usabile(controllo);
+    if (widget == nullptr || widget->hasFocus()) return;
+    QWindow* const finestra = widget->window()->windowHandle();
+    if (controllo.tipo == TipoControllo::Casella) return Clic(widget, widget->rect().center());
+    // A button pressed and left with the mouse held is no click.
+    QTest::mousePress(finestra, Qt::LeftButton, {}, widget->geometry().center());
+    QTest::mouseMove(finestra, QPoint(1, 1));
+    QTest::mouseRelease(finestra, Qt::LeftButton, {}, QPoint(1, 1));
+  }
+
+  void Clicca(Controllo& controllo) override {
+    if (QWidget* widget = Usabile(controllo)) Clic(widget, widget->rect().center());
+  }
+
+  void Scrivi(Controllo& casella, const Testo& testo) override {
+    Vai(casella);
+    if (!ColFuoco(casella)) return;
+    QTest::keyClick(QApplication::focusWindow(), Qt::Key_A, Qt::ControlModifier);
+    if (testo.empty()) return QTest::keyClick(QApplication::focusWindow(), Qt::Key_Backspace);
+    for (const QChar c : InQt(testo))
+      QTest::sendKeyEvent(QTest::Click, QApplication::focusWindow(), Qt::Key_unknown, QString(c), {});
+  }
+
+  void Invio(Controllo& controllo) override {
+    Vai(controllo);
+    if (ColFuoco(controllo)) QTest::keyClick(QApplication::focusWindow(), Qt::Key_Return);
+  }
+
+  void Seleziona(Controllo& controllo, const std::vector<int>& voci) override {
+    auto* const lista = static_cast<QListWidget*>(Usabile(controllo));
+    if (lista == nullptr) return;
+    for (std::size_t i = 0; i < voci.size(); ++i)
+      Clic(lista->viewport(), lista->visualItemRect(lista->item(voci[i])).center(),
+           i == 0 ? Qt::NoModifier : Qt::ControlModifier);
+  }
+
+  void DoppioClick(Controllo& controllo, int voce) override {
+    auto* const lista = static_cast<QListWidget*>(Usabile(controllo));
+    if (lista == nullptr) return;
+    const QPoint punto = lista->visualItemRect(lista->item(voce)).center();
+    QTest::mouseDClick(lista->window()->windowHandle(), Qt::LeftButton, {},
+                       lista->viewport()->mapTo(lista->window(), punto));
+  }
+
+  void Chiudi(Form& form) override {
+    if (Finestra* finestra = FinestraDi(form)) finestra->windowHandle()->close();
+  }
+
+  void Rispondi(Risposta risposta, int attesa) override { pronte_.push_back({risposta, attesa}); }
+
+  void AspettaRiga(const std::string& riga) override {
+    aspettata_ = riga;
+    daQuando_.start();
+  }
+
+  bool Vede(const Form& form) override { return FinestraDi(form) != nullptr; }
+
+  Testo Legge(const Controllo& controllo) override {
+    QWidget* const widget = WidgetDi(controllo);
+    if (widget == nullptr) return controllo.testo;
+    switch (controllo.tipo) {
+      case TipoControllo::Casella:
+        return DaQt(static_cast<QLineEdit*>(widget)->text());
+      case TipoControllo::Bottone:
+        return DaQt(static_cast<QAbstractButton*>(widget)->text());
+      case TipoControllo::Etichetta:
+        return DaQt(static_cast<QLabel*>(widget)->text());
+      case TipoControllo::Lista:
+        break;
+    }
+    const auto& lista = static_cast<const QListWidget&>(*widget);
+    QStringList voci;
+    for (int i = 0; i < lista.count(); ++i)
+      voci += (lista.item(i)->isSelected() ? "*" : "") + lista.item(i)->text();
+    return DaQt(voci.join('|'));
+  }
+
+ private:
+  // The widget of a control that a user can reach now, its window made the active one.
+  static QWidget* Usabile(const Controllo& controllo) {
+    QWidget* const widget = WidgetDi(controllo);
+    const auto* finestra = widget == nullptr ? nullptr : static_cast<Finestra*>(widget->window());
+    return finestra != nullptr && finestra->livello >= LivelloModale() && Attiva(widget) ? widget : nullptr;
+  }
+
+  static bool ColFuoco(const Controllo& controllo) {
+    return QApplication::focusWidget() != nullptr && QApplication::focusWidget() == WidgetDi(controllo);
+  }
+
+  // Called again and again, in whichever loop; a loop inside one call has calls of its own.
+  void Guarda() {
+    QTimer::singleShot(1, [this] { Guarda(); });
+    if (FinestraAttiva() == nullptr && !Occupato()) return;
+    if (auto* riquadro = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+      return Risponde(riquadro);
+    const bool agisceGia = !livelli_.empty() && LivelloModale() <= livelli_.back();
+    if (Occupato() || agisceGia || Attende()) return;
+    if (FinestraAttiva() != nullptr && QApplication::activeWindow() != FinestraAttiva())
+      return FinestraAttiva()->activateWindow();  // it is on its way
+    if (passi_.empty()) TerminaProgramma(0);
+    const Passo passo = std::move(passi_.front());
+    passi_.pop_front();
+    livelli_.push_back(LivelloModale());
+    passo();
+    livelli_.pop_back();
+  }
+
+  bool Attende() const {
+    return !aspettata_.empty() && daQuando_.elapsed() < kPazienza &&
+           std::find(righe_.begin(), righe_.end(), aspettata_) == righe_.end();
+  }
+
+  void Risponde(QMessageBox* riquadro) {
+    if (riquadro == risposto_) return;
+    risposto_ = riquadro;
+    const bool domanda = riquadro->buttons().size() == 2;
+    std::optional<Pronta> pronta;
+    if (!pronte_.empty()) {
+      pronta = pronte_.front();
+      pronte_.pop_front();
+    }
+    QTimer::singleShot(pronta ? pronta->attesa : 0, riquadro, [=, this] {
+      static constexpr std::array kIcone{QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Warning,
+                                         QMessageBox::Information};
+      const auto icona = std::find(kIcone.begin(), kIcone.end(), riquadro->icon()) - kIcone.begin();
+      const Risposta risposta = pronta ? pronta->risposta : domanda ? Risposta::No : Risposta::Ok;
+      Annota(RigaMessaggio(static_cast<Icona>(icona), domanda ? Bottoni::SiNo : Bottoni::Ok,
+                           DaQt(riquadro->windowTitle()), DaQt(riquadro->text()), risposta));
+      if (!pronta) return void(riquadro->windowHandle()->close());
+      const auto bottoni = riquadro->buttons();
+      const auto ruolo = risposta == Risposta::Ok   ? QMessageBox::AcceptRole
+                         : risposta == Risposta::Si ? QMessageBox::YesRole
+                                                    : QMessageBox::NoRole;
+      for (QAbstractButton* bottone : bottoni)
+        if (riquadro->buttonRole(bottone) == ruolo) return Clic(bottone, bottone->rect().center());
+    });
+  }
+
+  const int diario_;
+  std::vector<std::string> righe_;
+  std::deque<Passo> passi_;
+  std::deque<Pronta> pronte_;
+  std::vector<int> livelli_;  // modal forms shown at each of the steps under way, one inside the other
+  std::string aspettata_;
+  QElapsedTimer daQuando_;
+  QPointer<QMessageBox> risposto_;
+};
+
+}  // namespace
+
+Esito Prova(const std::function<void(Utente&)>& caso) {
+  std::fflush(nullptr);
+  int capi[2];
+  if (pipe(capi) != 0) return {};
+  const pid_t figlio = fork();
+  if (figlio == 0) {
+    alarm(kTempoCaso);
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    UtenteQt utente(capi[1]);
+    caso(utente);
+    std::_Exit(99);  // a case runs the program to its end
+  }
+  close(capi[1]);
+  std::string tutto;
+  std::array<char, 4096> blocco;
+  for (ssize_t letti = 0; (letti = read(capi[0], blocco.data(), blocco.size())) > 0;)
+    tutto.append(blocco.data(), static_cast<std::size_t>(letti));
+  close(capi[0]);
+
+  Esito esito;
+  for (std::size_t inizio = 0; inizio < tutto.size();) {
+    const std::size_t fine = tutto.find('\n', inizio);
+    esito.diario.push_back(tutto.substr(inizio, fine - inizio));
+    inizio = fine + 1;
+  }
+  int stato = 0;
+  waitpid(figlio, &stato, 0);
+  if (WIFEXITED(stato)) esito.stato = WEXITSTATUS(stato);
+  return esito;
+}
+
+}  // namespace tarvel::contratto
