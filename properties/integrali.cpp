@@ -3,26 +3,17 @@
 
 namespace tarvel {
 
-namespace {
-
-template <int N>
-Reale Differenza(Punto da, Punto a) {
-  return Potenza(a.z, N) - Potenza(da.z, N);
-}
-
-}  // namespace
-
-std::optional<Segmento> SegmentoDi(Punto da, Punto a) {
-  const Reale d1 = a.z - da.z;
+std::optional<Segmento> SegmentoDi(const Estremo& da, const Estremo& a) {
+  const Reale d1 = a.p.z - da.p.z;
   if (Assoluto(d1) <= kTolleranza) return std::nullopt;
-  const Reale m = (a.y - da.y) / d1;
-  return Segmento{m, da.y - m * da.z, d1, Differenza<2>(da, a), Differenza<3>(da, a)};
+  const Reale m = (a.p.y - da.p.y) / d1;
+  return Segmento{m, da.p.y - m * da.p.z, d1, a.z2 - da.z2, a.z3 - da.z3};
 }
 
-std::optional<SegmentoQuarto> SegmentoQuartoDi(Punto da, Punto a) {
-  const auto s = SegmentoDi(da, a);
+std::optional<SegmentoQuarto> SegmentoDi(const EstremoQuarto& da, const EstremoQuarto& a) {
+  const auto s = SegmentoDi(static_cast<const Estremo&>(da), a);
   if (!s) return std::nullopt;
-  return SegmentoQuarto{*s, Differenza<4>(da, a)};
+  return SegmentoQuarto{*s, a.z4 - da.z4};
 }
 
 Reale MomStaticoY(const Segmento& s) {

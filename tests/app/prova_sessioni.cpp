@@ -80,9 +80,10 @@ struct Sessione {
   std::string Recita() const {
     const fs::path uscita = cartella / "uscita", errori = cartella / "errori";
     const std::string radice = cartella.radice.string();
-    const std::string comando = std::string(PROGRAMMA_HEADLESS) + " --script '" + (cartella / "copione").string() + "' " +
-                                opzioni + " -- '" + Sostituisci(argomento, "{radice}", radice) + "' >" +
-                                uscita.string() + " 2>" + errori.string();
+    const std::string comando = std::string(PROGRAMMA_HEADLESS) + " --script '" +
+                                (cartella / "copione").string() + "' " + opzioni + " -- '" +
+                                Sostituisci(argomento, "{radice}", radice) + "' >" + uscita.string() + " 2>" +
+                                errori.string();
     const int stato = std::system(comando.c_str());
     std::string testo =
         Contenuto(uscita) + Contenuto(errori) + "stato " + std::to_string(WEXITSTATUS(stato)) + "\n";
