@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/comune/scala.h"
 #include "platform/file.h"
 #include "viewer/avvio.h"
 #include "viewer/caricamento.h"
@@ -37,16 +38,9 @@ std::optional<Avvio> CercaAvvio() {
   return LeggiAvvio(tarvel::PercorsoHost(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio));
 }
 
-// A fifteenth of a pixel to the twip, enlarged where the screen is larger than the main form and
-// the viewer below it need, but never so far that the two fill it.
 void Disponi(QWidget& finestra, const PostoFinestra& posto) {
-  constexpr double kTwipPixel = 15, kLarghezza = 10850 / kTwipPixel, kAltezza = 9150 / kTwipPixel + 60;
-  constexpr double kParteSchermo = 0.9, kMassimaScala = 2.5;
   const QRect schermo = finestra.screen()->availableGeometry();
-  const double scala =
-      std::clamp(kParteSchermo * std::min(schermo.width() / kLarghezza, schermo.height() / kAltezza), 1.0,
-                 kMassimaScala) /
-      kTwipPixel;
+  const double scala = tarvel::PixelPerTwip(schermo.width(), schermo.height());
   const QSize misura =
       QSize(qRound(posto.larghezza * scala), qRound(posto.altezza * scala)).boundedTo(schermo.size());
   const QPoint angolo(qRound(posto.sinistra * scala), qRound(posto.alto * scala));

@@ -1,0 +1,20 @@
+// One scale for the main window and the viewer's, two programs that stand one below the other.
+#pragma once
+
+#include <algorithm>
+
+namespace tarvel {
+
+/// Pixels per twip for a screen of this size in pixels. A fifteenth at scale 1, enlarged on larger
+/// screens, but never so far that the main window and the viewer below it fill more than nine tenths
+/// of either side.
+inline double PixelPerTwip(double larghezzaSchermo, double altezzaSchermo) {
+  constexpr double kTwipPixel = 15;
+  // Right end of the viewer's window and its lower end, with the title bars.
+  constexpr double kLarghezza = 10850 / kTwipPixel, kAltezza = 9150 / kTwipPixel + 60;
+  constexpr double kParteSchermo = 0.9, kMassimaScala = 3;
+  const double scala = kParteSchermo * std::min(larghezzaSchermo / kLarghezza, altezzaSchermo / kAltezza);
+  return std::clamp(scala, 1.0, kMassimaScala) / kTwipPixel;
+}
+
+}  // namespace tarvel
