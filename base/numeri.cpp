@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 
 namespace tarvel {
@@ -17,32 +18,32 @@ bool Cifra(char c) {
   return c >= '0' && c <= '9';
 }
 
-// The significant digits of a magnitude, without trailing zeros, and the exponent of the first.
+// The significant digits of a magnitude, without trailing zeros, and the exponent of the first. The
+// digits stand in the buffer of who asks.
 struct Cifre {
-  std::array<char, 20> cifra{};
-  int quante = 0;
+  std::string_view cifre;
   int esponente = 0;
 };
+using BufferCifre = std::array<char, 32>;
 
-Cifre Scomponi(double grandezza) {
-  std::array<char, 32> testo{};
-  auto fine =
-      std::to_chars(testo.data(), testo.data() + testo.size(), grandezza, std::chars_format::scientific).ptr;
-  const auto lunghezzaMantissa = [&] {
-    return std::string_view(testo.data(), fine - testo.data()).find('e');
-  };
-  if (lunghezzaMantissa() > kCifre + 1)
-    fine = std::to_chars(testo.data(), testo.data() + testo.size(), grandezza, std::chars_format::scientific,
-                         kCifre - 1)
-               .ptr;
-
+Cifre Scomponi(double grandezza, BufferCifre& buffer) {
+  char* const inizio = buffer.data();
+  char* const limite = inizio + buffer.size();
+  const char* fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific).ptr;
+  const char* e = std::find(inizio + 1, limite, 'e');
+  if (e - inizio > kCifre + 1) {
+    fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific, kCifre - 1).ptr;
+    e = std::find(inizio + 1, limite, 'e');
+  }
   Cifre esito;
-  const char* p = testo.data();
-  for (; *p != 'e'; ++p)
-    if (*p != '.') esito.cifra[static_cast<std::size_t>(esito.quante++)] = *p;
-  while (esito.quante > 1 && esito.cifra[static_cast<std::size_t>(esito.quante - 1)] == '0') --esito.quante;
-  p += p[1] == '+' ? 2 : 1;
-  std::from_chars(p, fine, esito.esponente);
+  std::from_chars(e + (e[1] == '+' ? 2 : 1), fine, esito.esponente);
+  if (inizio[1] == '.') {
+    inizio[1] = inizio[0];  // over the point, next to the others
+    while (e[-1] == '0') --e;
+    esito.cifre = {inizio + 1, e};
+  } else {
+    esito.cifre = {inizio, e};
+  }
   return esito;
 }
 
@@ -52,6 +53,25 @@ void AccodaEsponente(Testo& testo, int esponente) {
   const int grandezza = std::abs(esponente);
   if (grandezza < 10) testo += '0';
   testo += std::to_string(grandezza);
+}
+
+// Whole numbers and hundredths, nearly all that is written, go by integers. That is exact: of the
+// decimals of at most 15 digits only one is read back as a given double.
+bool AccodaCentesimi(Testo& testo, double v, char separatore, bool zeroIniziale) {
+  const double centesimi = std::nearbyint(v * 100);
+  if (!(std::fabs(centesimi) < 1e15) || centesimi / 100 != v) return false;
+  const long long n = std::llabs(static_cast<long long>(centesimi));
+  const auto decimali = static_cast<int>(n % 100);
+  if (v < 0) testo += '-';
+  if (n >= 100 || decimali == 0 || zeroIniziale) {
+    BufferCifre buffer;
+    const auto fine = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n / 100).ptr;
+    testo.append(buffer.data(), fine);
+  }
+  if (decimali == 0) return true;
+  (testo += separatore) += static_cast<char>('0' + decimali / 10);
+  if (decimali % 10 != 0) testo += static_cast<char>('0' + decimali % 10);
+  return true;
 }
 
 // A decimal number at the start of `s`: sign, digits with one point, exponent.
@@ -157,24 +177,21 @@ std::optional<Testo> Invariante(std::string_view testo, char decimale, char migl
 
 void AccodaNumero(Testo& testo, Reale valore, char separatore, bool zeroIniziale) {
   const double v = valore.Valore();
-  if (v == 0) {
-    testo += '0';
-    return;
-  }
+  if (AccodaCentesimi(testo, v, separatore, zeroIniziale)) return;
   if (v < 0) testo += '-';
-  const Cifre c = Scomponi(std::fabs(v));
-  const auto cifre = std::string_view(c.cifra.data(), static_cast<std::size_t>(c.quante));
-  if (c.esponente >= kCifre || c.esponente < -4) {
+  BufferCifre buffer;
+  const auto [cifre, esponente] = Scomponi(std::fabs(v), buffer);
+  if (esponente >= kCifre || esponente < -4) {
     testo += cifre[0];
-    if (c.quante > 1) (testo += separatore) += cifre.substr(1);
-    AccodaEsponente(testo, c.esponente);
-  } else if (c.esponente < 0) {
+    if (cifre.size() > 1) (testo += separatore) += cifre.substr(1);
+    AccodaEsponente(testo, esponente);
+  } else if (esponente < 0) {
     if (zeroIniziale) testo += '0';
     testo += separatore;
-    testo.append(static_cast<std::size_t>(-c.esponente - 1), '0');
+    testo.append(static_cast<std::size_t>(-esponente - 1), '0');
     testo += cifre;
   } else {
-    const auto intere = static_cast<std::size_t>(c.esponente + 1);
+    const auto intere = static_cast<std::size_t>(esponente) + 1;
     testo += cifre.substr(0, intere);
     if (cifre.size() < intere) testo.append(intere - cifre.size(), '0');
     if (cifre.size() > intere) (testo += separatore) += cifre.substr(intere);
@@ -194,11 +211,10 @@ void AccodaStampato(Testo& testo, Reale valore, char separatore) {
 }
 
 Reale ConvertiNumero(std::string_view testo) {
-  constexpr std::string_view kIgnorati = " \t\n";
+  const auto ignorato = [](char c) { return c == ' ' || c == '\t' || c == '\n'; };
   Testo pulito;
-  if (testo.find_first_of(kIgnorati) != std::string_view::npos) {
-    for (const char c : testo)
-      if (kIgnorati.find(c) == std::string_view::npos) pulito += c;
+  if (std::any_of(testo.begin(), testo.end(), ignorato)) {
+    std::remove_copy_if(testo.begin(), testo.end(), std::back_inserter(pulito), ignorato);
     testo = pulito;
   }
   if (testo.size() >= 2 && testo[0] == '&') {

@@ -21,20 +21,14 @@ struct Sommatori {
   Reale MomStaticoZTot;  // ∫ y dA
 };
 
-// Calls lavoro(from, to) for each edge of a polygon.
-template <class Lavoro>
-void PerOgniLatoDi(const GeometriaSezione& g, int poligono, int n, Lavoro lavoro) {
-  PerOgniLato(
-      n, [&](int v) { return g.Vertice(poligono, v); }, lavoro);
-}
-
 // `segno`: -1 for the whole section (counter-clockwise outline), +1 for the clockwise parts.
 // Vertical edges contribute nothing, not even to the area.
 void SommaAreaStatici(RecordSezione& r, int poligono, int n, int segno, Sommatori& somme) {
-  PerOgniLatoDi(r, poligono, n, [&](Punto da, Punto a) {
+  const auto vertice = [&](int v) { return Estremo(r.Vertice(poligono, v)); };
+  PerOgniLato(n, vertice, [&](const Estremo& da, const Estremo& a) {
     const auto s = SegmentoDi(da, a);
     if (!s) return;
-    r.An += segno * AreaTrapezio(da, a);
+    r.An += segno * AreaTrapezio(da.p, a.p);
     somme.MomStaticoYTot += segno * MomStaticoY(*s);
     somme.MomStaticoZTot += segno * MomStaticoZ(*s);
   });
@@ -42,8 +36,9 @@ void SommaAreaStatici(RecordSezione& r, int poligono, int n, int segno, Sommator
 
 // Second moments of the outline of `g`, added to those of `r`; Jt takes the product moment.
 void SommaInerzie(const GeometriaSezione& g, RecordSezione& r, int poligono, int n, int segno) {
-  PerOgniLatoDi(g, poligono, n, [&](Punto da, Punto a) {
-    const auto s = SegmentoQuartoDi(da, a);
+  const auto vertice = [&](int v) { return EstremoQuarto(g.Vertice(poligono, v)); };
+  PerOgniLato(n, vertice, [&](const EstremoQuarto& da, const EstremoQuarto& a) {
+    const auto s = SegmentoDi(da, a);
     if (!s) return;
     r.Jyg += segno * MomInerziaY(*s);
     r.Jzg += segno * MomInerziaZ(*s);

@@ -3,25 +3,17 @@
 
 namespace tarvel {
 
-namespace {
-
-Reale Differenza(Punto da, Punto a, double n) {
-  return Potenza(a.z, n) - Potenza(da.z, n);
-}
-
-}  // namespace
-
-std::optional<Segmento> SegmentoDi(Punto da, Punto a) {
-  const Reale d1 = a.z - da.z;
+std::optional<Segmento> SegmentoDi(const Estremo& da, const Estremo& a) {
+  const Reale d1 = a.p.z - da.p.z;
   if (Assoluto(d1) <= kTolleranza) return std::nullopt;
-  const Reale m = (a.y - da.y) / d1;
-  return Segmento{m, da.y - m * da.z, d1, Differenza(da, a, 2), Differenza(da, a, 3)};
+  const Reale m = (a.p.y - da.p.y) / d1;
+  return Segmento{m, da.p.y - m * da.p.z, d1, a.z2 - da.z2, a.z3 - da.z3};
 }
 
-std::optional<SegmentoQuarto> SegmentoQuartoDi(Punto da, Punto a) {
-  const auto s = SegmentoDi(da, a);
+std::optional<SegmentoQuarto> SegmentoDi(const EstremoQuarto& da, const EstremoQuarto& a) {
+  const auto s = SegmentoDi(static_cast<const Estremo&>(da), a);
   if (!s) return std::nullopt;
-  return SegmentoQuarto{*s, Differenza(da, a, 4)};
+  return SegmentoQuarto{*s, a.z4 - da.z4};
 }
 
 Reale MomStaticoY(const Segmento& s) {

@@ -141,14 +141,13 @@ MomentiStatici Esegui(const RecordSezione& copia, std::span<const Taglio> tagli,
 
 MomentiStatici MomentiStaticiPoligono(std::span<const Punto> vertici, int k) {
   MomentiStatici m;
-  PerOgniLato(
-      static_cast<int>(vertici.size()), [&](int v) { return vertici[static_cast<std::size_t>(v - 1)]; },
-      [&](Punto da, Punto a) {
-        const auto s = SegmentoDi(da, a);
-        if (!s) return;
-        m.MomStaticoParteZ += k * MomStaticoZ(*s);
-        m.MomStaticoParteY += k * MomStaticoY(*s);
-      });
+  const auto vertice = [&](int v) { return Estremo(vertici[static_cast<std::size_t>(v - 1)]); };
+  PerOgniLato(static_cast<int>(vertici.size()), vertice, [&](const Estremo& da, const Estremo& a) {
+    const auto s = SegmentoDi(da, a);
+    if (!s) return;
+    m.MomStaticoParteZ += k * MomStaticoZ(*s);
+    m.MomStaticoParteY += k * MomStaticoY(*s);
+  });
   return m;
 }
 

@@ -109,16 +109,21 @@ std::string_view FileInLettura::LeggiRiga() {
 std::string_view FileInLettura::LeggiVoce(bool fineAlBlanco) {
   Prepara();
   const std::string_view riga = riga_;
-  const auto salta = [&](std::size_t da) { return std::min(riga.find_first_not_of(" \t", da), riga.size()); };
+  const auto blanco = [](char c) { return c == ' ' || c == '\t'; };
+  const auto primo = [&](std::size_t da, auto cercato) {
+    return static_cast<std::size_t>(
+        std::find_if(riga.begin() + static_cast<std::ptrdiff_t>(da), riga.end(), cercato) - riga.begin());
+  };
+  const auto salta = [&](std::size_t da) { return primo(da, [&](char c) { return !blanco(c); }); };
   std::size_t inizio = salta(letti_);
   std::size_t fine = 0;
   std::size_t dopo = 0;
   if (inizio < riga.size() && riga[inizio] == '"') {
     ++inizio;
-    fine = std::min(riga.find('"', inizio), riga.size());
+    fine = primo(inizio, [](char c) { return c == '"'; });
     dopo = std::min(fine + 1, riga.size());
   } else {
-    fine = dopo = std::min(riga.find_first_of(fineAlBlanco ? ", \t" : ",", inizio), riga.size());
+    fine = dopo = primo(inizio, [&](char c) { return c == ',' || (fineAlBlanco && blanco(c)); });
   }
   dopo = salta(dopo);
   rigaAperta_ = dopo < riga.size();

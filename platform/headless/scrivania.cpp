@@ -176,7 +176,7 @@ void MostraForm(Form& form) {
 
 void MostraFormModale(Form& form) {
   CaricaForm(form);
-  CicloModale& ciclo = gScrivania.modali.emplace_back(&form);
+  CicloModale& ciclo = gScrivania.modali.emplace_back(CicloModale{&form});
   Presenta(form, true);
   Gira(ciclo.finito);
   gScrivania.modali.pop_back();

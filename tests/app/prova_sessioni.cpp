@@ -5,6 +5,7 @@
 //   #: scrivi PATH TEXT     a file (\n: CR LF, \t)      #: togli PATH        removes a file or folder
 //   #: cartella PATH        a folder                #: argomento TEXT    in place of |diroot={radice}|
 //   #: opzioni ARGS         of the program          #: mostra PATH       adds a file to the transcript
+// A line "#=== NAME" begins another session of the same file, on a fresh installation.
 // {radice} stands for the installation's folder, also in the transcripts. With TARVEL_ACCETTA=1 in
 // the environment what was played becomes what is expected.
 #include <gtest/gtest.h>
@@ -34,13 +35,14 @@ std::string Minuscolo(std::string testo) {
 }
 
 struct Sessione {
-  explicit Sessione(const fs::path& copione) {
+  explicit Sessione(std::string testoCopione) : copione(std::move(testoCopione)) {
     for (const char* c : {"custom", "progra", "driver", "Lavori/PR0001"})
       fs::create_directories(cartella / c);
     Scrivi(cartella / "impostazioni/dirlav", (cartella / "Lavori").string() + "\r\n");
     Scrivi(cartella / "impostazioni/lavoro", " PR0001 \r\n");
     Scrivi(cartella / "progra/ostrel.exe", "");
-    std::istringstream righe(Contenuto(copione));
+    Scrivi(cartella / "copione", copione);
+    std::istringstream righe(copione);
     for (std::string riga; std::getline(righe, riga);)
       if (riga.starts_with("#: ")) Direttiva(riga.substr(3));
   }
@@ -75,12 +77,13 @@ struct Sessione {
     }
   }
 
-  std::string Recita(const fs::path& copione) const {
+  std::string Recita() const {
     const fs::path uscita = cartella / "uscita", errori = cartella / "errori";
     const std::string radice = cartella.radice.string();
-    const std::string comando = std::string(PROGRAMMA_HEADLESS) + " --script '" + copione.string() + "' " +
-                                opzioni + " -- '" + Sostituisci(argomento, "{radice}", radice) + "' >" +
-                                uscita.string() + " 2>" + errori.string();
+    const std::string comando = std::string(PROGRAMMA_HEADLESS) + " --script '" +
+                                (cartella / "copione").string() + "' " + opzioni + " -- '" +
+                                Sostituisci(argomento, "{radice}", radice) + "' >" + uscita.string() + " 2>" +
+                                errori.string();
     const int stato = std::system(comando.c_str());
     std::string testo =
         Contenuto(uscita) + Contenuto(errori) + "stato " + std::to_string(WEXITSTATUS(stato)) + "\n";
@@ -91,6 +94,7 @@ struct Sessione {
     return Sostituisci(Sostituisci(testo, radice, "{radice}"), Minuscolo(radice), "{radice}");
   }
 
+  std::string copione;
   Cartella cartella;
   std::string argomento = "|diroot={radice}|";
   std::string opzioni;
@@ -99,11 +103,26 @@ struct Sessione {
 
 class ProvaSessioni : public testing::TestWithParam<std::string> {};
 
+// The sessions of a file, each from its own line of marks on.
+std::vector<std::string> SessioniDi(const std::string& copione) {
+  std::vector<std::string> sessioni = {""};
+  std::istringstream righe(copione);
+  for (std::string riga; std::getline(righe, riga);) {
+    if (riga.starts_with("#=== ")) sessioni.emplace_back();
+    sessioni.back() += riga + "\n";
+  }
+  if (sessioni.size() > 1) sessioni.erase(sessioni.begin());  // the remarks at the top
+  return sessioni;
+}
+
 TEST_P(ProvaSessioni, ComeAttesa) {
   const fs::path copione = kSessioni / (GetParam() + ".copione"),
                  atteso = kSessioni / (GetParam() + ".atteso");
-  const Sessione sessione(copione);
-  const std::string recitata = sessione.Recita(copione);
+  std::string recitata;
+  for (const std::string& testo : SessioniDi(Contenuto(copione))) {
+    if (testo.starts_with("#=== ")) recitata += testo.substr(0, testo.find('\n') + 1);
+    recitata += Sessione(testo).Recita();
+  }
   if (std::getenv("TARVEL_ACCETTA") != nullptr) Scrivi(atteso, recitata);
   const std::string prevista = Contenuto(atteso);
   if (recitata == prevista) return;
@@ -123,8 +142,6 @@ TEST_P(ProvaSessioni, ComeAttesa) {
 
 // The table takes 500 sections; one more name is fatal and the file is as it was saved.
 TEST(Tabella, LaSezione501) {
-  const Cartella cartella;
-  const fs::path copione = cartella / "piena.copione";
   std::string testo =
       "type Text1(15) 1200\ntype Text1(0) 200\ntype Text1(9) 250\ntype Text1(13) 50\n"
       "type Text1(7) 25\ntype Text1(1) 25\ntype Text1(10) 50\ntype Text1(11) 60\n";
@@ -132,9 +149,8 @@ TEST(Tabella, LaSezione501) {
     testo += "type nome N" + std::to_string(n) + "\nclick Calcolo\n";
     if (n == 500) testo += "click Command2\n";
   }
-  Scrivi(copione, testo);
-  const Sessione sessione(copione);
-  const std::string recitata = sessione.Recita(copione);
+  const Sessione sessione(testo);
+  const std::string recitata = sessione.Recita();
   EXPECT_NE(
       recitata.find("Errore irreversibile: indice 501 fuori dai limiti (tabella TabellaSezioni, da 1 a 500; "
                     "calcolo della sezione N501)"),

@@ -135,19 +135,24 @@ TEST(ContrattoForm, AControlHearsOfAFormShownByAHandlerOnlyAfterTheHandler) {
 
 TEST(ContrattoForm, TheCloseBoxStoresWhatWasTypedBeforeTheUnloadHook) {
   const Esito esito = Prova([](Utente& u) {
+    FormDiario domanda(u, "M");
+    domanda.Bottone("x");
     FormDiario form(u, "F");
     Controllo& a = form.Casella("A");
     Temporizzatore timer;
     timer.scatto = [] { TerminaProgramma(7); };
     form.alloScarico = [&] {
       MostraMessaggio("Salvare?", "INFORMAZIONE", Icona::Informazione, Bottoni::SiNo);
+      MostraFormModale(domanda);
       AbilitaTimer(timer, true);
     };
     u.Rispondi(Risposta::Si);
-    u.Esegui(form, {[&] { u.Scrivi(a, "7"); }, [&] { u.Chiudi(form); }, [&] { u.AspettaRiga("mai"); }});
+    u.Esegui(form, {[&] { u.Scrivi(a, "7"); }, [&] { u.Chiudi(form); }, [&] { u.Chiudi(domanda); },
+                    [&] { u.AspettaRiga("mai"); }});
   });
   EXPECT_EQ(esito.diario, (Diario{"load F", "tasto A 55 ''", "perso A '7'", "unload F",
-                                  "messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si"}));
+                                  "messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si", "load M",
+                                  "unload M"}));
   EXPECT_EQ(esito.stato, 7);
 }
 

@@ -10,30 +10,6 @@ namespace {
 using prove::Costruita;
 using prove::Esempio;
 
-constexpr double kContorno[][2] = {{0, 0},        {0, -20},     {250, -28.75}, {300, -37.5}, {329.5, -185},
-                                   {870.5, -185}, {900, -37.5}, {950, -28.75}, {1200, -20},  {1200, 0},
-                                   {650, 13.75},  {600, 15},    {550, 13.75}};
-constexpr double kCella[][2] = {{359.7, -140}, {340, -41.5},  {400, -20},   {550, -11.25},
-                                {600, -10},    {650, -11.25}, {800, -20},   {860, -41.5},
-                                {840.3, -140}, {800.3, -160}, {399.7, -160}};
-
-TEST(Geometria, EsempioVerticePerVertice) {
-  const RecordSezione r = Costruita(Esempio());
-  EXPECT_EQ(r.NumPoligoni, 2);
-  EXPECT_EQ(r.NumVertici[1], 13);
-  EXPECT_EQ(r.NumVertici[2], 11);
-  int v = 0;
-  for (const auto& [z, y] : kContorno) {
-    EXPECT_NEAR(r.O(++v).z.Valore(), z, 1e-9) << 'O' << v;
-    EXPECT_NEAR(r.O(v).y.Valore(), y, 1e-9) << 'O' << v;
-  }
-  v = 0;
-  for (const auto& [z, y] : kCella) {
-    EXPECT_NEAR(r.C(++v).z.Valore(), z, 1e-9) << 'C' << v;
-    EXPECT_NEAR(r.C(v).y.Valore(), y, 1e-9) << 'C' << v;
-  }
-}
-
 // Mirrored slopes give the mirrored outline: the right side is measured from the right end, except
 // that the inner faces lean as the left web does.
 TEST(Geometria, PendenzeOpposteDannoSimmetria) {

@@ -1,0 +1,194 @@
+// The exports: valid files with every element, colours for paper, failures that leave things alone.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <QPrinter>
+#include <QProcess>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+#include <map>
+#include <sstream>
+
+#include "tests/viewer/aiuti_viewer.h"
+#include "viewer/dxf.h"
+#include "viewer/esporta.h"
+#include "viewer/pittura.h"
+
+namespace ostrel {
+namespace {
+
+// Every group of a DXF file, in order.
+std::vector<std::pair<int, std::string>> Gruppi(const std::string& dxf) {
+  std::vector<std::pair<int, std::string>> gruppi;
+  std::istringstream righe(dxf);
+  for (std::string codice, valore; std::getline(righe, codice) && std::getline(righe, valore);) {
+    valore.pop_back();
+    gruppi.emplace_back(std::stoi(codice), valore);
+  }
+  return gruppi;
+}
+
+// How many elements of each kind lie on each layer.
+std::map<std::string, int> Elementi(const std::string& dxf) {
+  std::map<std::string, int> elementi;
+  std::string genere;
+  bool dentro = false;
+  for (const auto& [codice, valore] : Gruppi(dxf)) {
+    dentro = dentro || valore == "ENTITIES";
+    if (codice == 0) genere = valore;
+    if (dentro && codice == 8) ++elementi[genere.append(" ").append(valore)];
+  }
+  return elementi;
+}
+
+TEST(Dxf, OgniElementoNelSuoLivello) {
+  const std::map<std::string, int> attesi = {
+      {"LINE CONTORNO", 24}, {"LINE QUOTE", 78}, {"CIRCLE QUOTE", 43}, {"TEXT QUOTE", 26}, {"TEXT TESTI", 9}};
+  Disegno d = prove::Esempio();
+  EXPECT_EQ(Elementi(ScriviDxf(d)), attesi);
+  // The order of the lines tells them apart, not their colour.
+  for (Linea& linea : d.linee) linea.colore = 1;
+  EXPECT_EQ(Elementi(ScriviDxf(d)), attesi);
+  // The outline open after all: what has the first line's colour.
+  d = prove::Esempio();
+  d.linee.erase(d.linee.begin());
+  EXPECT_EQ(Elementi(ScriviDxf(d))["LINE CONTORNO"], 23);
+}
+
+TEST(Dxf, ValoriDegliElementi) {
+  Disegno d = std::get<Disegno>(LeggiDis(prove::kUnoPerGenere));
+  d.scritte[0].testo = "5%% a^b \xE8";
+  const std::string dxf = ScriviDxf(d);
+  const std::map<std::string, int> attesi = {
+      {"LINE CONTORNO", 1}, {"LINE QUOTE", 1}, {"ARC CONTORNO", 1}, {"TEXT TESTI", 1}, {"POINT CONTORNO", 1}};
+  EXPECT_EQ(Elementi(dxf), attesi);
+  for (const char* atteso : {"\r\n50\r\n0\r\n51\r\n90\r\n", "\r\n1\r\n5%%%%%% a^ b \xE8\r\n",
+                             "\r\n6\r\nPUNTI\r\n", "\r\n10\r\n0.5\r\n20\r\n-5\r\n", "\r\n62\r\n3\r\n"})
+    EXPECT_NE(dxf.find(atteso), std::string::npos) << atteso;
+}
+
+TEST(Esporta, Immagine) {
+  const QTemporaryDir cartella;
+  const QString file = cartella.filePath("s.PNG");
+  ASSERT_EQ(Esporta(prove::Esempio(), file), std::nullopt);
+  const QImage immagine(file);
+  EXPECT_EQ(immagine.width(), 2000);
+  std::map<QRgb, int> colori;
+  for (int y = 0; y < immagine.height(); ++y)
+    for (int x = 0; x < immagine.width(); ++x) ++colori[immagine.pixel(x, y)];
+  EXPECT_GT(colori[qRgb(255, 255, 255)], immagine.width() * immagine.height() * 9 / 10);
+  for (const QRgb presente : {qRgb(0, 0, 0), qRgb(255, 0, 0), qRgb(255, 0, 255)})
+    EXPECT_GT(colori[presente], 500) << std::hex << presente;
+  EXPECT_EQ(colori[qRgb(255, 255, 0)], 0) << "yellow cannot be read on white";
+}
+
+TEST(Esporta, Svg) {
+  const QTemporaryDir cartella;
+  const QString nome = cartella.filePath("s.svg");
+  ASSERT_EQ(Esporta(prove::Esempio(), nome), std::nullopt);
+  EXPECT_TRUE(QSvgRenderer(nome).isValid());
+  QFile file(nome);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  std::map<QString, int> elementi;
+  QStringList testi;
+  for (QXmlStreamReader xml(&file); !xml.atEnd();) {
+    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+    ++elementi[xml.name().toString()];
+    if (xml.name() == QLatin1String("text")) testi << xml.readElementText().trimmed();
+  }
+  EXPECT_EQ(elementi["polyline"], 102);
+  EXPECT_EQ(elementi["text"], 35);
+  EXPECT_TRUE(testi.contains("Jyg:  5212229845")) << testi.join('|').toStdString();
+}
+
+TEST(Esporta, PdfEStampa) {
+  const QTemporaryDir cartella;
+  const QString esportato = cartella.filePath("s.pdf"), stampato = cartella.filePath("stampa.pdf");
+  ASSERT_EQ(Esporta(prove::Esempio(), esportato), std::nullopt);
+  QPrinter stampante(QPrinter::HighResolution);
+  stampante.setOutputFileName(stampato);
+  ASSERT_TRUE(Stampa(prove::Esempio(), stampante));
+  for (const QString& file : {esportato, stampato}) {
+    const std::string byte = prove::Leggi(file.toStdString());
+    EXPECT_TRUE(byte.starts_with("%PDF-"));
+    EXPECT_TRUE(byte.ends_with("%%EOF\n"));
+    EXPECT_NE(byte.find("/Count 1"), std::string::npos) << "one page";
+  }
+}
+
+TEST(Esporta, DisegniEstremi) {
+  const QTemporaryDir cartella;
+  const std::string uno = prove::kUnoPerGenere;
+  const auto con = [&](const std::string& vecchio, const std::string& nuovo) {
+    return std::string(uno).replace(uno.find(vecchio), vecchio.size(), nuovo);
+  };
+  const std::string casi[] = {prove::kVuoto, con(" 10  0  0 ", " 1E+100 -1E+100  0 "),
+                              con(" 10  0  0 ", " 1E-300  0  0 "), con(" 1.5  2.5 ", " 1E-90  1E+90 "),
+                              con(" 0  1  0  2 ", " 0  0  0  0 ")};
+  for (const std::string& byte : casi) {
+    const auto letto = LeggiDis(byte);
+    ASSERT_TRUE(std::holds_alternative<Disegno>(letto)) << byte;
+    for (const char* nome : {"e.png", "e.svg", "e.pdf", "e.dxf"})
+      EXPECT_EQ(Esporta(std::get<Disegno>(letto), cartella.filePath(nome)), std::nullopt) << nome << byte;
+    EXPECT_TRUE(QSvgRenderer(cartella.filePath("e.svg")).isValid()) << byte;
+  }
+}
+
+TEST(Esporta, DestinazioniImpossibili) {
+  const QTemporaryDir cartella;
+  const QString pieno = cartella.filePath("pieno.png");
+  ASSERT_TRUE(QFile::link("/dev/full", pieno));
+  for (const QString& nome : {pieno, cartella.filePath("non/esiste/s.png"), QString("/proc/s.pdf"),
+                              cartella.path() + "/.dxf/", QString("s.bmp"), QString("senza")}) {
+    const auto messaggio = Esporta(prove::Esempio(), nome);
+    ASSERT_TRUE(messaggio) << nome.toStdString();
+    EXPECT_TRUE(messaggio->contains(nome)) << messaggio->toStdString();
+  }
+  EXPECT_EQ(QFile::symLinkTarget(pieno), "/dev/full");
+}
+
+TEST(Colori, SiVedonoSulFondo) {
+  const Fondo carta = FondoCarta(1), schermo = FondoSchermo(1);
+  EXPECT_EQ(ColoreSu(carta, 1), QColor(Qt::black));
+  EXPECT_EQ(ColoreSu(carta, 99), QColor(Qt::black)) << "beyond the table is white";
+  EXPECT_EQ(ColoreSu(carta, 3), QColor(255, 0, 0));
+  EXPECT_EQ(ColoreSu(schermo, 1), QColor(Qt::white));
+  EXPECT_EQ(ColoreSu(schermo, 8), QColor(160, 197, 250));
+  EXPECT_NE(ColoreSu(schermo, 0), QColor(Qt::black));
+}
+
+TEST(SenzaFinestra, StatoDiUscita) {
+  const QTemporaryDir cartella;
+  const QString esempio = QString::fromStdString(prove::kDati + "/sezione.dis");
+  const struct {
+    QStringList argomenti;
+    int stato;
+    const char* messaggio;
+  } casi[] = {
+      {{"--esporta", cartella.filePath("s.dxf"), esempio}, 0, ""},
+      {{"--esporta", cartella.filePath("s.pdf"), cartella.filePath("manca.dis")},
+       1,
+       "manca.dis: il disegno non esiste"},
+      {{"--esporta", cartella.filePath("manca/s.pdf"), esempio}, 1, "Problemi con la scrittura del file"},
+      {{"--esporta", cartella.filePath("s.pdf"), cartella.path()}, 1, "non \u00E8 un file di disegno"},
+      {{"--esporta", cartella.filePath("s.pdf")}, 1, "Manca il disegno"},
+      {{"--esportare"}, 1, "esportare"},
+  };
+  for (const auto& c : casi) {
+    QProcess programma;
+    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+    for (const char* via : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) ambiente.remove(via);
+    programma.setProcessEnvironment(ambiente);
+    programma.start(PROGRAMMA_OSTREL, c.argomenti);
+    ASSERT_TRUE(programma.waitForFinished());
+    const QString detto = QString::fromUtf8(programma.readAllStandardError());
+    EXPECT_EQ(programma.exitStatus(), QProcess::NormalExit) << c.messaggio;
+    EXPECT_EQ(programma.exitCode(), c.stato) << detto.toStdString();
+    EXPECT_TRUE(detto.contains(c.messaggio)) << detto.toStdString();
+  }
+  EXPECT_TRUE(QFile::exists(cartella.filePath("s.dxf")));
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,208 @@
+// The window and its start: fitting, zoom and pan, reloading with and without a command.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+#include <chrono>
+
+#include "tests/viewer/aiuti_viewer.h"
+#include "viewer/avvio.h"
+#include "viewer/finestra.h"
+#include "viewer/tela.h"
+
+namespace ostrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kAttesaMassimaMs = 10000;
+
+struct ConFinestra : testing::Test {
+  explicit ConFinestra(bool sorveglia = false) : finestra(sorveglia), letto(&finestra, &Finestra::Letto) {
+    finestra.resize(900, 500);
+    finestra.show();
+    prove::Scrivi(file, prove::ByteEsempio());
+    finestra.Apri(QString::fromStdString(file));
+  }
+  void Invecchia() { fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(1)); }
+  std::string Ritoccato() {
+    std::string byte = prove::ByteEsempio();
+    return byte.replace(byte.find("U_PO_001"), 8, "U_PO_002");
+  }
+  QString Avviso() {
+    const auto* avviso = finestra.findChild<QLabel*>("avviso");
+    return avviso->isVisible() ? avviso->text() : QString();
+  }
+  void Rotella(int scatti, QPointF dove) {
+    QWheelEvent evento(dove, tela.mapToGlobal(dove), {}, {0, 120 * scatti}, Qt::NoButton, Qt::NoModifier,
+                       Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&tela, &evento);
+  }
+
+  QTemporaryDir cartella;
+  std::string file = cartella.filePath("sezione.dis").toStdString();
+  Finestra finestra;
+  QSignalSpy letto;
+  Tela& tela = *finestra.findChild<Tela*>("tela");
+};
+
+// The largest difference of a colour channel between two pictures of one size.
+int Scarto(const QImage& a, const QImage& b) {
+  int scarto = 0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x) {
+      const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+      scarto = std::max({scarto, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
+                         std::abs(qBlue(p) - qBlue(q))});
+    }
+  return scarto;
+}
+
+struct ConSorveglianza : ConFinestra {
+  ConSorveglianza() : ConFinestra(true) {}
+};
+
+TEST_F(ConFinestra, MostraTuttoConLaYVersoLAlto) {
+  EXPECT_EQ(Avviso(), "");
+  EXPECT_EQ(finestra.windowTitle(), "SEZIONE U_PO_001 - sezione.dis - ostrel");
+  const Vista& vista = tela.VistaCorrente();
+  for (const Coordinata& c : tela.Mostrato().coordinate)
+    EXPECT_TRUE(QRectF(tela.rect()).contains(vista.Verso(c.x, c.y)));
+  // White dimension lines, the red outline; the soffit below the upper side, on a dark ground.
+  const QImage immagine = tela.grab().toImage();
+  const auto colore = [&](double x, double y) {
+    const QPoint p = vista.Verso(x, y).toPoint();
+    return immagine.pixelColor(p).red() > 200 ? immagine.pixelColor(p)
+                                              : immagine.pixelColor(p - QPoint(0, 1));
+  };
+  EXPECT_EQ(colore(900, 200), QColor(Qt::white));
+  EXPECT_EQ(colore(500, -185), QColor(255, 0, 0));
+  EXPECT_LT(immagine.pixelColor(3, 3).lightness(), 50);
+}
+
+TEST_F(ConFinestra, RotellaETrascinamento) {
+  const QPointF dove(200, 150);
+  const QPointF prima = tela.VistaCorrente().Da(dove);
+  const double scala = tela.VistaCorrente().scala;
+  Rotella(3, dove);
+  EXPECT_NEAR(tela.VistaCorrente().scala / scala, 1.2 * 1.2 * 1.2, 1e-12);
+  EXPECT_NEAR(tela.VistaCorrente().Da(dove).x(), prima.x(), 1e-9);
+  EXPECT_NEAR(tela.VistaCorrente().Da(dove).y(), prima.y(), 1e-9);
+
+  const auto fotografia = [&] {
+    QCoreApplication::processEvents();
+    return finestra.screen()->grabWindow(finestra.winId()).toImage();
+  };
+  const QImage ferma = fotografia();
+  QTest::mousePress(&tela, Qt::LeftButton, {}, {200, 150});
+  QTest::mouseMove(&tela, {260, 100});
+  QTest::mouseRelease(&tela, Qt::LeftButton, {}, {260, 100});
+  EXPECT_NEAR(tela.VistaCorrente().Da({260, 100}).x(), prima.x(), 1e-9);
+  EXPECT_NEAR(tela.VistaCorrente().Da({260, 100}).y(), prima.y(), 1e-9);
+
+  // What was scrolled with what came into sight is what painting everything anew gives.
+  const QImage composta = fotografia();
+  tela.repaint();
+  EXPECT_GT(Scarto(composta, ferma), 200);
+  EXPECT_LE(Scarto(composta, fotografia()), 2) << "smoothing rounds where a line is cut";
+
+  for (int i = 0; i < 200; ++i) Rotella(1, dove);
+  const double massima = tela.VistaCorrente().scala;
+  EXPECT_LT(massima, scala * 1e4);
+  finestra.findChild<QAction*>("adatta")->trigger();
+  EXPECT_NEAR(tela.VistaCorrente().scala, scala, 1e-12);
+}
+
+TEST_F(ConFinestra, RicaricaTieneZoomEPosto) {
+  Rotella(2, {300, 100});
+  const Vista prima = tela.VistaCorrente();
+  prove::Scrivi(file, Ritoccato());
+  finestra.findChild<QAction*>("ricarica")->trigger();
+  EXPECT_TRUE(finestra.windowTitle().startsWith("SEZIONE U_PO_002"));
+  EXPECT_EQ(tela.VistaCorrente().scala, prima.scala);
+  EXPECT_EQ(tela.VistaCorrente().Da({0, 0}), prima.Da({0, 0}));
+}
+
+TEST_F(ConFinestra, IlDisegnoGuastoLasciaQuelloDiPrima) {
+  std::string byte = prove::ByteEsempio();
+  prove::Scrivi(file, byte.replace(byte.find(" 275 "), 5, " 276 "));
+  finestra.Ricarica();
+  EXPECT_TRUE(Avviso().contains("sezione.dis: riga 281, atteso: una coordinata")) << Avviso().toStdString();
+  EXPECT_EQ(tela.Mostrato().linee.size(), 102u);
+  fs::remove(file);
+  finestra.Ricarica();
+  EXPECT_TRUE(Avviso().endsWith("il disegno non esiste"));
+  prove::Scrivi(file, Ritoccato());
+  finestra.Ricarica();
+  EXPECT_EQ(Avviso(), "");
+  EXPECT_TRUE(finestra.windowTitle().startsWith("SEZIONE U_PO_002"));
+}
+
+TEST_F(ConFinestra, AttendeUnFileInScrittura) {
+  const std::string byte = Ritoccato();
+  letto.clear();
+  prove::Scrivi(file, byte.substr(0, byte.size() / 2));
+  finestra.Ricarica();
+  EXPECT_EQ(letto.count(), 0) << "neither shown nor refused yet";
+  EXPECT_EQ(Avviso(), "");
+  prove::Scrivi(file, byte);
+  ASSERT_TRUE(letto.wait(kAttesaMassimaMs));
+  EXPECT_EQ(letto.last().front().toBool(), true);
+  EXPECT_TRUE(finestra.windowTitle().startsWith("SEZIONE U_PO_002"));
+
+  prove::Scrivi(file, byte.substr(0, byte.size() / 2));
+  Invecchia();
+  finestra.Ricarica();
+  EXPECT_TRUE(Avviso().contains(", atteso: ")) << "left so for good";
+}
+
+TEST_F(ConSorveglianza, SiRicaricaDaSe) {
+  letto.clear();
+  prove::Scrivi(file, Ritoccato());
+  ASSERT_TRUE(letto.wait(kAttesaMassimaMs));
+  while (!finestra.windowTitle().startsWith("SEZIONE U_PO_002")) ASSERT_TRUE(letto.wait(kAttesaMassimaMs));
+  // Replaced twice: the watch outlives the file it began with.
+  for (const std::string& byte : {prove::ByteEsempio(), Ritoccato()}) {
+    const QString titolo = finestra.windowTitle();
+    prove::Scrivi(file + ".nuovo", byte);
+    fs::rename(file + ".nuovo", file);
+    while (finestra.windowTitle() == titolo) ASSERT_TRUE(letto.wait(kAttesaMassimaMs));
+  }
+}
+
+TEST(Avvio, FileDiIngresso) {
+  const QTemporaryDir cartella;
+  const std::string file = cartella.filePath("ostrel.inp").toStdString();
+  const struct {
+    const char* caso;
+    std::string byte;
+    bool letto;
+    int sinistra, altezza;
+  } casi[] = {
+      {"as written", "inutilizzato\r\n\\d\\s.dis\r\n10\r\n20\r\n300\r\n400\r\n", true, 10, 400},
+      {"two lines", "inutilizzato\r\n\\d\\s.dis\r\n", true, 1350, 3900},
+      {"a letter for a number", "inutilizzato\r\n\\d\\s.dis\r\n10\r\nx\r\n300\r\n400\r\n", true, 1350, 3900},
+      {"no height", "inutilizzato\r\n\\d\\s.dis\r\n10\r\n20\r\n300\r\n0\r\n", true, 1350, 3900},
+      {"one line", "inutilizzato\r\n", false, 0, 0},
+      {"no drawing", "inutilizzato\r\n\r\n10\r\n20\r\n300\r\n400\r\n", false, 0, 0},
+      {"empty", "", false, 0, 0},
+  };
+  for (const auto& c : casi) {
+    prove::Scrivi(file, c.byte);
+    const auto avvio = LeggiAvvio(file);
+    ASSERT_EQ(avvio.has_value(), c.letto) << c.caso;
+    if (!avvio) continue;
+    EXPECT_EQ(avvio->disegno, "/d/s.dis") << c.caso;
+    EXPECT_EQ(avvio->posto.sinistra, c.sinistra) << c.caso;
+    EXPECT_EQ(avvio->posto.altezza, c.altezza) << c.caso;
+  }
+  fs::remove(file);
+  EXPECT_FALSE(LeggiAvvio(file));
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,14 @@
+// The drawing for other CAD programs, in the plain R12 form of a DXF file.
+#pragma once
+
+#include "base/testo.h"
+#include "viewer/disegno.h"
+
+namespace ostrel {
+
+/// The whole file, 8-bit text in code page 1252, units as drawn: one LINE, ARC or CIRCLE, TEXT or
+/// POINT for each element of the drawing, in its file's order, on the layers CONTORNO, QUOTE and
+/// TESTI.
+tarvel::Testo ScriviDxf(const Disegno& disegno);
+
+}  // namespace ostrel

@@ -1,0 +1,158 @@
+// Every kind is made in memory first: a file appears whole or not at all.
+#include "viewer/esporta.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <algorithm>
+#include <array>
+
+#include "viewer/dxf.h"
+#include "viewer/misure.h"
+#include "viewer/pittura.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kLatoPng = 2000;  // pixels of the longer side
+constexpr int kLatoSvg = 1000;
+constexpr double kMinimaForma = 0.2;  // shorter to longer side, however slender the drawing
+constexpr double kPuntiPollice = 72;
+constexpr double kSpessoreCarta = 0.7;  // points
+constexpr double kMargineCarta = 10;    // millimetres
+constexpr int kRisoluzionePdf = 1200;
+constexpr char kCreatore[] = "ostrel";
+
+bool Orizzontale(const Riquadro& tutto) {
+  return tutto.Larghezza() >= tutto.Altezza();
+}
+
+QSize Formato(const Riquadro& tutto, int lato) {
+  const double lungo = std::max(tutto.Larghezza(), tutto.Altezza());
+  const double corto = std::min(tutto.Larghezza(), tutto.Altezza());
+  const double forma = lungo > 0 ? std::max(corto / lungo, kMinimaForma) : 1;
+  const QSize formato(lato, qRound(lato * forma));
+  return Orizzontale(tutto) ? formato : formato.transposed();
+}
+
+void DipingiSuCarta(QPainter& pittore, const Disegno& disegno, const QRectF& foglio, double spessore) {
+  Dipingi(pittore, disegno, VistaIntera(Ingombro(disegno), foglio), foglio, FondoCarta(spessore));
+}
+
+bool ScriviPng(const Disegno& disegno, QIODevice& uscita) {
+  constexpr double kSpessore = 2;
+  QImage immagine(Formato(Ingombro(disegno), kLatoPng), QImage::Format_RGB32);
+  immagine.fill(Qt::white);
+  QPainter pittore(&immagine);
+  DipingiSuCarta(pittore, disegno, immagine.rect(), kSpessore);
+  pittore.end();
+  return immagine.save(&uscita, "PNG");
+}
+
+bool ScriviSvg(const Disegno& disegno, QIODevice& uscita) {
+  const QSize formato = Formato(Ingombro(disegno), kLatoSvg);
+  QSvgGenerator svg;
+  svg.setOutputDevice(&uscita);
+  svg.setSize(formato);
+  svg.setViewBox(QRect({0, 0}, formato));
+  svg.setTitle(kCreatore);
+  QPainter pittore;
+  if (!pittore.begin(&svg)) return false;
+  pittore.fillRect(QRect({0, 0}, formato), Qt::white);
+  DipingiSuCarta(pittore, disegno, QRectF({0, 0}, formato), 1);
+  return pittore.end();
+}
+
+// Any device that counts in pages: a PDF file or a printer.
+bool DipingiPagina(const Disegno& disegno, QPagedPaintDevice& pagina, int risoluzione) {
+  QPainter pittore;
+  if (!pittore.begin(&pagina)) return false;
+  DipingiSuCarta(pittore, disegno, QRectF(0, 0, pagina.width(), pagina.height()),
+                 kSpessoreCarta * risoluzione / kPuntiPollice);
+  return pittore.end();
+}
+
+QPageLayout::Orientation Orientamento(const Disegno& disegno) {
+  return Orizzontale(Ingombro(disegno)) ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+bool ScriviPdf(const Disegno& disegno, QIODevice& uscita) {
+  constexpr double m = kMargineCarta;
+  QPdfWriter pdf(&uscita);
+  pdf.setCreator(kCreatore);
+  pdf.setResolution(kRisoluzionePdf);
+  pdf.setPageLayout({QPageSize(QPageSize::A4), Orientamento(disegno), {m, m, m, m}, QPageLayout::Millimeter});
+  return DipingiPagina(disegno, pdf, kRisoluzionePdf);
+}
+
+bool ScriviDxfSu(const Disegno& disegno, QIODevice& uscita) {
+  const tarvel::Testo dxf = ScriviDxf(disegno);
+  return uscita.write(dxf.data(), static_cast<qint64>(dxf.size())) == static_cast<qint64>(dxf.size());
+}
+
+struct Genere {
+  const char* finale;
+  const char* nome;
+  bool (*scrivi)(const Disegno&, QIODevice&);
+};
+constexpr std::array<Genere, 4> kGeneri = {{
+    {"png", "Immagine PNG", ScriviPng},
+    {"svg", "Disegno SVG", ScriviSvg},
+    {"pdf", "Documento PDF", ScriviPdf},
+    {"dxf", "Disegno DXF", ScriviDxfSu},
+}};
+
+// A device is written to as it is; a file is replaced only once its successor is whole.
+template <class File>
+QString ScriviSu(File& file, const QByteArray& byte) {
+  bool riuscito = file.open(QIODevice::WriteOnly) && file.write(byte) == byte.size() && file.flush();
+  if constexpr (requires { file.commit(); })
+    riuscito = riuscito && file.commit();
+  else
+    file.close();
+  return riuscito ? QString() : file.errorString();
+}
+
+}  // namespace
+
+QString FiltriEsportazione() {
+  QStringList filtri;
+  for (const Genere& genere : kGeneri) filtri << QString("%1 (*.%2)").arg(genere.nome, genere.finale);
+  return filtri.join(";;");
+}
+
+std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso) {
+  const QFileInfo destinazione(percorso);
+  const auto* const genere = std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) {
+    return destinazione.suffix().compare(g.finale, Qt::CaseInsensitive) == 0;
+  });
+  if (genere == kGeneri.end()) return QString("File %1: si esporta in .png, .svg, .pdf o .dxf").arg(percorso);
+
+  QBuffer byte;
+  byte.open(QIODevice::WriteOnly);
+  QString motivo = "memoria insufficiente";
+  if (genere->scrivi(disegno, byte)) {
+    if (!destinazione.exists() || destinazione.isFile()) {
+      QSaveFile file(percorso);
+      motivo = ScriviSu(file, byte.data());
+    } else {
+      QFile file(percorso);
+      motivo = ScriviSu(file, byte.data());
+    }
+    if (motivo.isEmpty()) return std::nullopt;
+  }
+  return QString("Problemi con la scrittura del file %1: %2").arg(percorso, motivo);
+}
+
+bool Stampa(const Disegno& disegno, QPrinter& stampante) {
+  stampante.setPageOrientation(Orientamento(disegno));
+  return DipingiPagina(disegno, stampante, stampante.resolution());
+}
+
+}  // namespace ostrel

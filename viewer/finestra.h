@@ -1,0 +1,54 @@
+// The window: menu "File", the drawing, a notice when it cannot be shown, the line of coordinates.
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QMainWindow>
+#include <QTimer>
+
+class QLabel;
+
+namespace ostrel {
+
+class Tela;
+
+class Finestra : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// `sorveglia`: the drawing is read again by itself whenever its file changes.
+  explicit Finestra(bool sorveglia);
+
+  /// Makes this file the window's drawing and fits it. A file that cannot be read leaves the
+  /// drawing shown before, with a notice; the next reload tries it again.
+  void Apri(const QString& percorso);
+  /// Reads the file anew; zoom and place stay. One still being written is waited for.
+  void Ricarica();
+  /// Says in the window what is wrong; an empty text takes the notice away.
+  void Avvisa(const QString& testo);
+
+ signals:
+  /// A reading has come to its end, well or not.
+  void Letto(bool riuscito);
+
+ private:
+  void CreaMenu();
+  void Tenta();
+  void Intitola();
+  void Sorveglia();
+  void ScegliFile();
+  void EsportaFile();
+  void StampaDisegno();
+
+  QString percorso_;
+  bool sorveglia_;
+  bool daAdattare_ = true;
+  int tentativi_ = 0;
+  QFileSystemWatcher sorvegliante_;
+  QTimer attesa_;  // until the next attempt to read a file that is being written
+  Tela* tela_;
+  QLabel* avviso_;
+  QLabel* coordinate_;
+  QLabel* conteggio_;
+};
+
+}  // namespace ostrel

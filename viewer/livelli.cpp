@@ -1,0 +1,39 @@
+// Outline, dimensions and texts told apart by how elements follow one another.
+#include "viewer/livelli.h"
+
+#include "base/numeri.h"
+#include "viewer/misure.h"
+
+namespace ostrel {
+namespace {
+
+// How many lines at the start of the list form closed rings.
+std::size_t LineeAdAnello(const std::vector<Linea>& linee) {
+  std::size_t chiuse = 0;
+  for (std::size_t i = 0; i < linee.size(); ++i) {
+    if (i > chiuse && linee[i].inizio != linee[i - 1].fine) break;
+    if (linee[i].fine == linee[chiuse].inizio) chiuse = i + 1;
+  }
+  return chiuse;
+}
+
+}  // namespace
+
+std::vector<Livello> LivelliLinee(const Disegno& disegno) {
+  const auto& linee = disegno.linee;
+  const std::size_t anelli = LineeAdAnello(linee);
+  std::vector<Livello> livelli(linee.size(), Livello::Quote);
+  for (std::size_t i = 0; i < linee.size(); ++i)
+    if (i < anelli || (anelli == 0 && linee[i].colore == linee[0].colore)) livelli[i] = Livello::Contorno;
+  return livelli;
+}
+
+Livello LivelloArco(const Disegno& disegno, const Arco& arco) {
+  return Polare(disegno, arco).cerchio ? Livello::Quote : Livello::Contorno;
+}
+
+Livello LivelloScritta(const Scritta& scritta) {
+  return tarvel::NumeroRegionale(scritta.testo, ',', ' ') ? Livello::Quote : Livello::Testi;
+}
+
+}  // namespace ostrel

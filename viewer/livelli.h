@@ -1,0 +1,25 @@
+// The use of each element, read from the drawing itself: a drawing file names no layers.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "viewer/disegno.h"
+
+namespace ostrel {
+
+enum class Livello { Contorno, Quote, Testi };
+
+/// One layer a line, in the file's order. The outline is the closed rings that the line list begins
+/// with: each line begins where the one before it ended, and the last ends where the first began. A
+/// dimension's lines never meet end to end. What follows the rings is a dimension. A drawing that
+/// begins with no closed ring takes the colour of its first line for that of the outline.
+std::vector<Livello> LivelliLinee(const Disegno& disegno);
+
+/// Full circles are the dots at the ends of dimensions; other arcs belong to the outline.
+Livello LivelloArco(const Disegno& disegno, const Arco& arco);
+
+/// A text that is nothing but a number is the value of a dimension.
+Livello LivelloScritta(const Scritta& scritta);
+
+}  // namespace ostrel

@@ -1,0 +1,102 @@
+// The companion viewer: started beside the program it shows its drawings in a window; with
+// --esporta it converts one without a window.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QScreen>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+#include "platform/file.h"
+#include "viewer/avvio.h"
+#include "viewer/caricamento.h"
+#include "viewer/esporta.h"
+#include "viewer/finestra.h"
+
+namespace ostrel {
+namespace {
+
+constexpr char kFileAvvio[] = "ostrel.inp";
+
+int Fallito(const QString& messaggio) {
+  std::fprintf(stderr, "%s\n", qPrintable(messaggio));
+  return 1;
+}
+
+int EsportaSenzaFinestra(const QString& uscita, const QString& disegno) {
+  const Caricato caricato = CaricaAttendendo(disegno.toStdString());
+  if (!caricato.disegno) return Fallito(QString::fromStdString(caricato.messaggio));
+  const auto errore = Esporta(*caricato.disegno, uscita);
+  return errore ? Fallito(*errore) : 0;
+}
+
+// The working folder is the program's own where the preview starts it.
+std::optional<Avvio> CercaAvvio() {
+  if (auto avvio = LeggiAvvio(tarvel::PercorsoHost(kFileAvvio))) return avvio;
+  const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
+  return LeggiAvvio(tarvel::PercorsoHost(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio));
+}
+
+// A fifteenth of a pixel to the twip, enlarged where the screen is larger than the main form and
+// the viewer below it need, but never so far that the two fill it.
+void Disponi(QWidget& finestra, const PostoFinestra& posto) {
+  constexpr double kTwipPixel = 15, kLarghezza = 10850 / kTwipPixel, kAltezza = 9150 / kTwipPixel + 60;
+  constexpr double kParteSchermo = 0.9, kMassimaScala = 2.5;
+  const QRect schermo = finestra.screen()->availableGeometry();
+  const double scala =
+      std::clamp(kParteSchermo * std::min(schermo.width() / kLarghezza, schermo.height() / kAltezza), 1.0,
+                 kMassimaScala) /
+      kTwipPixel;
+  const QSize misura =
+      QSize(qRound(posto.larghezza * scala), qRound(posto.altezza * scala)).boundedTo(schermo.size());
+  const QPoint angolo(qRound(posto.sinistra * scala), qRound(posto.alto * scala));
+  finestra.resize(misura);
+  finestra.move(schermo.topLeft() + QPoint(std::clamp(angolo.x(), 0, schermo.width() - misura.width()),
+                                           std::clamp(angolo.y(), 0, schermo.height() - misura.height())));
+}
+
+int MostraInFinestra(const QStringList& argomenti, bool sorveglia) {
+  const auto avvio = CercaAvvio();
+  Finestra finestra(sorveglia);
+  Disponi(finestra, avvio.value_or(Avvio{}).posto);
+  finestra.show();
+  if (!argomenti.isEmpty())
+    finestra.Apri(argomenti.front());
+  else if (avvio)
+    finestra.Apri(QString::fromStdString(avvio->disegno));
+  else
+    finestra.Avvisa(
+        "Nessun disegno: il file \"ostrel.inp\" manca o non ne nomina uno. Si apre dal menu File.");
+  return QApplication::exec();
+}
+
+int Esegui(int argc, char** argv) {
+  // An export needs no display, nor does it look for one.
+  const bool esporta = std::any_of(argv, argv + argc, [](const char* argomento) {
+    return std::strncmp(argomento, "--esporta", std::strlen("--esporta")) == 0;
+  });
+  if (esporta) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication applicazione(argc, argv);
+
+  QCommandLineParser riga;
+  riga.addOptions(
+      {{"esporta", "Scrive il disegno in un file .png, .svg, .pdf o .dxf, senza finestra.", "file"},
+       {"senza-sorveglianza", "Ricarica il disegno soltanto a comando."}});
+  riga.addPositionalArgument("disegno", "File .dis da mostrare; senza, quello nominato da \"ostrel.inp\".",
+                             "[disegno]");
+  riga.addHelpOption();
+  if (!riga.parse(QCoreApplication::arguments())) return Fallito(riga.errorText());
+  if (riga.isSet("help")) riga.showHelp();
+  const QStringList argomenti = riga.positionalArguments();
+  if (argomenti.size() > 1) return Fallito("Troppi argomenti: si mostra un disegno alla volta.");
+  if (!esporta) return MostraInFinestra(argomenti, !riga.isSet("senza-sorveglianza"));
+  if (argomenti.isEmpty()) return Fallito("Manca il disegno da esportare.");
+  return EsportaSenzaFinestra(riga.value("esporta"), argomenti.front());
+}
+
+}  // namespace
+}  // namespace ostrel
+
+int main(int argc, char** argv) {
+  return ostrel::Esegui(argc, argv);
+}

@@ -1,0 +1,81 @@
+// Extents of elements and the polar form of arcs.
+#include "viewer/misure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace ostrel {
+namespace {
+
+constexpr double kPi = std::numbers::pi;
+// Two points nearer than this are one, as for the program that drew them.
+constexpr double kTolleranza = 1e-4;
+
+}  // namespace
+
+void Riquadro::Comprendi(double x, double y) {
+  if (Vuoto()) {
+    *this = {x, y, x, y};
+    return;
+  }
+  x0 = std::min(x0, x);
+  y0 = std::min(y0, y);
+  x1 = std::max(x1, x);
+  y1 = std::max(y1, y);
+}
+
+ArcoPolare Polare(const Disegno& disegno, const Arco& arco) {
+  const Coordinata centro = Posto(disegno, arco.centro);
+  const Coordinata da = Posto(disegno, arco.inizio);
+  const Coordinata a = Posto(disegno, arco.fine);
+  ArcoPolare polare{centro.x, centro.y, std::hypot(da.x - centro.x, da.y - centro.y),
+                    std::atan2(da.y - centro.y, da.x - centro.x)};
+  // The writer keeps the end point of a circle apart from its start point when the latter was
+  // merged with an earlier coordinate: the same place under two indices is still a full circle.
+  polare.cerchio = std::fabs(da.x - a.x) < kTolleranza && std::fabs(da.y - a.y) < kTolleranza;
+  polare.ampiezza = 2 * kPi;
+  if (!polare.cerchio) {
+    const double ampiezza =
+        std::fmod(std::atan2(a.y - centro.y, a.x - centro.x) - polare.inizio + 2 * kPi, 2 * kPi);
+    if (ampiezza > 0) polare.ampiezza = ampiezza;
+  }
+  return polare;
+}
+
+std::array<Coordinata, 4> Angoli(const Disegno& disegno, const Scritta& scritta) {
+  const Coordinata origine = Posto(disegno, scritta.posizione);
+  const double angolo = scritta.angolo * kPi / 180;
+  const double lungo = scritta.base * static_cast<double>(scritta.testo.size());
+  const Coordinata u{lungo * std::cos(angolo), lungo * std::sin(angolo)};
+  const Coordinata v{-scritta.altezza * std::sin(angolo), scritta.altezza * std::cos(angolo)};
+  return {origine,
+          {origine.x + u.x, origine.y + u.y},
+          {origine.x + u.x + v.x, origine.y + u.y + v.y},
+          {origine.x + v.x, origine.y + v.y}};
+}
+
+Riquadro Ingombro(const Disegno& disegno) {
+  Riquadro tutto;
+  const auto comprendi = [&](const Coordinata& c) { tutto.Comprendi(c.x, c.y); };
+  for (const Punto& punto : disegno.punti) comprendi(Posto(disegno, punto.posizione));
+  for (const Linea& linea : disegno.linee) {
+    comprendi(Posto(disegno, linea.inizio));
+    comprendi(Posto(disegno, linea.fine));
+  }
+  for (const Arco& arco : disegno.archi) {
+    const ArcoPolare p = Polare(disegno, arco);
+    const auto angolo = [&](double a) {
+      tutto.Comprendi(p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a));
+    };
+    angolo(p.inizio);
+    angolo(p.inizio + p.ampiezza);
+    for (int quarto = -2; quarto < 8; ++quarto)
+      if (const double a = quarto * kPi / 2; a > p.inizio && a < p.inizio + p.ampiezza) angolo(a);
+  }
+  for (const Scritta& scritta : disegno.scritte)
+    for (const Coordinata& c : Angoli(disegno, scritta)) comprendi(c);
+  return tutto;
+}
+
+}  // namespace ostrel

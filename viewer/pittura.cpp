@@ -1,0 +1,270 @@
+// Lines are clipped in the drawing's own precision before the painter sees them, so that any zoom
+// stays exact and quick.
+#include "viewer/pittura.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QPen>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "viewer/tavolozza.h"
+
+namespace ostrel {
+namespace {
+
+constexpr double kMargine = 0.025;
+constexpr double kContrastoCarta = 3;
+constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
+constexpr double kMassimoRaggioIntero = 4000;
+constexpr double kMezzaCroce = 3;  // of a marked point, in pen widths
+// With more lines than this on the screen smoothing would cost more than it shows.
+constexpr std::size_t kMassimeLineeLisce = 20000;
+
+double Luminanza(const QColor& c) {
+  const auto lineare = [](double v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+  return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF());
+}
+
+// The part of a segment within a rectangle (Liang-Barsky), as fractions of its length.
+struct Parte {
+  double da = 0, a = 1;
+};
+bool Ritaglia(const QPointF& p, const QPointF& q, const QRectF& r, Parte& parte) {
+  const auto bordo = [&](double verso, double distanza) {
+    if (verso == 0) return distanza >= 0;
+    const double t = distanza / verso;
+    if (verso < 0)
+      parte.da = std::max(parte.da, t);
+    else
+      parte.a = std::min(parte.a, t);
+    return parte.da <= parte.a;
+  };
+  const double dx = q.x() - p.x(), dy = q.y() - p.y();
+  return bordo(-dx, p.x() - r.left()) && bordo(dx, r.right() - p.x()) && bordo(-dy, p.y() - r.top()) &&
+         bordo(dy, r.bottom() - p.y());
+}
+
+QPen Penna(const Fondo& fondo, int colore) {
+  return {ColoreSu(fondo, colore), fondo.spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
+
+// The place nearest to v where a line covers whole pixels.
+double SuPixel(double v, const Fondo& fondo) {
+  const bool dispari = std::lround(fondo.spessore / fondo.pixel) % 2 != 0;
+  return (dispari ? std::floor(v / fondo.pixel) + 0.5 : std::round(v / fondo.pixel)) * fondo.pixel;
+}
+
+QLineF Segmento(QPointF p, QPointF q, const Parte& parte, const Fondo& fondo) {
+  QLineF s(p + (q - p) * parte.da, p + (q - p) * parte.a);
+  if (fondo.pixel > 0 && p.x() == q.x()) {
+    const double x = SuPixel(p.x(), fondo);
+    s.setLine(x, s.y1(), x, s.y2());
+  } else if (fondo.pixel > 0 && p.y() == q.y()) {
+    const double y = SuPixel(p.y(), fondo);
+    s.setLine(s.x1(), y, s.x2(), y);
+  }
+  return s;
+}
+
+class Pittura {
+ public:
+  Pittura(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
+          const Fondo& fondo)
+      : p_(pittore),
+        d_(disegno),
+        vista_(vista),
+        fondo_(fondo),
+        campo_(visibile.marginsAdded(QMarginsF(8, 8, 8, 8) * fondo.spessore)) {}
+
+  void Linee() {
+    std::array<std::vector<QLineF>, kColori.size()> continue_;
+    for (const Linea& linea : d_.linee) {
+      const QPointF p = Verso(linea.inizio), q = Verso(linea.fine);
+      Parte parte;
+      if (!Ritaglia(p, q, campo_, parte)) continue;
+      const QLineF segmento = Segmento(p, q, parte, fondo_);
+      if (IndiceTipo(linea.tipo) == 0)
+        continue_[IndiceColore(linea.colore)].push_back(segmento);
+      else
+        Tratteggiata(segmento, linea, parte.da * std::hypot(q.x() - p.x(), q.y() - p.y()));
+    }
+    for (std::size_t colore = 0; colore < continue_.size(); ++colore) {
+      p_.setPen(Penna(fondo_, static_cast<int>(colore)));
+      p_.drawLines(continue_[colore].data(), static_cast<int>(continue_[colore].size()));
+    }
+  }
+
+  void Archi() {
+    p_.setBrush(Qt::NoBrush);
+    for (const Arco& arco : d_.archi) {
+      const ArcoPolare polare = Polare(d_, arco);
+      const double r = polare.raggio * vista_.scala;
+      const QPointF centro = vista_.Verso(polare.x, polare.y);
+      const QRectF quadro(centro.x() - r, centro.y() - r, 2 * r, 2 * r);
+      if (!quadro.intersects(campo_) && r > 0) continue;
+      p_.setPen(Penna(fondo_, arco.colore));
+      if (r > kMassimoRaggioIntero)
+        ArcoGrande(polare);
+      else if (polare.cerchio)
+        p_.drawEllipse(quadro);
+      else
+        ArcoPiccolo(quadro, polare);
+    }
+  }
+
+  void Scritte() {
+    QFont carattere("DejaVu Sans Mono");
+    carattere.setStyleHint(QFont::Monospace);
+    carattere.setPixelSize(kCorpo);
+    carattere.setHintingPreference(QFont::PreferNoHinting);
+    p_.setFont(carattere);
+    const QFontMetricsF misure(carattere, p_.device());
+    for (const Scritta& scritta : d_.scritte) Scrivi(scritta, misure);
+  }
+
+  void Punti() {
+    p_.setPen(Penna(fondo_, kBianco));
+    const double m = kMezzaCroce * fondo_.spessore;
+    for (const Punto& punto : d_.punti) {
+      const QPointF c = Verso(punto.posizione);
+      if (!campo_.contains(c)) continue;
+      p_.drawLine(c - QPointF(m, m), c + QPointF(m, m));
+      p_.drawLine(c - QPointF(m, -m), c + QPointF(m, -m));
+    }
+  }
+
+ private:
+  static constexpr int kCorpo = 64;
+
+  QPointF Verso(int indice) const {
+    const Coordinata& c = Posto(d_, indice);
+    return vista_.Verso(c.x, c.y);
+  }
+
+  // `saltato` is the length cut away before the segment: the dashes stay where they are.
+  void Tratteggiata(const QLineF& segmento, const Linea& linea, double saltato) {
+    const auto tratti = kTipiLinea[IndiceTipo(linea.tipo)].Tratti();
+    QPen penna = Penna(fondo_, linea.colore);
+    penna.setDashPattern({tratti.begin(), tratti.end()});
+    double passo = 0;
+    for (const double tratto : tratti) passo += tratto;
+    penna.setDashOffset(std::fmod(saltato / fondo_.spessore, passo));
+    p_.setPen(penna);
+    p_.drawLine(segmento);
+  }
+
+  void ArcoPiccolo(const QRectF& quadro, const ArcoPolare& polare) {
+    constexpr double kGradi = 180 / std::numbers::pi;
+    QPainterPath tracciato;
+    tracciato.arcMoveTo(quadro, polare.inizio * kGradi);
+    tracciato.arcTo(quadro, polare.inizio * kGradi, polare.ampiezza * kGradi);
+    p_.drawPath(tracciato);
+  }
+
+  // Much larger than the window: chords that stay within a tenth of a pixel, where they are seen.
+  void ArcoGrande(const ArcoPolare& polare) {
+    const double r = polare.raggio * vista_.scala;
+    const int corde = static_cast<int>(std::ceil(polare.ampiezza * std::sqrt(std::min(r, 1e8) / 0.8)));
+    std::vector<QLineF> visti;
+    const auto punto = [&](int i) {
+      const double a = polare.inizio + polare.ampiezza * i / corde;
+      return vista_.Verso(polare.x + polare.raggio * std::cos(a), polare.y + polare.raggio * std::sin(a));
+    };
+    QPointF prima = punto(0);
+    for (int i = 1; i <= corde; ++i) {
+      const QPointF dopo = punto(i);
+      if (Parte parte; Ritaglia(prima, dopo, campo_, parte))
+        visti.push_back(Segmento(prima, dopo, parte, fondo_));
+      prima = dopo;
+    }
+    p_.drawLines(visti.data(), static_cast<int>(visti.size()));
+  }
+
+  void Scrivi(const Scritta& scritta, const QFontMetricsF& misure) {
+    if (scritta.testo.empty()) return;
+    QPolygonF riquadro;
+    for (const Coordinata& c : Angoli(d_, scritta)) riquadro << vista_.Verso(c.x, c.y);
+    // Descenders hang below the baseline.
+    const double altezza = scritta.altezza * vista_.scala;
+    if (!riquadro.boundingRect().marginsAdded({altezza, altezza, altezza, altezza}).intersects(campo_))
+      return;
+    p_.setPen(Penna(fondo_, scritta.colore));
+    if (altezza < kMinimaAltezzaScritta * fondo_.spessore) {
+      p_.drawLine(riquadro[0], riquadro[1]);
+      return;
+    }
+    const QString testo = QString::fromStdString(tarvel::InUtf8(scritta.testo));
+    const double largo = scritta.base * static_cast<double>(scritta.testo.size()) * vista_.scala;
+    p_.save();
+    p_.translate(riquadro[0]);
+    p_.rotate(-scritta.angolo);
+    p_.scale(largo / misure.horizontalAdvance(testo), altezza / misure.capHeight());
+    p_.drawText(QPointF(0, 0), testo);
+    p_.restore();
+  }
+
+  QPainter& p_;
+  const Disegno& d_;
+  const Vista& vista_;
+  const Fondo& fondo_;
+  QRectF campo_;  // what is visible, and enough around it that no pen's edge is cut
+};
+
+}  // namespace
+
+Vista Vista::Ingrandita(double fattore, QPointF fermo) const {
+  const QPointF sotto = Da(fermo);
+  const double nuova = scala * fattore;
+  return {nuova, sotto.x() - fermo.x() / nuova, sotto.y() + fermo.y() / nuova};
+}
+
+Vista VistaIntera(const Riquadro& tutto, QRectF area) {
+  area.setSize(area.size().expandedTo({1, 1}));
+  const double margine = kMargine * std::min(area.width(), area.height());
+  area.adjust(margine, margine, -margine, -margine);
+  const Riquadro r = tutto.Vuoto() ? Riquadro{0, 0, 1, 1} : tutto;
+  // A drawing without breadth or height is fitted by its other side, a single point at scale 1.
+  const double x = r.Larghezza() > 0 ? area.width() / r.Larghezza() : HUGE_VAL;
+  const double y = r.Altezza() > 0 ? area.height() / r.Altezza() : HUGE_VAL;
+  const double scala = std::isfinite(std::min(x, y)) ? std::min(x, y) : 1;
+  const QPointF centro = area.center();
+  return {scala, (r.x0 + r.x1) / 2 - centro.x() / scala, (r.y0 + r.y1) / 2 + centro.y() / scala};
+}
+
+Fondo FondoSchermo(double rapportoPixel) {
+  return {QColor(24, 26, 30), std::max(1.0, std::round(rapportoPixel)) / rapportoPixel, 1 / rapportoPixel};
+}
+
+Fondo FondoCarta(double spessore) {
+  return {Qt::white, spessore, 0};
+}
+
+QColor ColoreSu(const Fondo& fondo, int colore) {
+  const std::size_t indice = IndiceColore(colore);
+  const ColoreTabella& voce = kColori[indice];
+  QColor esito(voce.r, voce.g, voce.b);
+  if (Luminanza(fondo.colore) < 0.5) return indice == kNero ? QColor(128, 128, 128) : esito;
+  if (indice == kBianco) return Qt::black;
+  while ((Luminanza(fondo.colore) + 0.05) / (Luminanza(esito) + 0.05) < kContrastoCarta)
+    esito = esito.darker(105);
+  return esito;
+}
+
+void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
+             const Fondo& fondo) {
+  const bool liscia = fondo.pixel == 0 || disegno.linee.size() <= kMassimeLineeLisce;
+  Pittura pittura(pittore, disegno, vista, visibile, fondo);
+  pittore.setRenderHint(QPainter::Antialiasing, liscia);
+  pittura.Linee();
+  pittore.setRenderHint(QPainter::Antialiasing, true);
+  pittura.Archi();
+  pittura.Punti();
+  pittura.Scritte();
+}
+
+}  // namespace ostrel
