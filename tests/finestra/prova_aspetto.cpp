@@ -19,6 +19,7 @@
 #include "platform/desktop.h"
 #include "platform/qt/avvio.h"
 #include "platform/qt/finestra.h"
+#include "platform/qt/fuoco.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/tasti.h"
 #include "platform/qt/testo_qt.h"
@@ -77,7 +78,8 @@ TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
   form.controlli = {&controllo};
   Prepara(form);
   MostraForm(form);
-  auto& casella = *QApplication::focusWidget()->window()->findChild<QLineEdit*>("A");
+  auto& casella = static_cast<QLineEdit&>(*FinestraAttiva()->WidgetDi(controllo));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&casella));
 
   const QString lungo(10'000, 'x');
   const Gesto gesti[] = {
@@ -96,8 +98,8 @@ TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
        {22}},
       {"a long paste", [&](QLineEdit& c) { Incolla(c, lungo); }, nullptr, {22}},
       {"paste by the menu",
-       [](QLineEdit& c) { QApplication::clipboard()->setText("7"), c.paste(); },
-       "7",
+       [](QLineEdit& c) { QApplication::clipboard()->setText("7777"), c.paste(); },
+       "7777",
        {22}},
       {"an input method",
        [](QLineEdit& c) {
@@ -112,7 +114,7 @@ TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
          QMimeData dati;
          dati.setText("9\n");
          QDropEvent evento(QPointF(1, 1), Qt::CopyAction, &dati, Qt::LeftButton, {});
-         QApplication::sendEvent(&c, &evento);
+         static_cast<QObject&>(c).event(&evento);
        },
        "9abc",
        {22}},
@@ -139,7 +141,7 @@ TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
 
 // --- Everything can be read
 
-class AScala : public ::testing::TestWithParam<QSize> {};
+class AScala : public ::testing::TestWithParam<const char*> {};
 
 void ControllaTesti(Form& form) {
   SCOPED_TRACE(form.nome);
@@ -165,9 +167,11 @@ void ControllaTesti(Form& form) {
 }
 
 TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
-  Prepara(FormPrincipale(), GetParam());
-  EXPECT_LE(Pixel(FormPrincipale().larghezza), std::max(629, GetParam().width() * 2 / 3));
-  EXPECT_LE(Pixel(FormPrincipale().altezza), std::max(319, GetParam().height() * 2 / 3));
+  const QStringList misure = QString(GetParam()).split('x');
+  const QSize schermo(misure[0].toInt(), misure[1].toInt());
+  Prepara(FormPrincipale(), schermo);
+  EXPECT_LE(Pixel(FormPrincipale().larghezza), std::max(629, schermo.width() * 2 / 3));
+  EXPECT_LE(Pixel(FormPrincipale().altezza), std::max(319, schermo.height() * 2 / 3));
   FormSez elenco;
   FormSez2 multiplo;
   for (Form* form : {&FormPrincipale(), static_cast<Form*>(&FormOpt::Unica()), static_cast<Form*>(&elenco),
@@ -176,8 +180,8 @@ TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
-                         ::testing::Values(QSize(640, 480), QSize(1024, 600), QSize(1366, 768),
-                                           QSize(1440, 900), QSize(1920, 1080), QSize(3840, 2160)));
+                         ::testing::Values("640x480", "1024x600", "1366x768", "1440x900", "1920x1080",
+                                           "3840x2160"));
 
 TEST(Etichetta, ALongPathShowsBothEndsAndTheWholeAsAToolTip) {
   Prepara(FormPrincipale());
