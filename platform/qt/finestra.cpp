@@ -23,7 +23,7 @@ namespace {
 class Vedetta : public QObject {
  public:
   Vedetta(Finestra& finestra, Controllo& controllo, QWidget* widget)
-      : QObject(widget), finestra_(finestra), controllo_(controllo) {
+      : finestra_(finestra), controllo_(controllo), widget_(widget) {
     for (QObject* osservato : {static_cast<QObject*>(widget),
                                static_cast<QObject*>(widget->findChild<QWidget*>("qt_scrollarea_viewport"))})
       if (osservato != nullptr) osservato->installEventFilter(this);
@@ -41,13 +41,14 @@ class Vedetta : public QObject {
     RaggiungeControllo(finestra_, &controllo_);
     if (LoopAperti() != prima) clickInterrotto_ = colMouse;
     if (tipo != QEvent::MouseButtonPress || !std::exchange(clickInterrotto_, false)) return false;
-    if (auto* bottone = qobject_cast<QPushButton*>(parent())) bottone->click();
+    if (auto* bottone = qobject_cast<QPushButton*>(widget_)) bottone->click();
     return true;
   }
 
  private:
   Finestra& finestra_;
   Controllo& controllo_;
+  QWidget* const widget_;
   // The control left by this click has shown a message: the release may have gone there, and the
   // press alone counts.
   bool clickInterrotto_ = false;
@@ -77,7 +78,7 @@ Finestra::Finestra(Form& descrizione)
     QWidget* const widget = CreaWidget(*controllo, this);
     widget_[controllo] = widget;
     if (widget->focusPolicy() == Qt::NoFocus) continue;
-    new Vedetta(*this, *controllo, widget);
+    vedette_.push_back(std::make_unique<Vedetta>(*this, *controllo, widget));
     if (precedente != nullptr) setTabOrder(precedente, widget);
     precedente = widget;
   }

@@ -4,6 +4,8 @@
 #include <QEventLoop>
 #include <QWidget>
 #include <map>
+#include <memory>
+#include <vector>
 
 #include "platform/controlli.h"
 
@@ -32,6 +34,7 @@ class Finestra : public QWidget {
 
  private:
   std::map<const Controllo*, QWidget*> widget_;
+  std::vector<std::unique_ptr<QObject>> vedette_;  // gone before the widgets they watch
 };
 
 }  // namespace tarvel

@@ -1,4 +1,5 @@
 // Message boxes.
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -42,6 +43,10 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
     } else {
       riquadro.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     }
+    // Wide enough for the title, which the window manager writes in bold beside its own buttons.
+    const int titoloIntero = riquadro.fontMetrics().horizontalAdvance(riquadro.windowTitle()) * 5 / 4 + 160;
+    auto& griglia = static_cast<QGridLayout&>(*riquadro.layout());
+    griglia.addItem(new QSpacerItem(titoloIntero, 0), griglia.rowCount(), 0, 1, griglia.columnCount());
     riquadro.exec();
     if (si != nullptr) risposta = riquadro.clickedButton() == si ? Risposta::Si : Risposta::No;
   });
