@@ -36,9 +36,7 @@ void Casella::keyPressEvent(QKeyEvent* evento) {
   const bool ctrl = evento->modifiers().testFlag(Qt::ControlModifier);
   if (alt && !ctrl) return evento->ignore();  // Alt and a letter is no typing
   const QScopedValueRollback<bool> cambio(annunciato_);
-  if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) {
-    return Annuncia(kTastoInvio);
-  }
+  if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) return Annuncia(kTastoInvio);
   const QString testo = evento->text();
   const bool cancella = evento->key() == Qt::Key_Delete
                             ? hasSelectedText() || cursorPosition() < text().size()
