@@ -11,10 +11,14 @@
 #include "platform/qt/finestra.h"
 #include "platform/qt/fuoco.h"
 #include "platform/qt/gestori.h"
+#include "platform/qt/scala.h"
 #include "platform/qt/widget.h"
 
 namespace tarvel {
 namespace {
+
+// The left edge of the first window, in twips: that of the viewer, which opens below it.
+constexpr int kSinistra = 1350;
 
 struct Caricata {
   Form* form;
@@ -53,7 +57,10 @@ void Mostra(Caricata& caricata, bool modale) {
   if (!finestra.isVisible()) {
     finestra.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
     finestra.VaiAlPrimo();
-    if (modale && FinestraAttiva() != nullptr) Centra(finestra, *FinestraAttiva());
+    if (modale && FinestraAttiva() != nullptr)
+      Centra(finestra, *FinestraAttiva());
+    else if (FinestraAttiva() == nullptr)
+      finestra.move(finestra.screen()->availableGeometry().topLeft() + QPoint(int(Pixel(kSinistra)), 0));
   }
   // While a modal form is shown, what its handlers show has to belong to it to be usable.
   finestra.winId();

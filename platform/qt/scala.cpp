@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/comune/scala.h"
+
 namespace tarvel {
 namespace {
 
@@ -34,10 +36,11 @@ QString Famiglia(const char* chiesta) {
 
 void ScegliScala(const Form& principale) {
   const QSize schermo = QGuiApplication::primaryScreen()->availableSize();
-  const double massima =
+  const double comoda =
       kParteSchermo * kTwipPerPixel *
       std::min(double(schermo.width()) / principale.larghezza, double(schermo.height()) / principale.altezza);
-  scala = std::clamp(std::floor(massima * 4) / 4, 1.0, 3.0);
+  const double colVisualizzatore = PixelPerTwip(schermo.width(), schermo.height()) * kTwipPerPixel;
+  scala = std::max(1.0, std::min(comoda, colVisualizzatore));
 }
 
 double Scala() {

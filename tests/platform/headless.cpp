@@ -5,9 +5,7 @@
 #include <sstream>
 
 #include "platform/desktop.h"
-#include "platform/headless/ambiente.h"
 #include "platform/headless/recita.h"
-#include "platform/regione.h"
 
 namespace tarvel::headless {
 namespace {
@@ -86,15 +84,6 @@ TEST(Headless, TimePassesInTheLoopThatWaits) {
   EXPECT_EQ(alRitorno, 1);
   EXPECT_EQ(allaFine, 4);
   EXPECT_FALSE(form.timer.attivo) << "nothing is left running for the next run";
-}
-
-TEST(Headless, TheRegionFollowsItsDecimalSeparator) {
-  for (const auto& [decimale, migliaia] : {std::pair{',', '.'}, {'.', ','}, {'\'', '\0'}}) {
-    ImpostaAmbiente("|diroot=x|", decimale);
-    EXPECT_EQ(SeparatoreDecimale(), decimale);
-    EXPECT_EQ(SeparatoreMigliaia(), migliaia);
-  }
-  ImpostaAmbiente("", '.');
 }
 
 }  // namespace

@@ -93,21 +93,19 @@ TEST(Asse, LatiAttraversati) {
   }
 }
 
-// An abscissa is compared with an ordinate on horizontal edges.
+// An abscissa is compared with an ordinate on horizontal edges: O3 -> O4 at the height YG, crossed by
+// no other edge of the outline.
 TEST(Asse, LatoOrizzontale) {
-  RecordSezione r = Costruita(Esempio());
-  for (const auto& [y3, y4, z] : {std::tuple{-30.0, -30.0, 300.0}, {400.0, 400.0, 250.0}}) {
-    r.ImpostaVertice(1, 1, {0, 500});
-    r.ImpostaVertice(1, 2, {0, y3 + 10});
-    r.ImpostaVertice(1, 3, {250, y3});
-    r.ImpostaVertice(1, 4, {300, y4});
-    r.YG = y3;
-    r.ImpostaVertice(1, 2, {0, y3 - 10});  // only the horizontal edge holds YG
-    r.ImpostaVertice(1, 1, {0, y3 - 20});
-    r.ImpostaVertice(2, 1, {350, y3 - 5});
-    r.ImpostaVertice(2, 2, {340, y3 + 5});
+  for (const auto& [YG, z] : {std::pair{-30.0, 300.0}, {400.0, 250.0}}) {
+    RecordSezione r;
+    r.YG = YG;
+    for (const int v : {1, 2}) r.ImpostaVertice(1, v, {0, YG - 20});
+    r.ImpostaVertice(1, 3, {250, YG});
+    r.ImpostaVertice(1, 4, {300, YG});
+    r.ImpostaVertice(2, 1, {350, YG - 5});
+    r.ImpostaVertice(2, 2, {340, YG + 5});
     ASSERT_TRUE(CercaAsseBaricentrico(r).Trovato);
-    EXPECT_EQ(r.PuntoZ[14], z) << y3;
+    EXPECT_EQ(r.PuntoZ[14], z) << YG;
   }
 }
 
