@@ -1,10 +1,7 @@
 // The drawing file, byte for byte, and what the user is told about it.
 #include "drawing/salva_dis_cond.h"
 
-#include <algorithm>
-
 #include "drawing/funz_disegno.h"
-#include "platform/regione.h"
 #include "tests/drawing/attrezzi.h"
 
 namespace tarvel::disegno {
@@ -19,14 +16,11 @@ std::string Righe(const std::string& testo) {
 
 class FileDisegno : public ConDisegno {
  protected:
-  // The file's text with '.' for the decimal separator.
   std::string Salvato(int intestazione = 0) {
     Intero16 tipo = intestazione;
     SalvaDisegno(nome_, tipo, 1);
     EXPECT_EQ(tipo, 1);
-    std::string testo = prove::Contenuto(nome_);
-    std::replace(testo.begin(), testo.end(), SeparatoreDecimale(), '.');
-    return testo;
+    return prove::Contenuto(nome_);
   }
 
   const prove::Cartella cartella_;
