@@ -66,12 +66,12 @@ TEST(ContrattoEventi, ListsKeepTheUsersChoiceAndTheProgramsOwnChangesFireNothing
     };
     u.Esegui(form, {annota, sceglie(una, {0}), sceglie(una, {2}), sceglie(tante, {0, 1, 3}),
                     [&] { u.Clicca(leggi); }, sceglie(tante, {2, 1}), [&] { u.Clicca(leggi); },
-                    [&] { u.DoppioClick(una, 1); }, [&] { u.DoppioClick(tante, 3); },
+                    [&] { u.DoppioClick(una, 1); }, [&] { u.DoppioClick(tante, 1); },
                     [&] { u.Clicca(cambia); }, annota});
   });
   EXPECT_EQ(InRiga(esito.diario),
             "load F;  2 a|b|c a|b|c|d 0000; perso A '2';  2 a|b|*c *a|*b|c|*d 1101; "
-            " 2 a|b|*c a|*b|*c|d 0110; doppio Una 'a|*b|c'; doppio Tante 'a|b|c|*d'; "
+            " 2 a|b|*c a|*b|*c|d 0110; doppio Una 'a|*b|c'; doppio Tante 'a|*b|c|d'; "
             "\x80 5 gi\xE0 a|*b|c x|y 00; \x80 5 gi\xE0 a|*b|c x|y 00");
 }
 

@@ -110,9 +110,12 @@ TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
   EXPECT_EQ(file.LeggiVoceIntero(), 7);
   EXPECT_EQ(file.LeggiRiga(), "intera");
   for (const int riga : {4, 5, 6}) {
-    EXPECT_THROW(riga == 4 ? void(file.LeggiVoceNumero()) : void(file.LeggiVoceIntero()), ErroreFatale)
-        << riga;
-    EXPECT_EQ(file.Luogo(), Percorso("f") + ", riga " + std::to_string(riga));
+    try {
+      riga == 4 ? void(file.LeggiVoceNumero()) : void(file.LeggiVoceIntero());
+      ADD_FAILURE() << riga;
+    } catch (const ErroreFatale& errore) {
+      EXPECT_EQ(errore.dove, Percorso("f") + ", riga " + std::to_string(riga));
+    }
   }
 }
 
