@@ -20,10 +20,10 @@ TEST(ContrattoEventi, KeysComeBeforeTheTextChangesALostFocusBeforeTheNextControl
       u.Annota(r == Risposta::Si ? "si" : r == Risposta::No ? "no" : "ok");
     });
     for (const Risposta r : {Risposta::Ok, Risposta::Si, Risposta::Ok, Risposta::No}) u.Rispondi(r);
-    u.Esegui(form, {[&] { u.Vai(b); }, [&] { u.Vai(b); }, [&] { u.Scrivi(a, "1\xE0\x80"); },
-                    [&] { u.Invio(a); }, [&] { u.Scrivi(a, ""); }, [&] { u.Invio(a); },
-                    [&] { u.Clicca(salva); }, [&] { u.Scrivi(b, "5"); }, [&] { u.Clicca(salva); },
-                    [&] { u.Invio(salva); }, [&] { u.Vai(b); }, [&] { u.Vai(a); }});
+    u.Esegui(form, {[&] { u.Vai(b); }, [&] { u.Vai(b); }, [&] { u.Vai(a); },
+                    [&] { u.Scrivi(a, "1\xE0\x80"); }, [&] { u.Invio(a); }, [&] { u.Scrivi(a, ""); },
+                    [&] { u.Invio(a); }, [&] { u.Clicca(salva); }, [&] { u.Scrivi(b, "5"); },
+                    [&] { u.Clicca(salva); }, [&] { u.Invio(salva); }, [&] { u.Vai(b); }, [&] { u.Vai(a); }});
   });
   const std::string persoB = "messaggio nessuna ok \"\" \"perso B\" -> ok";
   const std::string domanda = "messaggio esclamazione sino \"D\" \"Salvare?\" -> ";
