@@ -1,4 +1,4 @@
-// Files of the host: how paths are found, how lines and items are read and written.
+// Files and programs of the host: how paths are found, lines and items read and written, programs started.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,6 +9,8 @@
 
 #include "base/errore.h"
 #include "platform/file.h"
+#include "platform/programmi.h"
+#include "tests/contratto/mobili.h"
 
 namespace tarvel::contratto {
 namespace {
@@ -31,10 +33,6 @@ class ContrattoFile : public ::testing::Test {
   }
   void Metti(const std::string& nome, const std::string& contenuto) const {
     std::ofstream(cartella_ / nome, std::ios::binary) << contenuto;
-  }
-  std::string Contenuto(const std::string& nome) const {
-    std::ifstream file(cartella_ / nome, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
   }
   FileInLettura Apri(const std::string& nome, const std::string& contenuto) const {
     Metti(nome, contenuto);
@@ -68,50 +66,38 @@ TEST_F(ContrattoFile, PathsAreMatchedExactlyFirstThenWithoutRegardToCase) {
 
 TEST_F(ContrattoFile, NoFileIsNothing) {
   Metti("f", "");
-  EXPECT_FALSE(FileInLettura::Apri(Percorso("assente")));
-  EXPECT_FALSE(FileInLettura::Apri(Percorso("")));
-  EXPECT_FALSE(FileInLettura::Apri(""));
-  EXPECT_FALSE(FileInLettura::Apri(Percorso("f\\dentro")));
-  EXPECT_FALSE(FileInScrittura::Crea(Percorso("manca\\f")));
-  EXPECT_FALSE(FileInScrittura::Crea(Percorso("")));
+  for (const Testo& percorso : {Percorso("assente"), Percorso(""), Testo(), Percorso("f\\dentro")})
+    EXPECT_FALSE(FileInLettura::Apri(percorso)) << percorso;
+  for (const Testo& percorso : {Percorso("manca\\f"), Percorso("")})
+    EXPECT_FALSE(FileInScrittura::Crea(percorso)) << percorso;
 }
 
-TEST_F(ContrattoFile, ALineEndsWithOrWithoutACarriageReturnOrAtTheEnd) {
-  for (const char* contenuto : {"uno\r\n\r\ntre\r\n", "uno\n\ntre\n", "uno\r\n\ntre"}) {
-    FileInLettura file = Apri("f", contenuto);
-    EXPECT_EQ(file.LeggiRiga(), "uno");
-    EXPECT_EQ(file.LeggiRiga(), "");
-    EXPECT_EQ(file.LeggiRiga(), "tre");
-    EXPECT_EQ(file.Luogo(), Percorso("f") + ", riga 3");
-    EXPECT_THROW(file.LeggiRiga(), ErroreFatale) << contenuto;
-  }
-  EXPECT_THROW(Apri("vuoto", "").LeggiVoceTesto(), ErroreFatale);
-}
-
-TEST_F(ContrattoFile, AVeryLongLineIsRead) {
-  const std::string lunga(5'000'000, 'x');
-  FileInLettura file = Apri("f", lunga + "\r\nfine");
-  EXPECT_EQ(file.LeggiRiga().size(), lunga.size());
-  EXPECT_EQ(file.LeggiRiga(), "fine");
-}
-
-TEST_F(ContrattoFile, ItemsEndAtCommasAndLineEnds) {
-  struct Caso {
-    const char* contenuto;
+TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
+  const Testo lunga(5'000'000, 'x');
+  const struct {
+    Testo contenuto;
+    std::vector<Testo> righe;
     std::vector<Testo> voci;
+  } casi[] = {
+      {"", {}, {}},
+      {"uno\r\n\r\ntre\r\n", {"uno", "", "tre"}, {"uno", "", "tre"}},
+      {"uno\n\ntre\n", {"uno", "", "tre"}, {"uno", "", "tre"}},
+      {lunga + "\r\nfine", {lunga, "fine"}, {lunga, "fine"}},
+      {"a,b\r\nc", {"a,b", "c"}, {"a", "b", "c"}},
+      {"  a b , c \n", {"  a b , c "}, {"a b ", "c "}},
+      {"\"a, b\" , \"c\"\r\n\"d", {"\"a, b\" , \"c\"", "\"d"}, {"a, b", "c", "d"}},
+      {",,x", {",,x"}, {"", "", "x"}},
+      {"\r\n\"\"\r\nx\r\n", {"", "\"\"", "x"}, {"", "", "x"}},
+      {"C:\\Lavori\r\n", {"C:\\Lavori"}, {"C:\\Lavori"}},
   };
-  const Caso casi[] = {
-      {"a,b\r\nc", {"a", "b", "c"}},
-      {"  a b , c \n", {"a b ", "c "}},
-      {"\"a, b\" , \"c\"\r\n\"d", {"a, b", "c", "d"}},
-      {",,x", {"", "", "x"}},
-      {"\r\n\"\"\r\nx\r\n", {"", "", "x"}},
-      {"C:\\Lavori\r\n", {"C:\\Lavori"}},
-  };
-  for (const Caso& caso : casi) {
-    FileInLettura file = Apri("f", caso.contenuto);
-    for (const Testo& voce : caso.voci) EXPECT_EQ(file.LeggiVoceTesto(), voce) << caso.contenuto;
-    EXPECT_THROW(file.LeggiVoceTesto(), ErroreFatale) << caso.contenuto;
+  for (const auto& caso : casi) {
+    SCOPED_TRACE(caso.contenuto.substr(0, 40));
+    FileInLettura aRighe = Apri("f", caso.contenuto);
+    for (const Testo& riga : caso.righe) EXPECT_TRUE(aRighe.LeggiRiga() == riga) << riga.substr(0, 40);
+    EXPECT_THROW(aRighe.LeggiRiga(), ErroreFatale);
+    FileInLettura aVoci = Apri("f", caso.contenuto);
+    for (const Testo& voce : caso.voci) EXPECT_TRUE(aVoci.LeggiVoceTesto() == voce) << voce.substr(0, 40);
+    EXPECT_THROW(aVoci.LeggiVoceTesto(), ErroreFatale);
   }
 }
 
@@ -133,24 +119,33 @@ TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
   }
 }
 
-TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFile) {
+TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFileAndAFullDiskIsFatal) {
   Metti("Vecchio", "qualcosa di piu' lungo di quanto segue");
   auto file = FileInScrittura::Crea(Percorso("VECCHIO")).value();
   file.ScriviRiga("gi\xE0");
   file.ScriviRiga("");
   file.Chiudi();
-  EXPECT_EQ(Contenuto("Vecchio"), "gi\xE0\r\n\r\n");
+  std::ifstream scritto(cartella_ / "Vecchio", std::ios::binary);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(scritto), {}), "gi\xE0\r\n\r\n");
+
+  auto pieno = FileInScrittura::Crea("\\dev\\full").value();
+  EXPECT_THROW((pieno.ScriviRiga("una riga"), pieno.Chiudi()), ErroreFatale);
 }
 
-TEST_F(ContrattoFile, AFullDiskIsFatalAtTheLatestWhenTheFileIsClosed) {
-  if (!fs::exists("/dev/full")) GTEST_SKIP() << "no /dev/full on this host";
-  auto file = FileInScrittura::Crea("\\dev\\full").value();
-  EXPECT_THROW(
-      {
-        file.ScriviRiga("una riga");
-        file.Chiudi();
-      },
-      ErroreFatale);
+TEST(ContrattoProgrammi, IdsAreNewAndOnlyOfProgramsThatStart) {
+  const Esito esito = Prova([](Utente& u) {
+    FormDiario form(u, "F");
+    form.alCaricamento = [&] {
+      const auto uno = AvviaProgramma("\\bin\\TRUE", 1);
+      const auto due = AvviaProgramma("\\bin\\true", 1);
+      u.Annota(uno && due && *uno != 0 && *due != 0 && *uno != *due ? "diversi" : "guasto");
+      for (const char* percorso : {"\\bin\\non c'e'", "\\bin", ""})
+        u.Annota(AvviaProgramma(percorso, 1) ? "avviato" : "niente");
+      for (const std::int32_t id : {0, -1, 12345}) u.Annota(AttivaProgramma(id) ? "attivo" : "nessuno");
+    };
+    u.Esegui(form, {});
+  });
+  EXPECT_EQ(InRiga(esito.diario), "load F; diversi; niente; niente; niente; nessuno; nessuno; nessuno");
 }
 
 }  // namespace

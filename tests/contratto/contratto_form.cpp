@@ -6,245 +6,152 @@
 namespace tarvel::contratto {
 namespace {
 
-TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksTheOthers) {
-  const Esito esito = Prova([](Utente& u) {
-    FormDiario modale(u, "M");
-    Controllo& chiudi = modale.Bottone("Chiudi", [&] {
-      ScaricaForm(modale);
-      u.Annota("fine Chiudi");
-    });
-    FormDiario form(u, "F");
-    Controllo& apri = form.Bottone("Apri", [&] {
-      MostraFormModale(modale);
-      u.Annota(FormCaricata(modale) || u.Vede(modale) ? "ancora" : "andata");
-    });
-    u.Esegui(form, {[&] { u.Clicca(apri); }, [&] { u.Clicca(apri); }, [&] { u.Chiudi(form); },
-                    [&] { u.Clicca(chiudi); }, [&] { u.Clicca(apri); }, [&] { u.Chiudi(modale); }});
+// The main form F shows M modally, and M in its turn N; L stands beside whichever form shows it.
+struct Scena {
+  explicit Scena(Utente& utente) : u(utente) {}
+
+  void Stato(const Form& form) {
+    u.Annota(form.nome + (FormCaricata(form) ? " caricata" : " scaricata") + (u.Vede(form) ? " vista" : ""));
+  }
+  void Apri(Form& form) {
+    MostraFormModale(form);
+    Stato(form);
+  }
+
+  Utente& u;
+  Temporizzatore timer;
+  FormDiario f{u, "F"}, m{u, "M"}, n{u, "N"}, l{u, "L"};
+  Controllo& a = f.Casella("A");
+  Controllo& b = f.Casella("B");
+  Controllo& apriM = f.Bottone("ApriM", [this] { Apri(m); });
+  Controllo& apriN = m.Bottone("ApriN", [this] { Apri(n); });
+  Controllo& mostraL = m.Bottone("MostraL", [this] { MostraForm(l); });
+  Controllo& nascondiM = m.Bottone("NascondiM", [this] { NascondiForm(m); });
+  Controllo& scaricaM = m.Bottone("ScaricaM", [this] {
+    ScaricaForm(m);
+    ScaricaForm(m);
+    Stato(m);
   });
-  EXPECT_EQ(esito.diario, (Diario{"load F", "click Apri", "load M", "click Chiudi", "unload M", "fine Chiudi",
-                                  "andata", "click Apri", "load M", "unload M", "andata"}));
+  Controllo& testoM = m.Casella("m", "1");
+  Controllo& premiN = n.Bottone("N");
+  Controllo& testoL = l.Casella("l", "1");
+  Controllo& premiL = l.Bottone("L");
+  Controllo& nascondiL = l.Bottone("NascondiL", [this] { NascondiForm(l); });
+};
+
+TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksWhatWasThereBefore) {
+  const Esito esito = Prova([](Utente& u) {
+    Scena s(u);
+    const Passo premeL = [&] { u.Clicca(s.premiL); };
+    const Passo apreM = [&] { u.Clicca(s.apriM); };
+    s.f.alCaricamento = [&] { ScaricaForm(s.m); };
+    s.m.alloScarico = s.f.alCaricamento;
+    s.timer.scatto = [&] {
+      AbilitaTimer(s.timer, false);
+      ScaricaForm(s.m);
+      u.Annota("scatto");
+    };
+    const Passo aspetta = [&] {
+      AbilitaTimer(s.timer, true);
+      u.AspettaRiga("scatto");
+    };
+    u.Esegui(s.f, {apreM, apreM, [&] { u.Chiudi(s.f); }, [&] { u.Clicca(s.mostraL); }, premeL,
+                   [&] { u.Clicca(s.apriN); }, premeL, [&] { u.Clicca(s.mostraL); }, apreM,
+                   [&] { u.Chiudi(s.n); }, premeL, apreM, [&] { u.Chiudi(s.m); }, premeL, apreM,
+                   [&] { u.Clicca(s.scaricaM); }, apreM, aspetta, premeL});
+  });
+  EXPECT_EQ(InRiga(esito.diario),
+            "load F; perso A ''; load M; load L; perso l '1'; click L; load N; unload N; N scaricata; "
+            "click L; unload M; M scaricata; click L; load M; unload M; M scaricata; M scaricata; load M; "
+            "unload M; scatto; M scaricata; click L");
   EXPECT_EQ(esito.stato, 0);
 }
 
-TEST(ContrattoForm, TheFocusReturnsFromAModalFormWithoutAnEvent) {
+// The focus returns from a form without an event; a close box takes it with one, before the unload hook.
+TEST(ContrattoForm, AHiddenFormKeepsItsStateAndACloseBoxStoresWhatWasTyped) {
   const Esito esito = Prova([](Utente& u) {
-    FormDiario modale(u, "M");
-    Controllo& m = modale.Casella("m");
-    FormDiario form(u, "F");
-    Controllo& a = form.Casella("A");
-    Controllo& b = form.Casella("B");
-    b.tasto = [&](int) {
-      MostraFormModale(modale);
-      u.Annota("tornata");
-    };
-    u.Esegui(form, {[&] { u.Vai(b); }, [&] { u.Invio(b); }, [&] { u.Invio(m); }, [&] { u.Chiudi(modale); },
-                    [&] { u.Vai(b); }, [&] { u.Vai(a); }});
-  });
-  EXPECT_EQ(esito.diario, (Diario{"load F", "perso A ''", "load M", "perso B ''", "tasto m 13 ''",
-                                  "perso m ''", "unload M", "tornata", "perso B ''"}));
-}
-
-TEST(ContrattoForm, AHiddenModalFormReturnsLoadedWithItsState) {
-  const Esito esito = Prova([](Utente& u) {
-    FormDiario modale(u, "M");
-    Controllo& casella = modale.Casella("m", "1");
-    Controllo& via = modale.Bottone("Via", [&] { NascondiForm(modale); });
-    FormDiario form(u, "F");
-    Controllo& apri = form.Bottone("Apri", [&] {
-      MostraFormModale(modale);
-      u.Annota(FormCaricata(modale) && !u.Vede(modale) ? "nascosta" : "altro");
-    });
-    u.Esegui(form, {[&] { u.Clicca(apri); }, [&] { u.Scrivi(casella, "2"); }, [&] { u.Clicca(via); },
-                    [&] { u.Clicca(apri); }, [&] { u.Annota(u.Legge(casella)); }, [&] { u.Clicca(via); }});
-  });
-  EXPECT_EQ(esito.diario,
-            (Diario{"load F", "click Apri", "load M", "tasto m 50 '1'", "perso m '2'", "click Via",
-                    "nascosta", "click Apri", "2", "perso m '2'", "click Via", "nascosta"}));
-}
-
-TEST(ContrattoForm, NestedModalFormsReturnInnermostFirst) {
-  const Esito esito = Prova([](Utente& u) {
-    FormDiario interna(u, "M2");
-    interna.Bottone("x");
-    FormDiario esterna(u, "M1");
-    Controllo& apri2 = esterna.Bottone("Apri2", [&] {
-      MostraFormModale(interna);
-      u.Annota("dopo M2");
-    });
-    FormDiario libera(u, "L");
-    Controllo& l = libera.Bottone("l");
-    Controllo& mostra = esterna.Bottone("Mostra", [&] { MostraForm(libera); });
-    FormDiario form(u, "F");
-    Controllo& apri1 = form.Bottone("Apri1", [&] {
-      MostraFormModale(esterna);
-      u.Annota("dopo M1");
-    });
-    u.Esegui(form, {[&] { u.Clicca(apri1); }, [&] { u.Clicca(mostra); }, [&] { u.Clicca(l); },
-                    [&] { u.Clicca(apri2); }, [&] { u.Clicca(l); }, [&] { u.Clicca(mostra); },
-                    [&] { u.Chiudi(interna); }, [&] { u.Clicca(apri1); }, [&] { u.Clicca(l); },
-                    [&] { u.Chiudi(esterna); }, [&] { u.Clicca(l); }, [&] { u.Clicca(apri1); }});
-  });
-  EXPECT_EQ(esito.diario, (Diario{"load F", "click Apri1", "load M1", "click Mostra", "load L", "click l",
-                                  "click Apri2", "load M2", "unload M2", "dopo M2", "click l", "unload M1",
-                                  "dopo M1", "click l", "click Apri1", "load M1"}));
-}
-
-TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
-  const Esito esito = Prova([](Utente& u) {
-    FormDiario opzioni(u, "O");
-    Controllo& o = opzioni.Casella("o", "1");
-    Controllo& chiudi = opzioni.Bottone("Chiudi", [&] { NascondiForm(opzioni); });
-    FormDiario form(u, "F");
-    Controllo& a = form.Casella("A");
-    Controllo& mostra = form.Bottone("Mostra", [&] {
-      MostraForm(opzioni);
-      u.Annota("mostrata");
-    });
-    form.alCaricamento = [&] {
-      CaricaForm(opzioni);
-      CaricaForm(opzioni);
-      u.Annota(u.Vede(opzioni) ? "si vede" : "non si vede");
-    };
-    u.Esegui(form, {[&] { u.Clicca(mostra); }, [&] { u.Scrivi(o, "2"); }, [&] { u.Invio(a); },
-                    [&] { u.Clicca(mostra); }, [&] { u.Invio(o); }, [&] { u.Clicca(chiudi); },
-                    [&] { u.Annota(u.Vede(opzioni) ? "si vede" : "non si vede"); }, [&] { u.Clicca(mostra); },
-                    [&] { u.Scrivi(o, "3"); }, [&] { u.Chiudi(opzioni); }, [&] { u.Invio(a); }});
-  });
-  EXPECT_EQ(esito.diario,
-            (Diario{"load F",       "load O",         "non si vede",  "perso A ''",     "click Mostra",
-                    "mostrata",     "tasto o 50 '1'", "perso o '2'",  "tasto A 13 ''",  //
-                    "perso A ''",   "click Mostra",   "mostrata",     "tasto o 13 '2'", "perso o '2'",
-                    "click Chiudi", "non si vede",    "click Mostra", "mostrata",       "tasto o 51 '2'",
-                    "perso o '3'",  "unload O",       "tasto A 13 ''"}));
-}
-
-TEST(ContrattoForm, AControlHearsOfAFormShownByAHandlerOnlyAfterTheHandler) {
-  const Esito esito = Prova([](Utente& u) {
-    FormDiario altra(u, "O");
-    altra.Casella("o");
-    FormDiario form(u, "F");
-    Controllo& a = form.Casella("A");
-    a.tasto = [&](int) {
-      MostraForm(altra);
-      u.Annota("fine tasto");
-    };
-    u.Esegui(form, {[&] { u.Invio(a); }, [&] { u.Annota("passo"); }});
-  });
-  EXPECT_EQ(esito.diario, (Diario{"load F", "load O", "fine tasto", "perso A ''", "passo"}));
-}
-
-TEST(ContrattoForm, TheCloseBoxStoresWhatWasTypedBeforeTheUnloadHook) {
-  const Esito esito = Prova([](Utente& u) {
-    FormDiario domanda(u, "M");
-    domanda.Bottone("x");
-    FormDiario form(u, "F");
-    Controllo& a = form.Casella("A");
-    Temporizzatore timer;
-    timer.scatto = [] { TerminaProgramma(7); };
-    form.alloScarico = [&] {
+    Scena s(u);
+    s.b.tasto = [&](int) { s.Apri(s.m); };
+    s.timer.scatto = [] { TerminaProgramma(7); };
+    s.f.alloScarico = [&] {
       MostraMessaggio("Salvare?", "INFORMAZIONE", Icona::Informazione, Bottoni::SiNo);
-      MostraFormModale(domanda);
-      AbilitaTimer(timer, true);
+      MostraFormModale(s.n);
+      AbilitaTimer(s.timer, true);
     };
     u.Rispondi(Risposta::Si);
-    u.Esegui(form, {[&] { u.Scrivi(a, "7"); }, [&] { u.Chiudi(form); }, [&] { u.Chiudi(domanda); },
-                    [&] { u.AspettaRiga("mai"); }});
+    u.Esegui(s.f, {[&] { u.Vai(s.b); }, [&] { u.Invio(s.b); }, [&] { u.Scrivi(s.testoM, "2"); },
+                   [&] { u.Clicca(s.nascondiM); }, [&] { u.Vai(s.b); }, [&] { u.Invio(s.b); },
+                   [&] { u.Annota(u.Legge(s.testoM)); }, [&] { u.Invio(s.testoM); }, [&] { u.Chiudi(s.m); },
+                   [&] { u.Vai(s.b); }, [&] { u.Scrivi(s.a, "7"); }, [&] { u.Chiudi(s.f); },
+                   [&] { u.Chiudi(s.n); }, [&] { u.AspettaRiga("mai"); }});
   });
-  EXPECT_EQ(esito.diario, (Diario{"load F", "tasto A 55 ''", "perso A '7'", "unload F",
-                                  "messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si", "load M",
-                                  "unload M"}));
+  EXPECT_EQ(InRiga(esito.diario),
+            "load F; perso A ''; load M; perso B ''; tasto m 50 '1'; perso m '2'; M caricata; perso B ''; "
+            "2; tasto m 13 '2'; perso m '2'; unload M; M scaricata; perso B ''; tasto A 55 ''; perso A '7'; "
+            "unload F; messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si; load N; unload N");
   EXPECT_EQ(esito.stato, 7);
 }
 
-TEST(ContrattoForm, AFormIsUnloadedOnceAndCanBeLoadedAgain) {
+// A control hears of a form that a handler shows only after the handler.
+TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
   const Esito esito = Prova([](Utente& u) {
-    FormDiario altra(u, "O");
-    altra.alloScarico = [&] { ScaricaForm(altra); };
-    Controllo& via = altra.Bottone("Via", [&] {
-      ScaricaForm(altra);
-      ScaricaForm(altra);
-      u.Annota(FormCaricata(altra) ? "caricata" : "scaricata");
-    });
-    FormDiario form(u, "F");
-    form.alCaricamento = [&] { ScaricaForm(altra); };
-    Controllo& apri = form.Bottone("Apri", [&] { MostraForm(altra); });
-    u.Esegui(form, {[&] { u.Clicca(apri); }, [&] { u.Clicca(via); }, [&] { u.Clicca(apri); },
-                    [&] { u.Clicca(via); }, [&] { u.Clicca(apri); }});
+    Scena s(u);
+    s.f.alCaricamento = [&] {
+      CaricaForm(s.l);
+      CaricaForm(s.l);
+      s.Stato(s.l);
+    };
+    s.a.tasto = [&](int) {
+      MostraForm(s.l);
+      u.Annota("mostrata");
+    };
+    const Passo mostra = [&] { u.Invio(s.a); };
+    const Passo nasconde = [&] { u.Clicca(s.nascondiL); };
+    const Passo guarda = [&] { s.Stato(s.l); };
+    u.Esegui(s.f, {mostra, guarda, [&] { u.Scrivi(s.testoL, "2"); }, mostra, [&] { u.Invio(s.testoL); },
+                   nasconde, guarda, mostra, nasconde, [&] { u.Vai(s.b); }, mostra,
+                   [&] { u.Scrivi(s.testoL, "3"); }, [&] { u.Chiudi(s.l); }, guarda, [&] { u.Vai(s.b); }});
   });
-  EXPECT_EQ(esito.diario,
-            (Diario{"load F", "click Apri", "load O", "click Via", "unload O", "scaricata", "click Apri",
-                    "load O", "click Via", "unload O", "scaricata", "click Apri", "load O"}));
+  EXPECT_EQ(InRiga(esito.diario),
+            "load F; load L; L caricata; mostrata; perso A ''; L caricata vista; tasto l 50 '1'; "
+            "perso l '2'; mostrata; perso A ''; tasto l 13 '2'; perso l '2'; L caricata; mostrata; "
+            "perso A ''; perso l '2'; perso A ''; perso B ''; mostrata; perso A ''; tasto l 51 '2'; "
+            "perso l '3'; unload L; L scaricata; perso A ''");
 }
-
-struct Fine {
-  const char* nome;
-  std::function<void()> gestore;
-  std::string messaggio;
-  int stato;
-};
 
 // Whatever is open, the end is at once: no unload hook, no code after it, no further step.
 TEST(ContrattoForm, TheProgramEndsAtOnceWhereverItIs) {
-  const std::string messaggio = std::string("messaggio stop ok \"") + kTitoloProgramma + "\" ";
-  const Fine fini[] = {
-      {"fatal error", [] { throw ErroreFatale(TipoErrore::Indice, "indice 501", "tabella T"); },
-       messaggio + "\"Errore irreversibile: indice 501 (tabella T)\" -> ok", 1},
-      {"end", [] { TerminaProgramma(5); }, "", 5},
+  const std::string messaggio = std::string("; messaggio stop ok \"") + kTitoloProgramma +
+                                "\" \"Errore irreversibile: indice 501 (tabella T)\" -> ok";
+  enum Luogo { kCaricamento, kClick, kScatto, kScarico };
+  const std::pair<Luogo, std::string> luoghi[] = {
+      {kCaricamento, "load F"},
+      {kClick, "load F; perso A ''; load M; load N"},
+      {kScatto, "load F; perso A ''; load M; load N"},
+      {kScarico, "load F; perso A ''; load M; load N; unload N"},
   };
-  for (const Fine& fine : fini) {
-    SCOPED_TRACE(fine.nome);
-    const auto atteso = [&](Diario inizio) {
-      if (!fine.messaggio.empty()) inizio.push_back(fine.messaggio);
-      return inizio;
-    };
-
-    const Esito inModale = Prova([&](Utente& u) {
-      FormDiario interna(u, "M2");
-      Controllo& guasto = interna.Bottone("Guasto", fine.gestore);
-      FormDiario esterna(u, "M1");
-      Controllo& apri2 = esterna.Bottone("Apri2", [&] {
-        MostraFormModale(interna);
-        u.Annota("mai");
+  for (const bool fatale : {false, true})
+    for (const auto& [luogo, prime] : luoghi) {
+      const auto fine = [&] {
+        if (fatale) throw ErroreFatale(TipoErrore::Indice, "indice 501", "tabella T");
+        TerminaProgramma(5);
+      };
+      const Esito esito = Prova([&, dove = luogo](Utente& u) {
+        Scena s(u);
+        (dove == kCaricamento ? s.f.alCaricamento : s.n.alloScarico) = fine;
+        s.premiN.click = s.timer.scatto = fine;
+        const Passo passi[] = {[] {}, [&] { u.Clicca(s.premiN); },
+                               [&] {
+                                 AbilitaTimer(s.timer, true);
+                                 u.AspettaRiga("mai");
+                               },
+                               [&] { u.Chiudi(s.n); }};
+        u.Esegui(s.f, {[&] { u.Clicca(s.apriM); }, [&] { u.Clicca(s.apriN); }, passi[dove],
+                       [&] { u.Annota("mai"); }});
       });
-      FormDiario form(u, "F");
-      Controllo& apri1 = form.Bottone("Apri1", [&] {
-        MostraFormModale(esterna);
-        u.Annota("mai");
-      });
-      u.Esegui(form, {[&] { u.Clicca(apri1); }, [&] { u.Clicca(apri2); }, [&] { u.Clicca(guasto); },
-                      [&] { u.Annota("mai"); }});
-    });
-    EXPECT_EQ(inModale.diario,
-              atteso({"load F", "click Apri1", "load M1", "click Apri2", "load M2", "click Guasto"}));
-    EXPECT_EQ(inModale.stato, fine.stato);
-
-    const Esito alCaricamento = Prova([&](Utente& u) {
-      FormDiario form(u, "F");
-      form.alCaricamento = fine.gestore;
-      u.Esegui(form, {[&] { u.Annota("mai"); }});
-    });
-    EXPECT_EQ(alCaricamento.diario, atteso({"load F"}));
-    EXPECT_EQ(alCaricamento.stato, fine.stato);
-
-    const Esito nelTimer = Prova([&](Utente& u) {
-      FormDiario form(u, "F");
-      form.Casella("A");
-      Temporizzatore timer;
-      timer.scatto = fine.gestore;
-      form.alCaricamento = [&] { AbilitaTimer(timer, true); };
-      u.Esegui(form, {[&] { u.AspettaRiga("mai"); }, [&] { u.Annota("mai"); }});
-    });
-    EXPECT_EQ(nelTimer.diario, atteso({"load F"}));
-    EXPECT_EQ(nelTimer.stato, fine.stato);
-
-    const Esito allaChiusura = Prova([&](Utente& u) {
-      FormDiario form(u, "F");
-      form.alloScarico = fine.gestore;
-      u.Esegui(form, {[&] { u.Chiudi(form); }, [&] { u.Annota("mai"); }});
-    });
-    EXPECT_EQ(allaChiusura.diario, atteso({"load F", "unload F"}));
-    EXPECT_EQ(allaChiusura.stato, fine.stato);
-  }
+      EXPECT_EQ(InRiga(esito.diario), prime + (fatale ? messaggio : "")) << luogo;
+      EXPECT_EQ(esito.stato, fatale ? 1 : 5) << luogo;
+    }
 }
 
 }  // namespace

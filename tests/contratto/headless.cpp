@@ -12,11 +12,6 @@
 namespace tarvel::contratto {
 namespace {
 
-struct Pronta {
-  Risposta risposta;
-  int attesa;
-};
-
 class UtenteHeadless : public Utente {
  public:
   Esito esito;
@@ -54,38 +49,32 @@ class UtenteHeadless : public Utente {
 
  private:
   void Agisce() {
-    if (Attende()) {
+    const bool scritta =
+        std::find(esito.diario.begin(), esito.diario.end(), aspettata_) != esito.diario.end();
+    if (!scritta && pazienza_-- > 0) {
       headless::LasciaPassare(1);
-      --pazienza_;
       return;
     }
-    aspettata_.clear();
+    pazienza_ = 0;
     if (passi_.empty()) TerminaProgramma(0);
     const Passo passo = std::move(passi_.front());
     passi_.pop_front();
     passo();
   }
 
-  bool Attende() const {
-    return !aspettata_.empty() && pazienza_ > 0 &&
-           std::find(esito.diario.begin(), esito.diario.end(), aspettata_) == esito.diario.end();
-  }
-
   Risposta Risponde(const headless::Messaggio& m) {
-    Pronta pronta{m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok, 0};
-    if (!pronte_.empty()) {
-      pronta = pronte_.front();
-      pronte_.pop_front();
-    }
-    headless::LasciaPassare(pronta.attesa);
-    Annota(RigaMessaggio(m.icona, m.bottoni, m.titolo, m.testo, pronta.risposta));
-    return pronta.risposta;
+    if (pronte_.empty()) pronte_.push_back({m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok, 0});
+    const auto [risposta, attesa] = pronte_.front();
+    pronte_.pop_front();
+    headless::LasciaPassare(attesa);
+    Annota(RigaMessaggio(m.icona, m.bottoni, m.titolo, m.testo, risposta));
+    return risposta;
   }
 
   std::deque<Passo> passi_;
-  std::deque<Pronta> pronte_;
+  std::deque<std::pair<Risposta, int>> pronte_;
   std::string aspettata_;
-  int pazienza_ = 0;
+  int pazienza_ = 0;  // milliseconds, while a line is waited for
 };
 
 }  // namespace

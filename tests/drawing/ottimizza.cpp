@@ -1,10 +1,11 @@
-// The compaction: small drawings with known results, and many random ones against the literal method.
+// The compaction: many random drawings against the literal method, and what that one cannot show.
 #include "drawing/ottimizza.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
-#include <vector>
+#include <tuple>
 
 #include "base/errore.h"
 #include "drawing/funz_disegno.h"
@@ -16,57 +17,19 @@ namespace {
 
 using Ottimizza = ConDisegno;
 
-TEST_F(Ottimizza, LineeContenute) {
-  struct Tratto {
-    double da, a;
-    int colore, tipo;
-  };
-  const struct {
-    const char* caso;
-    std::vector<Tratto> tratti;
-    std::vector<int> restano;
-  } casi[] = {
-      {"of two equal lines the second stays", {{0, 9, 1, 1}, {0, 9, 1, 1}}, {1}},
-      {"of three the last", {{0, 9, 1, 1}, {9, 0, 1, 1}, {0, 9, 1, 1}}, {2}},
-      {"inside one of colour 0", {{2, 3, 1, 1}, {0, 9, 0, 1}}, {1}},
-      {"inside one of type 0", {{2, 3, 1, 1}, {0, 9, 1, 0}}, {1}},
-      {"colour 0 stays", {{2, 3, 0, 1}, {0, 9, 1, 1}}, {0, 1}},
-      {"type 0 stays", {{2, 3, 1, 0}, {0, 9, 1, 1}}, {0, 1}},
-      {"only half inside", {{-1, 3, 1, 1}, {0, 9, 1, 1}}, {0, 1}},
-      {"a negative line takes with it what comes before", {{2, 3, 1, 1}, {0, 9, -1, 1}}, {}},
-      {"but not what comes after", {{0, 9, 1, -1}, {2, 3, 1, 1}}, {1}},
-      {"longer by less than half the tolerance", {{0, 9.00004, 1, 1}, {0, 9, 0, 1}}, {1}},
-      {"longer by more", {{0, 9.00006, 1, 1}, {0, 9, 0, 1}}, {0, 1}},
-  };
-  auto& [coordinate, punti, linee, archi, testi] = Disegno;
-  for (const auto& c : casi) {
-    Azzera();
-    for (const Tratto& t : c.tratti) {
-      const int nome = ++linee.numero;  // kept in colour and type
-      linee[nome - 1] = {coordinate.numero, coordinate.numero + 1, t.colore * nome, t.tipo * nome};
-      coordinate[coordinate.numero++] = {t.da, 0};
-      coordinate[coordinate.numero++] = {t.a, 0};
-    }
-    OttimizzaDisegno();
-    std::vector<int> restano;
-    for (std::int32_t i = 0; i < linee.numero; ++i)
-      restano.push_back(std::max<int>(linee[i].colore, linee[i].tipo) - 1);
-    EXPECT_EQ(restano, c.restano) << c.caso;
-  }
-}
-
-TEST_F(Ottimizza, CoordinateVicine) {
-  // A chain of points, each near the next only: a text gives its point away, and the point may get
-  // the text of another. The end of an arc keeps its own.
-  Disegno.Coordinate.numero = 5;
-  for (int i = 0; i < 5; ++i) Disegno.Coordinate[i] = {0.00006 * i, 0};
-  for (int i = 0; i < 3; ++i) Disegno.Testi[Disegno.Testi.numero++] = {i, 0, 10, 10, 1, "t"};
-  Disegno.Archi[Disegno.Archi.numero++] = {4, 4, 4, 4, 1, 0};
-  OttimizzaDisegno();
-  EXPECT_EQ(Disegno.Coordinate.numero, 4);
-  const std::string foto = Fotografia();
-  EXPECT_EQ(foto.substr(foto.find('\n')),
-            "\n\n\n2 2 2 3 1 0 ; \n0 0 10 10 1 t ; 0 0 10 10 1 t ; 1 0 10 10 1 t ; \n");
+// Both methods rely on this one.
+TEST_F(Ottimizza, PuntoSuSegmento) {
+  const std::tuple<double, double, int> casi[] = {{0, 0, 1},
+                                                  {8, 6, 1},
+                                                  {4, 3.001, 1},
+                                                  {-0.00003, 0, 1},
+                                                  {8.00003, 6.00003, 1},  //
+                                                  {4, 3.1, 0},
+                                                  {8.00005, 6.00005, 0},
+                                                  {-1, -0.75, 0},
+                                                  {9, 6.75, 0}};
+  for (const auto& [x, y, atteso] : casi)
+    EXPECT_EQ(disegno::PuntoSuSegmento(x, y, 0, 0, 8, 6), atteso) << x << ' ' << y;
 }
 
 TEST_F(Ottimizza, LineaSenzaPrimoPunto) {
@@ -79,65 +42,42 @@ TEST_F(Ottimizza, LineaSenzaPrimoPunto) {
   EXPECT_THROW(OttimizzaDisegno(), ErroreFatale);
 }
 
-// Drawings without regard for sense: coordinates on a small grid or just beside it, elements that
+// A drawing without regard for sense: coordinates on a small grid or just beside it, elements that
 // share them.
-class Sorte {
- public:
-  explicit Sorte(unsigned seme) : sorte_(seme) {}
-
-  void Riempi(int quanti) {
-    const double passo = Uno({1, 1, 3, 1000, 1e7, 0.00007});
-    const double scarto = Uno({0, 0, 0.00004, 0.00004, 0.06 * std::sqrt(passo / 1000)});
-    const int lato = Tra(1, 6);
-    const auto ordinata = [&] { return passo * Tra(-1, lato) + scarto * Tra(-3, 3); };
-    auto& [coordinate, punti, linee, archi, testi] = Disegno;
-    const auto riempi = [](auto& elenco, int numero, auto voce) {
-      for (elenco.numero = 0; elenco.numero < numero; ++elenco.numero) elenco[elenco.numero] = voce();
-    };
-    riempi(coordinate, Tra(1, 2 * quanti + 1), [&]() -> Coordinata {
-      return {ordinata(), Tra(0, 9) == 0 ? -0.0 : ordinata()};
-    });
-    const int ultima = coordinate.numero - 1;
-    const auto indice = [&] { return Tra(0, ultima); };
-    riempi(linee, Tra(0, quanti), [&]() -> ElementoLinea { return {indice(), indice(), Segno(), Segno()}; });
-    riempi(archi, Tra(0, quanti / 2), [&]() -> ElementoArco {
-      const int centro = Tra(0, 9) == 0 ? -1 : indice() / 4;
-      return {centro, indice() / 4, centro, indice() / 4, Tra(1, 2), Tra(0, 9) / 9};
-    });
-    riempi(testi, Tra(0, quanti / 4), [&]() -> ElementoTesto {
-      return {indice(), 0, Segno(), Segno(), 1, std::to_string(testi.numero)};
-    });
-    riempi(punti, Tra(0, quanti) / 10, [&]() -> ElementoPunto { return {indice(), 1, 2}; });
-  }
-
-  void Quota(int quante) {
-    TipoLineaCorrente = 1;
-    for (int i = 0; i < quante; ++i)
-      disegno::Quota("", Tra(0, 20), Tra(0, 20), Tra(0, 9) / 3, Tra(0, 9) / 3,
-                     {Tra(0, 2), 1, 1, Tra(0, 2) * 0.04, 1, 1, 1, Tra(0, 1), 1});
-  }
-
- private:
-  int Tra(int minimo, int massimo) { return std::uniform_int_distribution(minimo, massimo)(sorte_); }
-  double Uno(std::initializer_list<double> valori) {
-    return valori.begin()[Tra(0, static_cast<int>(valori.size()) - 1)];
-  }
-  // Mostly positive.
-  int Segno() { return std::min(Tra(-1, 15), 1 + Tra(0, 1)); }
-
-  std::mt19937 sorte_;
-};
+void Sorteggia(unsigned seme, int quanti) {
+  std::mt19937 sorte(seme);
+  const auto tra = [&](int minimo, int massimo) {
+    return std::uniform_int_distribution(minimo, massimo)(sorte);
+  };
+  const auto pochi = [&] { return std::min(tra(-1, 15), 1 + tra(0, 1)); };  // mostly positive
+  const double passo = std::array{1.0, 1.0, 3.0, 1000.0, 1e7, 0.00007}[seme % 6];
+  const double scarto = std::array{0.0, 0.0, 0.00004, 0.00004, 0.06 * std::sqrt(passo / 1000)}[seme % 5];
+  const int lato = tra(1, 6);
+  const auto ordinata = [&] { return passo * tra(-1, lato) + scarto * tra(-3, 3); };
+  auto& [coordinate, punti, linee, archi, testi] = Disegno;
+  const auto riempi = [](auto& elenco, int numero, auto voce) {
+    for (elenco.numero = 0; elenco.numero < numero; ++elenco.numero) elenco[elenco.numero] = voce();
+  };
+  riempi(coordinate, tra(1, 2 * quanti + 1), [&]() -> Coordinata {
+    return {ordinata(), tra(0, 9) == 0 ? -0.0 : ordinata()};
+  });
+  const auto indice = [&, ultima = coordinate.numero - 1] { return tra(0, ultima); };
+  riempi(linee, tra(0, quanti), [&]() -> ElementoLinea { return {indice(), indice(), pochi(), pochi()}; });
+  riempi(archi, tra(0, quanti / 2), [&]() -> ElementoArco {
+    const int centro = tra(0, 9) == 0 ? -1 : indice() / 4;
+    return {centro, indice() / 4, centro, indice() / 4, tra(1, 2), tra(0, 9) / 9};
+  });
+  riempi(testi, tra(0, quanti / 4),
+         [&]() -> ElementoTesto { return {indice(), 0, pochi(), pochi(), 1, std::to_string(testi.numero)}; });
+  riempi(punti, tra(0, quanti) / 10, [&]() -> ElementoPunto { return {indice(), 1, 2}; });
+}
 
 TEST_F(Ottimizza, ComeIlMetodoLetterale) {
   int lineeTolte = 0, archiTolti = 0;
   for (unsigned seme = 0; seme < 4000; ++seme) {
     const auto compatta = [&](void (*ottimizza)()) {
       Azzera();
-      Sorte sorte(seme);
-      if (seme % 50 == 0)
-        sorte.Quota(static_cast<int>(seme % 400) / 5);
-      else
-        sorte.Riempi(seme % 100 == 1 ? 300 : static_cast<int>(seme % 50));
+      Sorteggia(seme, seme % 100 == 1 ? 300 : static_cast<int>(seme % 50));
       const int linee = Disegno.Linee.numero, archi = Disegno.Archi.numero;
       ottimizza();
       lineeTolte += linee - Disegno.Linee.numero;

@@ -1,10 +1,7 @@
 // The drawing file, byte for byte, and what the user is told about it.
 #include "drawing/salva_dis_cond.h"
 
-#include <algorithm>
-
 #include "drawing/funz_disegno.h"
-#include "platform/regione.h"
 #include "tests/drawing/attrezzi.h"
 
 namespace tarvel::disegno {
@@ -19,14 +16,11 @@ std::string Righe(const std::string& testo) {
 
 class FileDisegno : public ConDisegno {
  protected:
-  // The file's text with '.' for the decimal separator.
   std::string Salvato(int intestazione = 0) {
     Intero16 tipo = intestazione;
     SalvaDisegno(nome_, tipo, 1);
     EXPECT_EQ(tipo, 1);
-    std::string testo = prove::Contenuto(nome_);
-    std::replace(testo.begin(), testo.end(), SeparatoreDecimale(), '.');
-    return testo;
+    return prove::Contenuto(nome_);
   }
 
   const prove::Cartella cartella_;
@@ -66,25 +60,20 @@ TEST_F(FileDisegno, Avvisi) {
   const auto fallito = [](const std::string& nome) {
     return "message none \"ERRORE\" \"Errore durante la scrittura sul file" + nome + "\" -> ok\n";
   };
-  const std::string senzaCartella = (cartella_ / "manca/x.dis").string();
-  const struct {
-    std::string nome;
-    int modo;
-    int scritto;
-    std::string messaggio;
-  } casi[] = {
+  const std::string senzaCartella = (cartella_ / "manca/x.dis").string(), pieno = "/dev/full";
+  const std::tuple<std::string, int, int, std::string> casi[] = {
       {nome_, 0, 1, riuscito},
       {nome_, 1, 1, ""},
       {nome_, 2, 1, ""},
       {senzaCartella, 0, 0, fallito(senzaCartella)},
       {senzaCartella, 1, 0, ""},
       {senzaCartella, 2, 0, fallito(senzaCartella)},
-      {"/dev/full", 0, 0, fallito("/dev/full")},  // opens, and refuses every write
+      {pieno, 0, 0, fallito(pieno)},  // opens, and refuses every write
   };
-  for (const auto& c : casi) {
+  for (const auto& [nome, modo, scritto, messaggio] : casi) {
     Intero16 tipo = 0;
-    EXPECT_EQ(Mostrato([&] { SalvaDisegno(c.nome, tipo, c.modo); }), c.messaggio) << c.nome << ' ' << c.modo;
-    EXPECT_EQ(tipo, c.scritto) << c.nome << ' ' << c.modo;
+    EXPECT_EQ(Mostrato([&] { SalvaDisegno(nome, tipo, modo); }), messaggio) << nome << ' ' << modo;
+    EXPECT_EQ(tipo, scritto) << nome << ' ' << modo;
   }
 }
 
