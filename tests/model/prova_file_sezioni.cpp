@@ -162,58 +162,6 @@ TEST_F(ProvaFile, OgniRigaRovinata) {
     }
 }
 
-TEST_F(ProvaFile, ConteggiFuoriMisura) {
-  const std::string testa = "X\r\n1 1 1 1\r\n", punto = "1 1 a\r\n0 1\r\n0 1\r\n0 1\r\n";
-  const struct {
-    std::string testo;
-    int riga;
-  } casi[] = {
-      {"-1\r\n", 1},
-      {"501\r\n", 1},
-      {"32768\r\n", 1},
-      {"1.5\r\n", 1},
-      {"1E9\r\n", 1},
-      {"1\r\n" + testa + "6\r\n", 4},
-      {"1\r\n" + testa + "-1\r\n", 4},
-      {"1\r\n" + testa + "1\r\n 51 \r\n", 5},
-      {"1\r\n" + testa + "0\r\n1 1 1\r\n1 1 1\r\n51\r\n", 7},
-      {"1\r\n" + testa + "0\r\n1 1 1\r\n1 1 1\r\n1\r\n1,5 1 a\r\n", 8},  // a point's coordinate, strict
-      {"1\r\n" + testa + "0\r\n1 1\r\n1 1 1\r\n0\r\nA\r\n0\r\n",
-       8},  // the missing item is taken from the next line
-  };
-  for (const auto& c : casi) {
-    const Testo errore = Leggi(c.testo);
-    EXPECT_NE(errore.find(", riga " + std::to_string(c.riga) + ")"), Testo::npos) << c.testo << errore;
-  }
-  EXPECT_EQ(Leggi("0\r\n"), "");
-  EXPECT_EQ(NumeroSezioni, 0);
-}
-
-TEST_F(ProvaFile, LettureParticolari) {
-  // LF alone, quotes, two values for four, three for four, a label longer than 20, blanks inside.
-  ASSERT_EQ(Leggi("1\n  \"A,B\" \n240 180\n1\n 1 \n1 2 x\n1 2 3\n4 5 6\n1\n"
-                  "1.5   -2   etichetta molto molto lunga \n.1 1\n.2 -2\n.3 3\n A\n0"),
-            "");
-  const RecordSezione& r = TabellaSezioni[1];
-  EXPECT_EQ(r.Nome, "A,B");
-  EXPECT_EQ(r.AltezzaTotale, 180);
-  EXPECT_EQ(r.ZG, 0);
-  EXPECT_EQ(r.YG, 0);
-  EXPECT_EQ(r.ValoreAggiuntivo, 0);
-  EXPECT_EQ(r.EtichettaPunto[1].Intero(), "etichetta molto molt");
-  EXPECT_EQ(r.IndicatoreTauVy[1], -2);
-  // A comma ends a name; the rest of its line is passed over, the section is whole.
-  ASSERT_EQ(Leggi("1\r\nA,B\r\n1 2 3 4\r\n0\r\n1 1 1\r\n7 8 9 1 0\r\n0\r\nA\r\n0\r\n"), "");
-  EXPECT_EQ(r.Nome, "A");
-  EXPECT_EQ(r.YG, 4);
-  EXPECT_EQ(r.ValoreAggiuntivo, 10);
-  EXPECT_EQ(r.Jzg, 9);
-
-  const std::string lunga(5'000'000, ' ');
-  EXPECT_EQ(Leggi("1\r\nA\r\n1 2" + lunga + "3 4\r\n0\r\n1 1 1\r\n7 8 9\r\n0\r\nA\r\n0\r\n"), "");
-  EXPECT_EQ(r.ZG, 3);
-}
-
 TEST_F(ProvaFile, DiscoPieno) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
   FileSezioni = "/dev/full";

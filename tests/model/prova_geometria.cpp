@@ -66,20 +66,5 @@ TEST(Geometria, PendenzeTagliateInGiu) {
   EXPECT_EQ(ParametriSezione[3], -r.O(3).y);
 }
 
-TEST(Geometria, AltreFormeRifiutate) {
-  const RecordSezione buona = Costruita(Esempio());
-  for (const auto& guasta :
-       {+[](RecordSezione& r) { r.NumPoligoni = 3; }, +[](RecordSezione& r) { r.NumVertici[1] = 12; },
-        +[](RecordSezione& r) { r.NumVertici[2] = 12; }}) {
-    RecordSezione r = buona;
-    guasta(r);
-    prove::Prepara(prove::Vettore({1, 2, 3}));
-    const prove::Verbale verbale;
-    EXPECT_FALSE(VerificaSezione(r));
-    EXPECT_EQ(verbale.Testo(), "message exclamation \"ATTENZIONE\" \"Sezione non valida\" -> ok\n");
-    EXPECT_EQ(ParametriSezione[2], 3);
-  }
-}
-
 }  // namespace
 }  // namespace tarvel
