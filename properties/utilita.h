@@ -25,6 +25,10 @@ inline Reale Massimo(Reale a, Reale b) {
   return a > b ? a : b;
 }
 
+inline Reale Distanza(Punto a, Punto b) {
+  return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
+}
+
 /// Shifts the first `numPoligoni` polygons so that the record's centroid becomes the origin.
 template <class Conteggi>
 void TraslaBaricentro(RecordSezione& sezione, int numPoligoni, const Conteggi& numVertici) {

@@ -122,12 +122,9 @@ Reale Flusso(const Coefficienti& c, const RecordSezione& s, const MomentiStatici
 // Thickness of the left end of the bottom slab across its fillet; the fillet's own length where it
 // has no area.
 Reale LarghezzaPiede(const RecordSezione& s) {
-  const auto distanza = [](Punto a, Punto b) {
-    return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
-  };
   const Punto triangolo[] = {s.O(5), s.C(1), s.C(11)};
   const Reale A = Assoluto(AreaPoligono(triangolo));
-  return A > kTolleranza ? 2 * A / distanza(s.C(1), s.C(11)) : distanza(s.C(1), s.O(5));
+  return A > kTolleranza ? 2 * A / Distanza(s.C(1), s.C(11)) : Distanza(s.C(1), s.O(5));
 }
 
 void TaglioLungoY(RecordSezione& r, const RecordSezione& s, const AsseBaricentrico& asse) {

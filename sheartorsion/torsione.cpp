@@ -3,16 +3,13 @@
 
 #include "model/parametri.h"
 #include "properties/integrali.h"
+#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {
 
 constexpr int kPuntiMediana = 13;
 using LineaMediana = Tabella<"linea mediana", Punto, 1, kPuntiMediana>;
-
-Reale Lunghezza(Punto a, Punto b) {
-  return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
-}
 
 LineaMediana Mediana(const GeometriaSezione& g) {
   const auto O = [&](int v) { return g.O(v); };
@@ -42,9 +39,9 @@ Reale IntegraleSpessori(const LineaMediana& M, const GeometriaSezione& g) {
   const Reale t5 = Assoluto(ParametriSezione[5]);
   const Reale t6 = Assoluto(ParametriSezione[6]);
   const Reale t7 = Assoluto(ParametriSezione[7]);
-  const Reale destra = Lunghezza(g.O(7), g.C(8));
+  const Reale destra = Distanza(g.O(7), g.C(8));
   const Reale fondo = Assoluto(g.C(10).y - g.O(6).y);
-  const Reale sinistra = Lunghezza(g.O(4), g.C(2));
+  const Reale sinistra = Distanza(g.O(4), g.C(2));
 
   const struct {
     int da, a;
@@ -66,7 +63,7 @@ Reale IntegraleSpessori(const LineaMediana& M, const GeometriaSezione& g) {
   };
   Reale somma;
   for (const auto& t : tratti)
-    if (!TrattoSpessoreVariabile(t.t1, t.t2, Lunghezza(M[t.da], M[t.a]), somma)) return 0;
+    if (!TrattoSpessoreVariabile(t.t1, t.t2, Distanza(M[t.da], M[t.a]), somma)) return 0;
   return somma;
 }
 
