@@ -92,41 +92,6 @@ TEST_F(ProvaFile, RiletturaERiscritturaIdentiche) {
   ASSERT_EQ(Leggi(Contenuto(percorso)), "");
 }
 
-TEST_F(ProvaFile, ColonneEFormati) {
-  RecordSezione& r = TabellaSezioni[1];
-  r = {};
-  NumeroSezioni = 1;
-  r.Nome = "X";
-  r.BaseTotale = 12.3456;
-  r.AltezzaTotale = -0.005;
-  r.ZG = 1e14;  // 15 characters
-  r.YG = .5;
-  r.An = 123456789012345e3;    // 1.23456789012345E+17: 20 characters, reaches the stop exactly
-  r.Aty = -123456789012345e3;  // one more: the next stop goes to a new line
-  r.Atz = 1;
-  r.NumPunti = 1;
-  r.PuntoZ[1] = -1;
-  r.EtichettaPunto[1] = "  con  blanchi  ";
-  r.TauT[1] = -2.2572178123e-7;
-  r.IndicatoreTauT[1] = 2;
-  r.Sigla = " A ";
-  ScriviFileSezioni();
-  EXPECT_EQ(Contenuto(percorso),
-            "1\r\nX\r\n"
-            "12.34               -.01                100000000000000     .5\r\n"
-            "0\r\n"
-            "1.23456789012345E+17-1.23456789012345E+17\r\n"
-            "                                        1\r\n"
-            "0                   0                   0                   0\r\n"
-            "1\r\n"
-            "-1                  0                   con  blanchi\r\n"
-            "2.2572178E-07       2\r\n"
-            "0                   0\r\n"
-            "0                   0\r\n"
-            "A\r\n"
-            "0\r\n");
-}
-
 TEST_F(ProvaFile, TagliatoAOgniRiga) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
   AggiungiCalcolata(prove::Esempio(), "U_PO_002");

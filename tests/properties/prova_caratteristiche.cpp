@@ -196,18 +196,5 @@ TEST(Caratteristiche, OverflowLasciaICampiPrecedenti) {
   EXPECT_EQ(r.Sigla, "prima");
 }
 
-TEST(Caratteristiche, TuttoZeroSiFermaAllaTorsione) {
-  RecordSezione r = Costruita({});
-  r.YG = 5;
-  try {
-    CalcolaCaratteristiche(r);
-    FAIL() << "nessun errore";
-  } catch (const ErroreFatale& e) {
-    EXPECT_EQ(e.tipo, TipoErrore::DivisionePerZero);
-    EXPECT_NE(e.dove.find("torsione"), Testo::npos) << e.dove;
-  }
-  EXPECT_EQ(r.YG, 0) << "area nulla: baricentro nell'origine";
-}
-
 }  // namespace
 }  // namespace tarvel
