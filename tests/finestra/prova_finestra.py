@@ -1,0 +1,314 @@
+#!/usr/bin/python3
+"""The program as a user meets it: started on a virtual screen, typed into, clicked, its windows
+watched. What it writes is what the scripted desktop writes for the same session.
+
+Usage: prova_finestra.py FOLDER [GROUP...], the folder that of the programs; exit status 77: left out.
+"""
+import contextlib
+import os
+import re
+import select
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+QUI = Path(__file__).resolve().parent
+SESSIONE = QUI / "sessione.txt"
+PAZIENZA, RIPROVA = 30, 0.02  # seconds
+
+# The forms' widths and, in tab order, where their controls are clicked; twips. None: reached by Tab.
+ORDINE = [15, 16, 17, 18, 19, 9, 10, 11, 12, 13, 2, 3, 4, 5, 6, 7, 20, 14, 0, 8, 1]
+FORME = {
+    "tarvel1": (9435, {f"Text1({i})": {0: (4674, 2592), 8: (3042, 3360)}.get(i) for i in ORDINE} | {
+        "nome": (8322, 4104), "Command1": (7806, 4470), "Command2": (8838, 4470), "Calcolo": (8838, 3462),
+        "Command4": (8838, 3078), "Command6": (8838, 2682), "Command7": (6192, 4488),
+        "Command5": (8838, 294)}),
+    "FormOpt": (7560, {f"TextOpt({i + 1})": (3180 + i // 8 * 3720, 255 + i % 8 * 330) for i in range(15)} | {
+        "Applica": (4800, 3045), "Chiudi": (6840, 3045)}),
+    "FormSez": (1590, {"Command1": (810, 210), "ListSez": (792, 568)}),  # lists: their first entry
+    "FormSez2": (1725, {"Command1": (398, 210), "Command2": (1190, 210), "ListSez": (792, 556)}),
+}
+
+# The user's own settings stay out. Without a binding for clicks into windows the manager holds none
+# back, so that keys cannot overtake them.
+GESTORE = """<openbox_config xmlns="http://openbox.org/3.4/rc">
+<keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
+<mouse><context name="Close"><mousebind button="Left" action="Click"><action name="Close"/></mousebind>
+</context></mouse></openbox_config>"""
+
+
+def attendi(condizione, guasto):
+    """The condition's value as soon as it is true."""
+    fine = time.monotonic() + PAZIENZA
+    while not (esito := condizione()):
+        assert time.monotonic() < fine, guasto
+        time.sleep(RIPROVA)
+    return esito
+
+
+@contextlib.contextmanager
+def programma(*comando, **altro):
+    """A program that does not outlive its block, even when the test is killed."""
+    figlio = subprocess.Popen(["setpriv", "--pdeathsig", "TERM", *map(str, comando)], **altro)
+    try:
+        yield figlio
+    finally:
+        figlio.terminate()
+        figlio.wait(PAZIENZA)
+
+
+def finisce(figlio, atteso):
+    stato = figlio.wait(PAZIENZA)
+    assert stato == atteso, f"exit status {stato}, not {atteso}"
+
+
+class Schermo(contextlib.ExitStack):
+    """A virtual screen with a window manager, and the user's hands and eyes at it."""
+
+    def __init__(self, misure, cartella):
+        super().__init__()
+        legge, scrive = os.pipe()
+        self.enter_context(programma("Xvfb", "-displayfd", scrive, "-screen", "0", misure + "x24",
+                                     "-nolisten", "tcp", pass_fds=[scrive], stderr=subprocess.DEVNULL))
+        os.close(scrive)
+        with os.fdopen(legge) as capo:
+            numero = select.select([capo], [], [], PAZIENZA)[0] and capo.readline().strip()
+        assert numero, "Xvfb does not start"
+        self.ambiente = os.environ | {"DISPLAY": ":" + numero, "QT_QPA_PLATFORM": "xcb"}
+        regole = cartella / "openbox.xml"
+        regole.write_text(GESTORE)
+        self.enter_context(programma("openbox", "--sm-disable", "--config-file", regole, env=self.ambiente))
+        attendi(lambda: self.finestre("_NET_SUPPORTING_WM_CHECK"), "openbox does not start")
+
+    def chiedi(self, *comando):
+        """What the command writes; nothing where the window has gone."""
+        return subprocess.run([*map(str, comando)], env=self.ambiente, timeout=PAZIENZA, text=True,
+                              errors="replace", stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+
+    def mano(self, *azione):
+        subprocess.run(["xdotool", *map(str, azione)], env=self.ambiente, timeout=PAZIENZA, check=True)
+
+    def finestre(self, quali="_NET_CLIENT_LIST"):
+        return re.findall(r"0x\w+", self.chiedi("xprop", "-root", quali))
+
+    def nome(self, finestra):
+        """Its role (a form's name) or, where it has none of its own, its title."""
+        testo = self.chiedi("xprop", "-id", finestra, "WM_WINDOW_ROLE", "_NET_WM_NAME")
+        nomi = dict(re.findall(r'^(\w+)\(\w+\) = "(.*)"$', testo, re.M))
+        ruolo = nomi.get("WM_WINDOW_ROLE", "messaggio")
+        return nomi.get("_NET_WM_NAME") if ruolo == "messaggio" else ruolo
+
+    def trova(self, nome):
+        return attendi(lambda: next((f for f in self.finestre() if self.nome(f) == nome), None), f"no {nome}")
+
+    def davanti(self, nome):
+        """The window of this name, as soon as it has the keyboard."""
+        def cerca():
+            fuoco = hex(int(self.chiedi("xdotool", "getwindowfocus", "-f") or 0))
+            return [fuoco] == self.finestre("_NET_ACTIVE_WINDOW") and self.nome(fuoco) == nome and fuoco
+        return attendi(cerca, f"{nome} is not in front")
+
+    def posto(self, finestra):
+        """Left, top and width; left and top in its frame; pixels."""
+        testo = self.chiedi("xwininfo", "-id", finestra)
+        return [int(re.search(rf"{voce}: +(-?\d+)", testo)[1]) for voce in (
+            "Absolute upper-left X", "Absolute upper-left Y", "Width",
+            "Relative upper-left X", "Relative upper-left Y")]
+
+    def chiudi(self, nome):
+        """Clicks the close box, at the right end of the title bar."""
+        sinistra, alto, larghezza, bordo, barra = self.posto(self.trova(nome))
+        self.mano("mousemove", sinistra + larghezza + bordo - barra // 2, alto - barra // 2, "click", 1)
+        # Anything the manager does on request: once it is done, so is what was asked before.
+        scrivanie = int(self.chiedi("xdotool", "get_num_desktops")) + 1
+        self.mano("set_num_desktops", scrivanie)
+        attendi(lambda: int(self.chiedi("xdotool", "get_num_desktops")) == scrivanie, "openbox hangs")
+
+    def clicca(self, form, controllo, volte=1):
+        larghezza_form, controlli = FORME[form]
+        sinistra, alto, larghezza, *_ = self.posto(self.davanti(form))
+        x, y = (int(twip * larghezza / larghezza_form) for twip in controlli[controllo])
+        self.mano("mousemove", sinistra + x, alto + y, *["click", 1] * volte)
+
+
+def installa(radice, programmi, visore="normale"):
+    """An installation with one job; its viewer is the stand-in, or no program with these rights."""
+    for cartella in ("impostazioni", "lavori/PR0042", "progra", "custom"):
+        (radice / cartella).mkdir(parents=True)
+    (radice / "impostazioni/dirlav").write_text(f"{radice}/lavori")
+    (radice / "impostazioni/lavoro").write_text("PR0042")
+    (radice / "progra/modo").write_text(str(visore))
+    os.mkfifo(radice / "progra/mostra")
+    ostrel = radice / "progra/ostrel.exe"
+    if isinstance(visore, str):
+        ostrel.symlink_to(programmi / "visore-finto")
+    else:
+        ostrel.write_text("no program\n")
+        ostrel.chmod(visore)
+    return f"|diroot={radice}|"
+
+
+class Seduta:
+    """The program at a screen, played by lines of a script."""
+
+    def __init__(self, schermo, radice, figlio):
+        self.schermo, self.radice, self.figlio = schermo, radice, figlio
+        self.form, self.ultimo = "tarvel1", None  # the control last used: it has the focus
+
+    def diario(self):
+        """What the viewer saw."""
+        file = self.radice / "progra/visore.log"
+        return file.read_text() if file.exists() else ""
+
+    def recita(self, righe):
+        for riga in righe:
+            try:
+                self.esegui(riga.removeprefix("#: ").split())
+            except Exception as guasto:
+                raise AssertionError(f"cannot play '{riga}': {guasto}") from guasto
+
+    def esegui(self, parole):
+        match parole:
+            case ["#" | "answer" | "tick", *_]:
+                pass
+            case ["form" | "activate" as verbo, nome]:
+                if verbo == "activate":  # as the task bar does
+                    self.schermo.mano("windowactivate", self.schermo.trova(nome))
+                self.schermo.davanti(nome)
+                self.form = nome if nome in FORME else self.form
+            case ["viewer", riga]:
+                attendi(lambda: self.diario().endswith(riga + "\n"), f"the viewer's log: {self.diario()}")
+            case ["log", *atteso]:
+                attendi(lambda: self.diario().split() == atteso, f"the viewer's log: {self.diario()}")
+            case ["show"]:
+                self.schermo.chiedi("cp", "/dev/null", self.radice / "progra/mostra")
+            case ["close", nome]:
+                self.schermo.chiudi(nome)
+            case ["message", titolo, *risposta]:
+                riquadro = self.schermo.davanti(titolo)
+                self.schermo.mano("key", {"si": "alt+s", "no": "Escape"}.get("".join(risposta), "Return"))
+                attendi(lambda: riquadro not in self.schermo.finestre(), "it stays")
+            case ["end", stato]:
+                finisce(self.figlio, int(stato))
+            case ["absent", nome]:
+                assert not (self.radice / nome).exists()
+            case [verbo, nome, *resto]:
+                self.agisci(verbo, nome, resto)
+
+    def agisci(self, verbo, nome, resto):
+        controlli = [*FORME[self.form][1]]
+        posto = controlli.index(nome)
+        prima = (self.form, controlli[posto - 1]) if posto else None  # the first has the focus at the start
+        self.schermo.davanti(self.form)
+        match verbo:
+            case "click" | "dblclick":
+                self.schermo.clicca(self.form, nome, ["click", "dblclick"].index(verbo) + 1)
+            case "enter":
+                self.schermo.mano("key", "Return")
+            case "type":
+                # By Tab where that is the next control: the text is then selected.
+                if prima != self.ultimo:
+                    self.schermo.clicca(self.form, nome)
+                    self.schermo.mano("key", "ctrl+a")
+                elif prima:
+                    self.schermo.mano("key", "Tab")
+                self.schermo.mano("type", "--", *resto)
+            case "select":
+                self.schermo.clicca(self.form, nome)
+                for da, a in zip(map(int, resto), map(int, resto[1:])):
+                    self.schermo.mano("key", *["ctrl+Down"] * (a - da), "ctrl+space")
+            case _:
+                raise ValueError("no such verb")
+        self.ultimo = (self.form, nome)
+
+
+def confronta(radice, programmi, decimale):
+    """With what the scripted desktop writes."""
+    atteso = radice.with_name("atteso")
+    with programma(programmi / "tarvel1-headless", "--script", SESSIONE, "--decimal", decimale,
+                   installa(atteso, programmi), stdout=subprocess.DEVNULL) as headless:
+        finisce(headless, 0)
+    for nome in ("lavori/PR0042/sezio_ut", "lavori/PR0042/SezTmpPO.dis", "lavori/PR0042/U_PO_001.dis",
+                 "lavori/PR0042/U_PO_002.dis", "custom/CapSezDe.txt"):
+        scritto = (radice / nome).read_bytes()
+        assert scritto and scritto == (atteso / nome).read_bytes(), f"{nome} is not the scripted desktop's"
+
+
+# The session's groups: screen, locale, its decimal separator.
+SESSIONI = {"sessione-piccola": ("1024x600", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
+            "sessione-grande": ("1920x1080", "de_DE.UTF-8", ",")}
+RIGHE_SESSIONE = [*SESSIONE.read_text().splitlines(), "end 0", "log avviato normale Alt+f Alt+g chiusura"]
+INSERVIBILE = ["click Command4", "message ERRORE", "click Command5", "end 0"]
+# The others: the viewer, the lines to play.
+GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
+    "visore-muore": ("muore", ["click Command4", "log avviato muore", "click Command4",
+                               "log avviato muore avviato muore", "click Command5", "end 0"]),
+    # The second click waits for the window.
+    "visore-lento": ("lento", ["click Command4", "log avviato lento", "click Command4", "show",
+                               "log avviato lento Alt+f Alt+g", "activate tarvel1", "click Command5", "end 0",
+                               "log avviato lento Alt+f Alt+g chiusura"]),
+    # It outlives the program.
+    "visore-sordo": ("sordo", ["click Command4", "form ostrel", "activate tarvel1", "click Command5", "end 0",
+                               "log avviato sordo chiusura", "form ostrel"]),
+    "visore-non-programma": (0o700, INSERVIBILE),
+    "visore-non-eseguibile": (0o400, INSERVIBILE),
+    "chiusura": ("normale", ["type Text1(15) 7", "click Command1", "form ATTENZIONE", "close tarvel1",
+                             "message ATTENZIONE", "form FormSez", "close tarvel1", "click Command1",
+                             "form tarvel1", "close tarvel1", "message INFORMAZIONE no", "end 0",
+                             "absent lavori/PR0042/sezio_ut", "absent custom/CapSezDe.txt"]),
+    "argomento": ("normale", ["message ERRORE", "end 1"]),
+}
+
+
+def congeda(cartella):
+    """Viewers outlive the program: ends those left that work in the folder."""
+    for processo in Path("/proc").glob("[0-9]*"):
+        with contextlib.suppress(OSError):
+            if Path(os.readlink(processo / "cwd")).is_relative_to(cartella):
+                os.kill(int(processo.name), signal.SIGKILL)
+
+
+def prova(gruppo, programmi, cartella):
+    visore, righe = GRUPPI[gruppo]
+    misure, regione, decimale = SESSIONI.get(gruppo, ("1024x600", "C", "."))
+    radice = cartella / "impianto"
+    argomento = installa(radice, programmi, visore)
+    with Schermo(misure, cartella) as schermo:
+        try:
+            with programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
+                           env=schermo.ambiente | {"LC_ALL": regione}) as figlio:
+                Seduta(schermo, radice, figlio).recita(righe)
+        except AssertionError:
+            schermo.chiedi("import", "-window", "root", f"guasto-{gruppo}.png")
+            raise
+    if gruppo in SESSIONI:
+        confronta(radice, programmi, decimale)
+
+
+def main():
+    for comando in ("Xvfb", "openbox", "xdotool", "xprop", "xwininfo"):
+        if not shutil.which(comando):
+            print(f"{comando} is missing: left out")
+            return 77
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    programmi, gruppi, falliti = Path(sys.argv[1]).resolve(), sys.argv[2:] or [*GRUPPI], 0
+    for gruppo in gruppi:
+        esito, inizio = "ok", time.monotonic()
+        with tempfile.TemporaryDirectory(prefix="finestra") as cartella:
+            try:
+                prova(gruppo, programmi, Path(cartella))
+            except Exception as guasto:
+                esito, falliti = f"FAILED: {guasto!r}", falliti + 1
+            finally:
+                congeda(cartella)
+        print(f"{gruppo}: {esito} ({time.monotonic() - inizio:.1f} s)", flush=True)
+    print(f"{len(gruppi) - falliti} passed, {falliti} failed")
+    return 1 if falliti else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
