@@ -1,8 +1,7 @@
-// What the viewer's tests share: drawings to read, a scratch folder.
+// What the viewer's tests share: drawings to read and to vary, files to write.
 #pragma once
 
 #include <QTemporaryDir>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -23,25 +22,19 @@ inline void Scrivi(const std::string& file, const std::string& byte) {
 }
 
 /// The worked example: 102 lines, 43 circles, 35 texts.
-inline std::string ByteEsempio() {
-  return Leggi(kDati + "/sezione.dis");
-}
+inline const std::string kEsempio = Leggi(kDati + "/sezione.dis");
+/// One element of each kind, an arc of a quarter, a dashed line; 21 lines.
+inline const std::string kUnoPerGenere = Leggi(kDati + "/uno-per-genere.dis");
 
 inline Disegno Esempio() {
-  return std::get<Disegno>(LeggiDis(ByteEsempio()));
+  return std::get<Disegno>(LeggiDis(kEsempio));
 }
 
-/// One element of each kind, an arc of a quarter, a dashed line; 22 lines.
-inline const char kUnoPerGenere[] =
-    "                   3\r\n 0  10 \r\n-5  10 \r\n-10000.000000        10000.000000\r\n"
-    " 4 \r\n 0  0  0 \r\n 10  0  0 \r\n 0  10  0 \r\n .5 -5  0 \r\n"
-    " 1 \r\n 3  0  0 \r\n"
-    " 2 \r\n 0  1  3  0 \r\n 1  2  1  2 \r\n"
-    " 1 \r\n 1  1  90 \r\n 1.5  2.5  5 \r\n12,5\r\n"
-    " 1 \r\n 0  1  0  2 \r\n 4  0 \r\n";
-
-inline const char kVuoto[] =
-    "                   3\r\n 0  0 \r\n 0  0 \r\n-10000.000000        10000.000000\r\n"
-    " 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n";
+/// The text with its line `riga` (from 1) replaced.
+inline std::string ConRiga(const std::string& byte, int riga, const std::string& nuova) {
+  std::size_t inizio = 0;
+  for (int i = 1; i < riga; ++i) inizio = byte.find('\n', inizio) + 1;
+  return std::string(byte).replace(inizio, byte.find("\r\n", inizio) - inizio, nuova);
+}
 
 }  // namespace ostrel::prove
