@@ -140,27 +140,6 @@ TEST_P(ProvaSessioni, ComeAttesa) {
          << GetParam() << ".nuovo)";
 }
 
-// The table takes 500 sections; one more name is fatal and the file is as it was saved.
-TEST(Tabella, LaSezione501) {
-  std::string testo =
-      "type Text1(15) 1200\ntype Text1(0) 200\ntype Text1(9) 250\ntype Text1(13) 50\n"
-      "type Text1(7) 25\ntype Text1(1) 25\ntype Text1(10) 50\ntype Text1(11) 60\n";
-  for (int n = 1; n <= 501; ++n) {
-    testo += "type nome N" + std::to_string(n) + "\nclick Calcolo\n";
-    if (n == 500) testo += "click Command2\n";
-  }
-  const Sessione sessione(testo);
-  const std::string recitata = sessione.Recita();
-  EXPECT_NE(
-      recitata.find("Errore irreversibile: indice 501 fuori dai limiti (tabella TabellaSezioni, da 1 a 500; "
-                    "calcolo della sezione N501)"),
-      std::string::npos)
-      << recitata.substr(recitata.size() - std::min<std::size_t>(recitata.size(), 500));
-  const std::string file = Contenuto(sessione.cartella / "Lavori/PR0001/sezio_ut");
-  EXPECT_TRUE(file.starts_with("500\r\nN1\r\n"));
-  EXPECT_NE(file.find("\r\nN500\r\n"), std::string::npos);
-}
-
 std::vector<std::string> Copioni() {
   std::vector<std::string> nomi;
   for (const auto& voce : fs::directory_iterator(kSessioni))

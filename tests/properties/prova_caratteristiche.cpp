@@ -154,28 +154,6 @@ TEST(Caratteristiche, TensioniPerSecondoMetodo) {
   }
 }
 
-TEST(Caratteristiche, CentimetriEMetri) {
-  std::mt19937 caso(5);
-  for (int n = 0; n < 30; ++n) {
-    const VettoreParametri cm = Casuale(caso, false);
-    VettoreParametri m = cm;
-    for (int i = 0; i <= 15; ++i) m[i] = cm[i] / 100;
-    const RecordSezione a = Calcolata(cm), b = Calcolata(m);
-    const auto scalato = [&](Reale grande, Reale piccolo, double potenza) {
-      EXPECT_NEAR(grande.Valore(), piccolo.Valore() * std::pow(100, potenza),
-                  1e-6 * std::fabs(grande.Valore()))
-          << n;
-    };
-    scalato(a.An, b.An, 2);
-    scalato(a.Aty, b.Aty, 2);
-    scalato(a.Jt, b.Jt, 4);
-    scalato(a.Jzg, b.Jzg, 4);
-    scalato(a.TauT[9], b.TauT[9], -3);
-    scalato(a.TauVy[9], b.TauVy[9], -2);
-    scalato(a.TauVz[3], b.TauVz[3], -2);
-  }
-}
-
 // A second moment beyond a double is fatal and says where; what came before it stays.
 TEST(Caratteristiche, OverflowLasciaICampiPrecedenti) {
   VettoreParametri p = Esempio();
