@@ -31,7 +31,8 @@ using Codici = std::vector<int>;
 
 // The toolkit for one test: every test runs in a process of its own.
 void Prepara(const Form& form, QSize schermo = {1024, 600}) {
-  const QString file = QString::fromStdString(::testing::TempDir() + "schermo.json");
+  const QString file = QString::fromStdString(::testing::TempDir() + "schermo" +
+                                              std::to_string(QCoreApplication::applicationPid()) + ".json");
   QFile misure(file);
   ASSERT_TRUE(misure.open(QFile::WriteOnly));
   misure.write(QStringLiteral(
