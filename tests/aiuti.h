@@ -12,7 +12,6 @@
 
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
-#include "platform/headless/verbale.h"
 
 namespace tarvel::prove {
 
@@ -90,19 +89,6 @@ class Cartella {
   std::filesystem::path operator/(const std::string& nome) const { return radice / nome; }
 
   std::filesystem::path radice;
-};
-
-/// Catches the transcript of what the program shows, messages above all.
-class Verbale {
- public:
-  Verbale() { headless::ApriVerbale(&testo_); }
-  Verbale(const Verbale&) = delete;
-  Verbale& operator=(const Verbale&) = delete;
-  ~Verbale() { headless::ApriVerbale(nullptr); }
-  std::string Testo() const { return testo_.str(); }
-
- private:
-  std::ostringstream testo_;
 };
 
 inline std::string Contenuto(const std::filesystem::path& file) {

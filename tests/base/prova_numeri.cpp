@@ -9,7 +9,6 @@
 #include "base/intero.h"
 #include "base/numeri.h"
 #include "base/tabella.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {
@@ -108,14 +107,6 @@ TEST(Numeri, ConversioneRegionale) {
     const auto letto = NumeroRegionale(c.testo, c.decimale, c.migliaia);
     EXPECT_EQ(letto.value_or(-99).Valore(), c.valore) << c.decimale << " \"" << c.testo << '"';
   }
-}
-
-TEST(Numeri, Taglio) {
-  EXPECT_EQ(Tronca(0.29, 2), 0.28);
-  EXPECT_EQ(Tronca(-0.005, 2), -0.01);
-  EXPECT_EQ(Tronca(0.009, 2), 0);
-  EXPECT_EQ(Tronca(-1.238, 2), -1.24);
-  EXPECT_THROW(Tronca(1e300, 14), ErroreFatale);
 }
 
 TipoErrore ErroreDi(const std::function<void()>& f) {

@@ -7,8 +7,8 @@
 #include <string>
 #include <tuple>
 
-#include "aiuti.h"
 #include "drawing/quota.h"
+#include "platform/headless/verbale.h"
 #include "tests/aiuti.h"
 
 namespace tarvel::disegno {
@@ -53,9 +53,11 @@ inline std::string Fotografia() {
 /// What was shown to the user during `lavoro`.
 template <class Lavoro>
 std::string Mostrato(Lavoro lavoro) {
-  const prove::Verbale verbale;
+  std::ostringstream verbale;
+  headless::ApriVerbale(&verbale);
   lavoro();
-  return verbale.Testo();
+  headless::ApriVerbale(nullptr);
+  return verbale.str();
 }
 
 }  // namespace tarvel::disegno

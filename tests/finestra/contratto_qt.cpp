@@ -5,12 +5,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QLabel>
-#include <QLineEdit>
+#include <QDeadlineTimer>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -18,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
+#include <fstream>
 
 #include "platform/qt/avvio.h"
 #include "platform/qt/finestra.h"
@@ -54,13 +54,6 @@ void Clic(QWidget* widget, QPoint punto, Qt::KeyboardModifiers con = {}) {
                     widget->mapTo(widget->window(), punto));
 }
 
-// The window manager's part: a window that the user clicks becomes the active one.
-bool Attiva(QWidget* widget) {
-  if (widget == nullptr || !widget->isVisible()) return false;
-  widget->activateWindow();
-  return QTest::qWaitFor([&] { return QApplication::activeWindow() == widget->window(); });
-}
-
 struct Pronta {
   Risposta risposta;
   int attesa;
@@ -68,7 +61,7 @@ struct Pronta {
 
 class UtenteQt : public Utente {
  public:
-  explicit UtenteQt(int diario) : diario_(diario) {}
+  explicit UtenteQt(const std::string& diario) : diario_(diario) {}
 
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
@@ -82,8 +75,7 @@ class UtenteQt : public Utente {
 
   void Annota(const std::string& riga) override {
     righe_.push_back(riga);
-    const std::string scritta = riga + '\n';
-    if (write(diario_, scritta.data(), scritta.size()) < 0) std::perror("contratto-qt");
+    diario_ << riga << std::endl;
   }
 
   void Vai(Controllo& controllo) override {
@@ -102,8 +94,7 @@ class UtenteQt : public Utente {
   }
 
   void Scrivi(Controllo& casella, const Testo& testo) override {
-    Vai(casella);
-    if (!ColFuoco(casella)) return;
+    if (!Raggiunge(casella)) return;
     QTest::keyClick(QApplication::focusWindow(), Qt::Key_A, Qt::ControlModifier);
     if (testo.empty()) return QTest::keyClick(QApplication::focusWindow(), Qt::Key_Backspace);
     for (const QChar c : InQt(testo))
@@ -111,8 +102,7 @@ class UtenteQt : public Utente {
   }
 
   void Invio(Controllo& controllo) override {
-    Vai(controllo);
-    if (ColFuoco(controllo)) QTest::keyClick(QApplication::focusWindow(), Qt::Key_Return);
+    if (Raggiunge(controllo)) QTest::keyClick(QApplication::focusWindow(), Qt::Key_Return);
   }
 
   void Seleziona(Controllo& controllo, const std::vector<int>& voci) override {
@@ -139,7 +129,7 @@ class UtenteQt : public Utente {
 
   void AspettaRiga(const std::string& riga) override {
     aspettata_ = riga;
-    daQuando_.start();
+    pazienza_.setRemainingTime(kPazienza);
   }
 
   bool Vede(const Form& form) override { return FinestraDi(form) != nullptr; }
@@ -147,16 +137,7 @@ class UtenteQt : public Utente {
   Testo Legge(const Controllo& controllo) override {
     QWidget* const widget = WidgetDi(controllo);
     if (widget == nullptr) return controllo.testo;
-    switch (controllo.tipo) {
-      case TipoControllo::Casella:
-        return DaQt(static_cast<QLineEdit*>(widget)->text());
-      case TipoControllo::Bottone:
-        return DaQt(static_cast<QAbstractButton*>(widget)->text());
-      case TipoControllo::Etichetta:
-        return DaQt(static_cast<QLabel*>(widget)->text());
-      case TipoControllo::Lista:
-        break;
-    }
+    if (controllo.tipo != TipoControllo::Lista) return DaQt(widget->property("text").toString());
     const auto& lista = static_cast<const QListWidget&>(*widget);
     QStringList voci;
     for (int i = 0; i < lista.count(); ++i)
@@ -165,14 +146,19 @@ class UtenteQt : public Utente {
   }
 
  private:
-  // The widget of a control that a user can reach now, its window made the active one.
+  // The widget of a control that a user can reach now, its window made the active one as a click in
+  // it does.
   static QWidget* Usabile(const Controllo& controllo) {
     QWidget* const widget = WidgetDi(controllo);
-    const auto* finestra = widget == nullptr ? nullptr : static_cast<Finestra*>(widget->window());
-    return finestra != nullptr && finestra->livello >= LivelloModale() && Attiva(widget) ? widget : nullptr;
+    if (widget == nullptr || !widget->isVisible()) return nullptr;
+    if (static_cast<Finestra*>(widget->window())->livello < LivelloModale()) return nullptr;
+    widget->activateWindow();
+    const auto attiva = [&] { return QApplication::activeWindow() == widget->window(); };
+    return QTest::qWaitFor(attiva) ? widget : nullptr;
   }
 
-  static bool ColFuoco(const Controllo& controllo) {
+  bool Raggiunge(Controllo& controllo) {
+    Vai(controllo);
     return QApplication::focusWidget() != nullptr && QApplication::focusWidget() == WidgetDi(controllo);
   }
 
@@ -182,56 +168,46 @@ class UtenteQt : public Utente {
     if (FinestraAttiva() == nullptr && !Occupato()) return;
     if (auto* riquadro = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
       return Risponde(riquadro);
-    const bool agisceGia = !livelli_.empty() && LivelloModale() <= livelli_.back();
-    if (Occupato() || agisceGia || Attende()) return;
+    if (Occupato() || LivelloModale() <= livello_ || Attende()) return;
     if (FinestraAttiva() != nullptr && QApplication::activeWindow() != FinestraAttiva())
       return FinestraAttiva()->activateWindow();  // it is on its way
     if (passi_.empty()) TerminaProgramma(0);
     const Passo passo = std::move(passi_.front());
     passi_.pop_front();
-    livelli_.push_back(LivelloModale());
+    const QScopedValueRollback<int> agisce(livello_, LivelloModale());
     passo();
-    livelli_.pop_back();
   }
 
   bool Attende() const {
-    return !aspettata_.empty() && daQuando_.elapsed() < kPazienza &&
-           std::find(righe_.begin(), righe_.end(), aspettata_) == righe_.end();
+    return !pazienza_.hasExpired() && std::find(righe_.begin(), righe_.end(), aspettata_) == righe_.end();
   }
 
   void Risponde(QMessageBox* riquadro) {
     if (riquadro == risposto_) return;
     risposto_ = riquadro;
     const bool domanda = riquadro->buttons().size() == 2;
-    std::optional<Pronta> pronta;
-    if (!pronte_.empty()) {
-      pronta = pronte_.front();
-      pronte_.pop_front();
-    }
-    QTimer::singleShot(pronta ? pronta->attesa : 0, riquadro, [=, this] {
+    const bool pronta = !pronte_.empty();
+    const Pronta data = pronta ? pronte_.front() : Pronta{domanda ? Risposta::No : Risposta::Ok, 0};
+    if (pronta) pronte_.pop_front();
+    QTimer::singleShot(data.attesa, riquadro, [=, this] {
       static constexpr std::array kIcone{QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Warning,
                                          QMessageBox::Information};
       const auto icona = std::find(kIcone.begin(), kIcone.end(), riquadro->icon()) - kIcone.begin();
-      const Risposta risposta = pronta ? pronta->risposta : domanda ? Risposta::No : Risposta::Ok;
       Annota(RigaMessaggio(static_cast<Icona>(icona), domanda ? Bottoni::SiNo : Bottoni::Ok,
-                           DaQt(riquadro->windowTitle()), DaQt(riquadro->text()), risposta));
+                           DaQt(riquadro->windowTitle()), DaQt(riquadro->text()), data.risposta));
       if (!pronta) return void(riquadro->windowHandle()->close());
-      const auto bottoni = riquadro->buttons();
-      const auto ruolo = risposta == Risposta::Ok   ? QMessageBox::AcceptRole
-                         : risposta == Risposta::Si ? QMessageBox::YesRole
-                                                    : QMessageBox::NoRole;
-      for (QAbstractButton* bottone : bottoni)
-        if (riquadro->buttonRole(bottone) == ruolo) return Clic(bottone, bottone->rect().center());
+      QAbstractButton* const bottone = riquadro->buttons()[data.risposta == Risposta::No ? 1 : 0];
+      Clic(bottone, bottone->rect().center());
     });
   }
 
-  const int diario_;
+  std::ofstream diario_;
   std::vector<std::string> righe_;
   std::deque<Passo> passi_;
   std::deque<Pronta> pronte_;
-  std::vector<int> livelli_;  // modal forms shown at each of the steps under way, one inside the other
+  int livello_ = -1;  // modal forms shown at the innermost of the steps under way
   std::string aspettata_;
-  QElapsedTimer daQuando_;
+  QDeadlineTimer pazienza_;
   QPointer<QMessageBox> risposto_;
 };
 
@@ -241,27 +217,20 @@ Esito Prova(const std::function<void(Utente&)>& caso) {
   std::fflush(nullptr);
   int capi[2];
   if (pipe(capi) != 0) return {};
+  const std::string cartellaCapi = "/dev/fd/";
   const pid_t figlio = fork();
   if (figlio == 0) {
     alarm(kTempoCaso);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    UtenteQt utente(capi[1]);
+    UtenteQt utente(cartellaCapi + std::to_string(capi[1]));
     caso(utente);
     std::_Exit(99);  // a case runs the program to its end
   }
   close(capi[1]);
-  std::string tutto;
-  std::array<char, 4096> blocco;
-  for (ssize_t letti = 0; (letti = read(capi[0], blocco.data(), blocco.size())) > 0;)
-    tutto.append(blocco.data(), static_cast<std::size_t>(letti));
-  close(capi[0]);
-
   Esito esito;
-  for (std::size_t inizio = 0; inizio < tutto.size();) {
-    const std::size_t fine = tutto.find('\n', inizio);
-    esito.diario.push_back(tutto.substr(inizio, fine - inizio));
-    inizio = fine + 1;
-  }
+  std::ifstream diario(cartellaCapi + std::to_string(capi[0]));
+  for (std::string riga; std::getline(diario, riga);) esito.diario.push_back(riga);
+  close(capi[0]);
   int stato = 0;
   waitpid(figlio, &stato, 0);
   if (WIFEXITED(stato)) esito.stato = WEXITSTATUS(stato);

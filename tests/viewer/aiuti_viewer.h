@@ -21,13 +21,18 @@ inline void Scrivi(const std::string& file, const std::string& byte) {
   std::ofstream(file, std::ios::binary) << byte;
 }
 
+/// A drawing that has to be sound.
+inline Disegno Letto(const std::string& byte) {
+  return std::get<Disegno>(LeggiDis(byte));
+}
+
 /// The worked example: 102 lines, 43 circles, 35 texts.
 inline const std::string kEsempio = Leggi(kDati + "/sezione.dis");
 /// One element of each kind, an arc of a quarter, a dashed line; 21 lines.
 inline const std::string kUnoPerGenere = Leggi(kDati + "/uno-per-genere.dis");
 
 inline Disegno Esempio() {
-  return std::get<Disegno>(LeggiDis(kEsempio));
+  return Letto(kEsempio);
 }
 
 /// The text with its line `riga` (from 1) replaced.

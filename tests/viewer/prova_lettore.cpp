@@ -16,12 +16,10 @@ namespace {
 
 TEST(Lettore, EsempioConPuntoEConVirgola) {
   for (const char* nome : {"/sezione.dis", "/sezione-virgola.dis"}) {
-    const auto letto = LeggiDis(prove::Leggi(prove::kDati + nome));
-    const auto* d = std::get_if<Disegno>(&letto);
-    ASSERT_TRUE(d) << nome;
-    EXPECT_EQ(d->coordinate.size(), 275u);
-    EXPECT_EQ(d->coordinate[2].y, -28.75) << nome;
-    const Scritta& quota = d->scritte.at(15);
+    const Disegno d = prove::Letto(prove::Leggi(prove::kDati + nome));
+    EXPECT_EQ(d.coordinate.size(), 275u);
+    EXPECT_EQ(d.coordinate[2].y, -28.75) << nome;
+    const Scritta& quota = d.scritte.at(15);
     EXPECT_EQ(std::tuple(quota.angolo, quota.base, quota.altezza, quota.colore), std::tuple(90, 10, 15, 5));
   }
 }
@@ -51,11 +49,9 @@ TEST(Lettore, FiniDiRigaELineeSenzaInizio) {
   std::erase(soloLf, '\r');
   const std::string senzaInizio = prove::ConRiga(uno, 13, "-1  1  3  0 ");
   for (const std::string& byte : {soloLf, uno.substr(0, uno.size() - 3), uno + "\r\n \r\n", senzaInizio}) {
-    const auto letto = LeggiDis(byte);
-    const auto* d = std::get_if<Disegno>(&letto);
-    ASSERT_TRUE(d) << byte << std::get<ErroreDis>(letto).messaggio;
-    EXPECT_EQ(d->linee.size(), byte == senzaInizio ? 1u : 2u) << byte;
-    EXPECT_EQ(d->lineeSaltate, byte == senzaInizio ? 1 : 0) << byte;
+    const Disegno d = prove::Letto(byte);
+    EXPECT_EQ(d.linee.size(), byte == senzaInizio ? 1u : 2u) << byte;
+    EXPECT_EQ(d.lineeSaltate, byte == senzaInizio ? 1 : 0) << byte;
   }
 }
 
