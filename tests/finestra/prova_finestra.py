@@ -3,6 +3,7 @@
 watched. What it writes is what the scripted desktop writes for the same session.
 
 Usage: prova_finestra.py FOLDER [GROUP...], the folder that of the programs; exit status 77: left out.
+A failure at the screen leaves its picture, guasto-GROUP.png, in the working folder.
 """
 import contextlib
 import os
@@ -277,13 +278,14 @@ def prova(gruppo, programmi, cartella):
     misure, regione, decimale = SESSIONI.get(gruppo, ("1024x600", "C", "."))
     radice = cartella / "impianto"
     argomento = installa(radice, programmi, visore)
-    with Schermo(misure, cartella) as schermo:
+    with (Schermo(misure, cartella) as schermo,
+          programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
+                    env=schermo.ambiente | {"LC_ALL": regione}) as figlio):
         try:
-            with programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
-                           env=schermo.ambiente | {"LC_ALL": regione}) as figlio:
-                Seduta(schermo, radice, figlio).recita(righe)
+            Seduta(schermo, radice, figlio).recita(righe)
         except AssertionError:
-            schermo.chiedi("import", "-window", "root", f"guasto-{gruppo}.png")
+            with contextlib.suppress(OSError):
+                schermo.chiedi("import", "-window", "root", f"guasto-{gruppo}.png")
             raise
     if gruppo in SESSIONI:
         confronta(radice, programmi, decimale)
