@@ -73,8 +73,9 @@ class Schermo(contextlib.ExitStack):
     def __init__(self, misure, cartella):
         super().__init__()
         legge, scrive = os.pipe()
+        # -noreset: a server that starts anew when its last client leaves would refuse the next one.
         self.enter_context(programma("Xvfb", "-displayfd", scrive, "-screen", "0", misure + "x24",
-                                     "-nolisten", "tcp", pass_fds=[scrive], stderr=subprocess.DEVNULL))
+                                     "-nolisten", "tcp", "-noreset", pass_fds=[scrive], stderr=subprocess.DEVNULL))
         os.close(scrive)
         with os.fdopen(legge) as capo:
             numero = select.select([capo], [], [], PAZIENZA)[0] and capo.readline().strip()

@@ -25,7 +25,7 @@ echo 'leak:libdbus-1' >"$cartella/perdite"
 export LSAN_OPTIONS=suppressions=$cartella/perdite:print_suppressions=0
 
 mkfifo "$cartella/schermo"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 3>"$cartella/schermo" 2>/dev/null &
+Xvfb -noreset -displayfd 3 -screen 0 1280x1024x24 3>"$cartella/schermo" 2>/dev/null &
 figli+=($!)
 read -r -t 20 numero <"$cartella/schermo" || errore "no virtual display"
 export DISPLAY=:$numero
