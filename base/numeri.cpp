@@ -78,6 +78,7 @@ bool AccodaCentesimi(Testo& testo, double v, char separatore, bool zeroIniziale)
 struct Scansione {
   std::size_t lunghezza = 0;  // 0: no number there
   double valore = 0;
+  bool oltre = false;  // beyond the range of a double, whose largest one stands for it
 };
 
 Scansione Scandisci(std::string_view s, std::string_view segniEsponente) {
@@ -115,10 +116,10 @@ Scansione Scandisci(std::string_view s, std::string_view segniEsponente) {
     }
   }
 
-  Scansione esito{i, 0};
+  Scansione esito{i};
   if (!nonZero) return esito;
   if (potenza + esponente > std::numeric_limits<double>::max_exponent10) {
-    esito.valore = kMassimo;
+    esito.oltre = true;
   } else if (potenza + esponente > -400) {
     // from_chars knows neither 'D' nor a leading '+': the exponent is written anew.
     std::string_view mantissa = s.substr(inizio, fineMantissa - inizio);
@@ -128,8 +129,10 @@ Scansione Scandisci(std::string_view s, std::string_view segniEsponente) {
       mantissa = conEsponente;
     }
     const auto letto = std::from_chars(mantissa.data(), mantissa.data() + mantissa.size(), esito.valore);
-    if (letto.ec == std::errc::result_out_of_range) esito.valore = potenza + esponente > 0 ? kMassimo : 0;
+    esito.oltre = letto.ec == std::errc::result_out_of_range && potenza + esponente > 0;
+    if (letto.ec == std::errc::result_out_of_range) esito.valore = 0;
   }
+  if (esito.oltre) esito.valore = kMassimo;
   if (negativo) esito.valore = -esito.valore;
   return esito;
 }
@@ -181,7 +184,10 @@ void AccodaNumero(Testo& testo, Reale valore, char separatore, bool zeroIniziale
   if (v < 0) testo += '-';
   BufferCifre buffer;
   const auto [cifre, esponente] = Scomponi(std::fabs(v), buffer);
-  if (esponente >= kCifre || esponente < -4) {
+  // From 1E+15 upwards there are no decimals, and the shorter of both forms is written: a value of 15
+  // digits has to leave room for the next one of its line.
+  const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + (esponente < 100 ? 4 : 5));
+  if (esponente < -4 || (esponente >= kCifre && conEsponente <= esponente + 1)) {
     testo += cifre[0];
     if (cifre.size() > 1) (testo += separatore) += cifre.substr(1);
     AccodaEsponente(testo, esponente);
@@ -211,6 +217,10 @@ void AccodaStampato(Testo& testo, Reale valore, char separatore) {
 }
 
 Reale ConvertiNumero(std::string_view testo) {
+  return InizioNumerico(testo).value_or(0);
+}
+
+std::optional<Reale> InizioNumerico(std::string_view testo) {
   const auto ignorato = [](char c) { return c == ' ' || c == '\t' || c == '\n'; };
   Testo pulito;
   if (std::any_of(testo.begin(), testo.end(), ignorato)) {
@@ -222,12 +232,14 @@ Reale ConvertiNumero(std::string_view testo) {
     if (prefisso == 'H') return InteroConBase(testo.substr(2), 16);
     if (prefisso == 'O') return InteroConBase(testo.substr(2), 8);
   }
-  return Scandisci(testo, "eEdD").valore;
+  const Scansione s = Scandisci(testo, "eEdD");
+  if (s.lunghezza == 0) return std::nullopt;
+  return s.valore;
 }
 
 std::optional<Reale> NumeroInvariante(std::string_view testo) {
   const Scansione s = Scandisci(testo, "eE");
-  if (s.lunghezza == 0 || s.lunghezza != testo.size()) return std::nullopt;
+  if (s.lunghezza == 0 || s.lunghezza != testo.size() || s.oltre) return std::nullopt;
   return s.valore;
 }
 

@@ -10,7 +10,8 @@
 namespace tarvel {
 
 /// The shortest decimal form with at most 15 significant digits: '.5', '-.25', '3', '12.75',
-/// '1E-05', '1.5E+16'. Exponent form from 1E+15 upwards and below 1E-04. Never "-0".
+/// '1E-05', '1.5E+16', '2036027283214060'. Exponent form below 1E-04, and from 1E+15 upwards where it is
+/// not longer than the plain one. Never "-0".
 Testo FormatoNumero(Reale valore);
 
 /// The same, appended to `testo`; `separatore` stands for the point, `zeroIniziale` puts a zero
@@ -26,7 +27,11 @@ void AccodaStampato(Testo& testo, Reale valore, char separatore = '.');
 /// octal integer. A number beyond the range of a double becomes the largest one of its sign.
 Reale ConvertiNumero(std::string_view testo);
 
-/// Strict conversion: the whole text is one number with '.' as the point; no blanks.
+/// The same; nothing where the text does not begin with a number.
+std::optional<Reale> InizioNumerico(std::string_view testo);
+
+/// Strict conversion: the whole text is one number with '.' as the point, within the range of a double;
+/// no blanks.
 std::optional<Reale> NumeroInvariante(std::string_view testo);
 
 /// Strict conversion in the regional format. Blanks at both ends are dropped; thousands separators
