@@ -3,6 +3,7 @@
 #include "app/cartelle.h"
 
 #include "base/errore.h"
+#include "platform/comune/percorso.h"
 #include "platform/desktop.h"
 #include "platform/file.h"
 
@@ -32,7 +33,9 @@ constexpr std::string_view kLavori = "lavori\\";
   Rifiuta("Errore: file " + DirRoot + file + " errato o mancante", Icona::Esclamazione);
 }
 
-Testo RadiceDa(const Testo& riga) {
+// The root folder, in lower case.
+Testo RadiceDa(const Testo& argomento) {
+  const Testo riga = Minuscole(argomento);
   const auto chiave = riga.find(kChiave);
   if (SenzaBlanchi(riga).empty() || chiave == Testo::npos)
     Rifiuta("Avvio del programma: argomento non presente", Icona::Stop);
@@ -40,7 +43,9 @@ Testo RadiceDa(const Testo& riga) {
   const auto fine = riga.find('|', inizio);
   if (fine == Testo::npos)
     throw ErroreFatale(TipoErrore::Argomento, "argomento senza la barra di chiusura dopo diroot", riga);
-  return Testo(SenzaBlanchi(std::string_view(riga).substr(inizio, fine - inizio)));
+  const Testo radice(SenzaBlanchi(std::string_view(argomento).substr(inizio, fine - inizio)));
+  RicordaGrafia(radice);
+  return Minuscole(radice);
 }
 
 // What `leggi` takes from the file; nothing when the file is missing, empty or unreadable.
@@ -63,11 +68,12 @@ void InizializzaDirettori() {
     riga = kArgomentoDebug;
     MostraMessaggio("Versione di debug ***", kTitoloProgramma, Icona::Informazione);
   }
-  DirRoot = RadiceDa(Minuscole(riga));
+  DirRoot = RadiceDa(riga);
 
   const Testo dirlav = "\\impostazioni\\dirlav";
   const auto voce = Leggi(DirRoot + dirlav, [](FileInLettura& f) { return f.LeggiVoceTesto(); });
   if (!voce) RifiutaFile(dirlav);
+  RicordaGrafia(Testo(SenzaBlanchi(*voce)));
   Testo lavori(SenzaBlanchi(Minuscole(*voce)));
   if (lavori.size() < 9) RifiutaFile(dirlav);
   if (!lavori.ends_with('\\')) lavori += '\\';

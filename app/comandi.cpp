@@ -1,6 +1,7 @@
 // The main form's commands on sections: calculate, read, save, switch the section file.
 #include "app/cartelle.h"
 #include "app/form_sez.h"
+#include "app/salvataggio.h"
 #include "app/tarvel1.h"
 #include "base/errore.h"
 #include "drawing/disegno_sezione.h"
@@ -101,6 +102,7 @@ void tarvel1::SalvaSezione() {
 }
 
 void tarvel1::Command3_Click() {
+  MettiDaParteSezioni();
   const Testo fileLavoro = DirLavori + "\\sezio_ut";
   if (FileSezioni != fileLavoro) {
     FileSezioni = fileLavoro;
@@ -113,6 +115,7 @@ void tarvel1::Command3_Click() {
   }
   ImpostaTesto(nomute, FileSezioni);
   LeggiFileSezioni(true);
+  LasciaSezioniDaParte();
 }
 
 }  // namespace tarvel

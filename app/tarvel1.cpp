@@ -3,6 +3,7 @@
 
 #include "app/cartelle.h"
 #include "app/form_sez.h"
+#include "app/salvataggio.h"
 #include "app/schema.h"
 #include "base/numeri.h"
 #include "drawing/disegno_sezione.h"
@@ -102,6 +103,7 @@ void tarvel1::Form_Load() {
   VerticiPoligono[2] = 11;
   SezioneCorrente = 1;
   PrefissoNome = "U_PO_";
+  PreparaSalvataggio();
   InizializzaDirettori();
   FileSezioni = DirLavori + "\\sezio_ut";
   ImpostaTesto(nomute, FileSezioni);

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <utility>
 
-#include "base/errore.h"
 #include "base/numeri.h"
 #include "drawing/disegno.h"
 #include "drawing/ottimizza.h"
@@ -21,24 +20,22 @@ struct Estremi {
 };
 
 struct Uscita {
-  FileInScrittura file;
+  tarvel::Testo testo = {};
   char separatore = SeparatoreDecimale();
-  tarvel::Testo riga = {};
 };
 
 // One line of printed numbers.
 template <class... Valori>
 void Stampa(Uscita& uscita, Valori... valori) {
-  uscita.riga.clear();
-  (AccodaStampato(uscita.riga, Reale(valori), uscita.separatore), ...);
-  uscita.file.ScriviRiga(uscita.riga);
+  (AccodaStampato(uscita.testo, Reale(valori), uscita.separatore), ...);
+  AccodaRiga(uscita.testo, "");
 }
 
 // A text always is one line, or the viewer would lose its place.
 void StampaTesto(Uscita& uscita, tarvel::Testo testo) {
   std::replace_if(
       testo.begin(), testo.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-  uscita.file.ScriviRiga(testo);
+  AccodaRiga(uscita.testo, testo);
 }
 
 template <class Elenco, class Voce>
@@ -65,28 +62,20 @@ void ScriviSezioni(Uscita& uscita) {
   });
 }
 
-// False when the file could not be created or written to its end.
-bool ScriviFile(const tarvel::Testo& nomeFile, Intero16 tipoIntestazione, const Estremi& estremi) {
-  try {
-    auto file = FileInScrittura::Crea(nomeFile);
-    if (!file) return false;
-    Uscita uscita{std::move(*file)};
-    uscita.file.ScriviRiga(tipoIntestazione == 4 ? "                   4" : "                   3");
-    Stampa(uscita, estremi.xmin, estremi.xmax);
-    Stampa(uscita, estremi.ymin, estremi.ymax);
-    uscita.file.ScriviRiga("-10000.000000        10000.000000");
-    ScriviSezioni(uscita);
-    uscita.file.Chiudi();
-    return true;
-  } catch (const ErroreFatale& errore) {
-    if (errore.tipo != TipoErrore::File) throw;
-    return false;
-  }
+tarvel::Testo ComponiFile(Intero16 tipoIntestazione, const Estremi& estremi) {
+  Uscita uscita;
+  AccodaRiga(uscita.testo, tipoIntestazione == 4 ? "                   4" : "                   3");
+  Stampa(uscita, estremi.xmin, estremi.xmax);
+  Stampa(uscita, estremi.ymin, estremi.ymax);
+  AccodaRiga(uscita.testo, "-10000.000000        10000.000000");
+  ScriviSezioni(uscita);
+  return std::move(uscita.testo);
 }
 
 void ScriviFileDisegno(const tarvel::Testo& nomeFile, Intero16& tipoIntestazione, Intero16 modoAvviso,
                        const Estremi& estremi) {
-  const bool scritto = ScriviFile(nomeFile, tipoIntestazione, estremi);
+  const bool scritto =
+      ScriviFile(nomeFile, ComponiFile(tipoIntestazione, estremi)) == EsitoScrittura::Scritto;
   tipoIntestazione = scritto ? 1 : 0;
   // The missing blank before the name is wanted.
   if (!scritto && (modoAvviso == 0 || modoAvviso == 2))

@@ -1,6 +1,8 @@
 // Writer and reader stand side by side, record by record, as the lines stand in the file.
 #include "model/file_sezioni.h"
 
+#include <algorithm>
+
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "model/tabella_sezioni.h"
@@ -16,85 +18,102 @@ Intero16 NumeroProposto = 1;
 
 namespace {
 
+// A file that was there and could not be opened when it was to be read: the table does not hold its
+// sections, so it is not replaced until it has been read.
+Testo gIntoccabile;
+
+Testo FileCopia() {
+  return FileSezioni + ".bak";
+}
+
+Testo DoveLaCopia() {
+  return "la versione precedente è in "_t + FileCopia();
+}
+
 // --- Writing
 
 constexpr int kDecimali = 2;
 constexpr int kDecimaliTensioni = 14;
 constexpr std::size_t kPassoColonne = 20;  // column stops 21, 41 and 61
 
-// One line of values at the column stops. A value that reaches beyond the next stop pushes it to a
-// new line, where no reader looks for it: values of that length do not occur.
+// One line of values at the column stops, at the end of a text. A value that reaches beyond the next
+// stop pushes it to a new line, where no reader looks for it: values of that length do not occur.
 class RigaColonne {
  public:
-  RigaColonne(FileInScrittura& file, Testo& riga) : file_(file), riga_(riga) { riga_.clear(); }
+  explicit RigaColonne(Testo& testo) : testo_(testo), inizio_(testo.size()) {}
 
   RigaColonne& Testuale(std::string_view testo) {
     ProssimaColonna();
-    riga_ += testo;
+    testo_ += testo;
     return *this;
   }
   RigaColonne& Tagliato(Reale valore) {
     ProssimaColonna();
-    AccodaNumero(riga_, Tronca(valore, kDecimali));
+    AccodaNumero(testo_, Tronca(valore, kDecimali));
     return *this;
   }
   // The sign is dropped: stresses are stored as magnitudes.
   RigaColonne& Tensione(Reale valore) {
     ProssimaColonna();
-    AccodaNumero(riga_, Tronca(Assoluto(valore), kDecimaliTensioni));
+    AccodaNumero(testo_, Tronca(Assoluto(valore), kDecimaliTensioni));
     return *this;
   }
   RigaColonne& Conteggio(Intero16 valore) {
     ProssimaColonna();
-    AccodaNumero(riga_, static_cast<int>(valore));
+    AccodaNumero(testo_, static_cast<int>(valore));
     return *this;
   }
-  void Fine() { file_.ScriviRiga(riga_); }
+  void Fine() { AccodaRiga(testo_, ""); }
 
  private:
   void ProssimaColonna() {
     const std::size_t fermata = kPassoColonne * static_cast<std::size_t>(valori_++);
-    if (riga_.size() > fermata) {
-      file_.ScriviRiga(riga_);
-      riga_.clear();
+    if (testo_.size() - inizio_ > fermata) {
+      Fine();
+      inizio_ = testo_.size();
     }
-    riga_.resize(fermata, ' ');
+    testo_.resize(inizio_ + fermata, ' ');
   }
 
-  FileInScrittura& file_;
-  Testo& riga_;
+  Testo& testo_;
+  std::size_t inizio_;
   int valori_ = 0;
 };
 
-void ScriviPoligono(FileInScrittura& file, Testo& buffer, const GeometriaSezione& g, int p) {
-  buffer.clear();
-  AccodaStampato(buffer, static_cast<int>(g.NumVertici[p]));
-  file.ScriviRiga(buffer);
+void ScriviPoligono(Testo& testo, const GeometriaSezione& g, int p) {
+  AccodaStampato(testo, static_cast<int>(g.NumVertici[p]));
+  AccodaRiga(testo, "");
   for (int v = g.NumVertici[p]; v >= 1; --v)
-    RigaColonne(file, buffer).Tagliato(g.VerticeZ(p, v)).Tagliato(g.VerticeY(p, v)).Testuale("0").Fine();
+    RigaColonne(testo).Tagliato(g.VerticeZ(p, v)).Tagliato(g.VerticeY(p, v)).Testuale("0").Fine();
 }
 
-void ScriviPunto(FileInScrittura& file, Testo& buffer, RecordSezione& r, int j) {
+void ScriviPunto(Testo& testo, RecordSezione& r, int j) {
   const Testo etichetta(r.EtichettaPunto[j].Rifilato());
   r.EtichettaPunto[j] = etichetta;
-  RigaColonne(file, buffer).Tagliato(r.PuntoZ[j]).Tagliato(r.PuntoY[j]).Testuale(etichetta).Fine();
-  RigaColonne(file, buffer).Tensione(r.TauT[j]).Conteggio(r.IndicatoreTauT[j]).Fine();
-  RigaColonne(file, buffer).Tensione(r.TauVy[j]).Conteggio(r.IndicatoreTauVy[j]).Fine();
-  RigaColonne(file, buffer).Tensione(r.TauVz[j]).Conteggio(r.IndicatoreTauVz[j]).Fine();
+  RigaColonne(testo).Tagliato(r.PuntoZ[j]).Tagliato(r.PuntoY[j]).Testuale(etichetta).Fine();
+  RigaColonne(testo).Tensione(r.TauT[j]).Conteggio(r.IndicatoreTauT[j]).Fine();
+  RigaColonne(testo).Tensione(r.TauVy[j]).Conteggio(r.IndicatoreTauVy[j]).Fine();
+  RigaColonne(testo).Tensione(r.TauVz[j]).Conteggio(r.IndicatoreTauVz[j]).Fine();
 }
 
-void ScriviRecord(FileInScrittura& file, Testo& buffer, RecordSezione& r) {
-  const auto riga = [&] { return RigaColonne(file, buffer); };
-  file.ScriviRiga(r.Nome);
+void ScriviRecord(Testo& testo, RecordSezione& r) {
+  const auto riga = [&] { return RigaColonne(testo); };
+  AccodaRiga(testo, r.Nome);
   riga().Tagliato(r.BaseTotale).Tagliato(r.AltezzaTotale).Tagliato(r.ZG).Tagliato(r.YG).Fine();
   riga().Conteggio(r.NumPoligoni).Fine();
-  for (int p = 1; p <= r.NumPoligoni; ++p) ScriviPoligono(file, buffer, r, p);
+  for (int p = 1; p <= r.NumPoligoni; ++p) ScriviPoligono(testo, r, p);
   riga().Tagliato(r.An).Tagliato(r.Aty).Tagliato(r.Atz).Fine();
   riga().Tagliato(r.Jt).Tagliato(r.Jyg).Tagliato(r.Jzg).Tagliato(r.ValoreAggiuntivo).Fine();
   riga().Conteggio(r.NumPunti).Fine();
-  for (int j = 1; j <= r.NumPunti; ++j) ScriviPunto(file, buffer, r, j);
-  file.ScriviRiga(SenzaBlanchi(r.Sigla));
+  for (int j = 1; j <= r.NumPunti; ++j) ScriviPunto(testo, r, j);
+  AccodaRiga(testo, SenzaBlanchi(r.Sigla));
   riga().Tagliato(r.ValoreSigla).Fine();
+}
+
+Testo ConConteggio(Intero16 sezioni, const Testo& record) {
+  Testo testo;
+  RigaColonne(testo).Conteggio(sezioni).Fine();
+  return testo + record;
 }
 
 // --- Reading
@@ -179,28 +198,53 @@ void LeggiRecord(FileInLettura& file, RecordSezione& r) {
 
 void LeggiFileSezioni(bool mostraErrore) {
   auto file = FileInLettura::Apri(FileSezioni);
+  gIntoccabile = file || GenereFile(FileSezioni) == Voce::Assente ? Testo() : FileSezioni;
   if (!file) {
     if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
     return;
   }
-  NumeroSezioniFile = LeggiConteggio(*file, kMaxSezioni, "sezioni");
-  NumeroSezioni = NumeroSezioniFile;
-  for (int i = 1; i <= NumeroSezioni; ++i) LeggiRecord(*file, TabellaSezioni[i]);
+  try {
+    NumeroSezioniFile = LeggiConteggio(*file, kMaxSezioni, "sezioni");
+    NumeroSezioni = NumeroSezioniFile;
+    for (int i = 1; i <= NumeroSezioni; ++i) LeggiRecord(*file, TabellaSezioni[i]);
+  } catch (ErroreFatale& errore) {
+    if (GenereFile(FileCopia()) == Voce::File) errore.dove += "; " + DoveLaCopia();
+    throw;
+  }
 }
 
 void ScriviFileSezioni() {
-  auto file = FileInScrittura::Crea(FileSezioni);
-  if (!file) {
+  Testo record;
+  for (int i = 1; i <= NumeroSezioni; ++i)
+    Durante([&] { return "registrazione della sezione " + TabellaSezioni[i].Nome; },
+            [&] { ScriviRecord(record, TabellaSezioni[i]); });
+
+  const Voce vecchio = FileSezioni == gIntoccabile ? Voce::Ignota : GenereFile(FileSezioni);
+  const bool alSicuro =
+      vecchio == Voce::Assente || (vecchio == Voce::File && CopiaFile(FileSezioni, FileCopia()));
+  const auto esito = alSicuro ? ScriviFile(FileSezioni, ConConteggio(NumeroSezioni, record), true)
+                              : EsitoScrittura::NonAperto;
+  if (esito == EsitoScrittura::NonAperto)
     MostraMessaggio("Problemi nella scrittura del file " + FileSezioni, "ERRORE", Icona::Stop);
-    return;
+  if (esito == EsitoScrittura::Incompleto)
+    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
+                       "il file " + FileSezioni + " può essere incompleto"_t +
+                           (vecchio == Voce::File ? "; " + DoveLaCopia() : ""));
+}
+
+Testo ComponiSezioniScrivibili() {
+  Testo record;
+  Intero16 scritte;
+  for (int i = 1; i <= std::min<int>(NumeroSezioni, kMaxSezioni); ++i) {
+    const std::size_t inizio = record.size();
+    try {
+      ScriviRecord(record, TabellaSezioni[i]);
+      ++scritte;
+    } catch (const ErroreFatale&) {
+      record.resize(inizio);
+    }
   }
-  const auto luogo = [] { return "il file " + FileSezioni + " può essere incompleto"_t; };
-  Durante(luogo, [&] {
-    Testo buffer;
-    RigaColonne(*file, buffer).Conteggio(NumeroSezioni).Fine();
-    for (int i = 1; i <= NumeroSezioni; ++i) ScriviRecord(*file, buffer, TabellaSezioni[i]);
-    file->Chiudi();
-  });
+  return ConConteggio(scritte, record);
 }
 
 Testo ProponiNome(Intero16 numero) {

@@ -3,6 +3,7 @@
 
 #include "app/cartelle.h"
 #include "base/errore.h"
+#include "base/numeri.h"
 #include "platform/file.h"
 
 namespace tarvel {
@@ -19,19 +20,29 @@ void LeggiDefault() {
   auto file = FileInLettura::Apri(FileDefault());
   if (!file) return;
   try {
-    for (Reale& p : ParametriSezione) p = file->LeggiVoceNumero();
+    for (Reale& p : ParametriSezione) {
+      const std::string_view voce = file->LeggiVoce();
+      const auto valore = InizioNumerico(voce);
+      if (!valore && !voce.empty()) return;
+      p = valore.value_or(0);
+    }
   } catch (const ErroreFatale&) {
     // A short or spoiled file is no reason to stop a start: the user sees the values in the boxes.
   }
 }
 
 void ScriviDefault(std::span<const Testo> caselle) {
-  Durante([] { return "il file " + FileDefault() + " può essere incompleto"_t; }, [&] {
-    auto file = FileInScrittura::Crea(FileDefault());
-    if (!file) throw ErroreFatale(TipoErrore::File, "impossibile creare il file dei valori iniziali");
-    for (const Testo& testo : caselle) file->ScriviRiga(SenzaBlanchi(testo));
-    file->Chiudi();
-  });
+  Testo testo;
+  for (const Testo& casella : caselle) AccodaRiga(testo, SenzaBlanchi(casella));
+  switch (ScriviFile(FileDefault(), testo)) {
+    case EsitoScrittura::Scritto:
+      return;
+    case EsitoScrittura::NonAperto:
+      throw ErroreFatale(TipoErrore::File, "impossibile creare il file dei valori iniziali", FileDefault());
+    case EsitoScrittura::Incompleto:
+      throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
+                         "il file " + FileDefault() + " può essere incompleto"_t);
+  }
 }
 
 }  // namespace tarvel

@@ -16,8 +16,9 @@ using VettoreParametri = Tabella<"ParametriSezione", Reale, 0, kNumParametri - 1
 
 extern VettoreParametri ParametriSezione;
 
-/// Fills ParametriSezione from "CapSezDe.txt" in DirCustom. Any failure stops the reading there,
-/// silently: what was read stays, the rest is as before.
+/// Fills ParametriSezione from "CapSezDe.txt" in DirCustom, each item taken as a box takes it ('20cm' is
+/// 20, nothing is 0). An item without a number, as any failure, stops the reading there, silently: what
+/// was read stays, the rest is as before.
 void LeggiDefault();
 
 /// Writes what the boxes hold, as it was typed: '12,5' comes back as two numbers, which is

@@ -59,18 +59,13 @@ void LeggiOpzioni() {
 }
 
 void ScriviOpzioni() {
-  try {
-    if (auto file = FileInScrittura::Crea(FileOpzioni())) {
-      for (int i = 1; i <= kNumOpzioni; ++i)
-        file->ScriviRiga(FormatoNumero(Opzioni[i]) + Testo(10, ' ') +
-                         kVociOpzioni[static_cast<std::size_t>(i - 1)].etichettaFile);
-      file->Chiudi();
-      return;
-    }
-  } catch (const ErroreFatale&) {
-    // A disk that is full has the same answer as a file that cannot be created.
-  }
-  MostraMessaggio("Problemi con la scrittura del file " + FileOpzioni(), "ERRORE", Icona::Esclamazione);
+  Testo testo;
+  for (int i = 1; i <= kNumOpzioni; ++i)
+    AccodaRiga(testo, FormatoNumero(Opzioni[i]) + Testo(10, ' ') +
+                          kVociOpzioni[static_cast<std::size_t>(i - 1)].etichettaFile);
+  // A disk that is full has the same answer as a file that cannot be created.
+  if (ScriviFile(FileOpzioni(), testo) != EsitoScrittura::Scritto)
+    MostraMessaggio("Problemi con la scrittura del file " + FileOpzioni(), "ERRORE", Icona::Esclamazione);
 }
 
 Testo PrimaParola(Testo& riga) {

@@ -3,8 +3,9 @@
 //
 // Events. The program is single-threaded: a handler runs to its end before the next event is
 // taken, except that a modal form or a message box, shown by a handler, runs a loop of its own
-// until it goes. A handler's ErroreFatale is caught by the loop that fired it: one message with
-// the stop icon, the title kTitoloProgramma and what failed where, then TerminaProgramma(1).
+// until it goes. A handler's ErroreFatale is caught by the loop that fired it: what PrimaDellaFine
+// registered, one message with the stop icon, the title kTitoloProgramma and what failed where, then
+// TerminaProgramma(1).
 //
 // Focus. One control of the desktop has the focus: the first of a form when the form is shown,
 // then whichever the user goes to by mouse or Tab, on any form that can be used. When it changes
@@ -46,6 +47,11 @@ void NascondiForm(Form& form);
 /// already. The close box does the same. Other forms stay.
 void ScaricaForm(Form& form);
 bool FormCaricata(const Form& form);
+
+/// What the program does when a fatal error ends it, before the message is shown; the sentence that it
+/// returns is added to the message. A failure in it changes nothing: the message is that of the first
+/// error. It is called by the loop that caught the error and shows nothing itself.
+void PrimaDellaFine(std::function<Testo()> salva);
 
 /// Ends the program at once with this exit status: no unload handler runs, all windows go. It
 /// never returns; whether it unwinds by an exception of its own or leaves the process is the

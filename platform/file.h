@@ -1,43 +1,54 @@
-// Sequential text files of 8-bit text with CR LF line ends.
-//
-// Paths use the backslash. Where the host separates by '/', a backslash becomes one and each
-// component is matched exactly first, then without regard to case (the program lower-cases its
-// root folder, the host's folders may not be); a component that matches nothing is taken as given.
+// Sequential text files of 8-bit text with CR LF line ends. Paths are those of the program
+// (platform/comune/percorso.h).
 #pragma once
 
-#include <cstdio>
-#include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/intero.h"
 #include "base/reale.h"
 #include "base/testo.h"
+#include "platform/ospite.h"
 
 namespace tarvel {
 
-/// The host's path (UTF-8) of a path of the program.
-std::string PercorsoHost(const Testo& percorso);
+/// A file of the host that is closed, unchecked, when it goes.
+class FileAperto {
+ public:
+  explicit FileAperto(Ospite::Maniglia file) : file_(file) {}
+  FileAperto(FileAperto&& altro) noexcept : file_(std::exchange(altro.file_, std::nullopt)) {}
+  FileAperto& operator=(FileAperto&&) = delete;
+  ~FileAperto() {
+    if (file_) OspiteDeiFile().Chiudi(*file_);
+  }
+  Ospite::Maniglia operator*() const { return *file_; }
+  [[nodiscard]] bool Chiudi() { return OspiteDeiFile().Chiudi(*std::exchange(file_, std::nullopt)); }
 
-struct ChiudiFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+ private:
+  std::optional<Ospite::Maniglia> file_;
 };
+
+/// The longest line of a file, in characters: what is longer is no text.
+inline constexpr std::size_t kRigaMassima = 1 << 20;
 
 /// A file read line by line or item by item. A line ends with CR LF or LF. After an item, the
 /// blanks that follow it, one comma or the line end belong to it; a whole line read after an item is
-/// always the next one, what is left of the item's line is passed over. Reading past the end, a malformed
-/// item and a fault of the host are fatal, with file and line.
+/// always the next one, what is left of the item's line is passed over. Reading past the end, a line
+/// longer than kRigaMassima, a malformed item and a fault of the host are fatal, with file and line.
 class FileInLettura {
  public:
-  /// Nothing when the file cannot be opened (a folder counts as such).
+  /// Nothing when the file is not there or cannot be opened; anything but a regular file cannot be.
   static std::optional<FileInLettura> Apri(const Testo& percorso);
 
   /// The next whole line, without its end. The view holds until the next call.
   std::string_view LeggiRiga();
   /// Leading blanks skipped; ends at a comma or the line end; quotes around it are removed.
   Testo LeggiVoceTesto();
-  /// A number in the invariant form; ends at a comma, a blank or the line end; quotes removed.
+  /// What stands up to a comma, a blank or the line end, quotes removed. The view holds until the
+  /// next call.
+  std::string_view LeggiVoce();
+  /// A number in the invariant form; ends as LeggiVoce does.
   Reale LeggiVoceNumero();
   /// A whole number of 16 bits; ends as a number does.
   Intero16 LeggiVoceIntero();
@@ -47,14 +58,14 @@ class FileInLettura {
   [[noreturn]] void Malformato(const Testo& cosa) const;
 
  private:
-  FileInLettura(const Testo& percorso, std::FILE* file) : percorso_(percorso), file_(file) {}
+  FileInLettura(const Testo& percorso, FileAperto file) : percorso_(percorso), file_(std::move(file)) {}
   bool Riempi();
   /// Makes the current line ready to be read from; fatal at the end of the file.
   void Prepara();
-  std::string_view LeggiVoce(bool fineAlBlanco);
+  std::string_view Voce(bool fineAlBlanco);
 
   Testo percorso_;
-  std::unique_ptr<std::FILE, ChiudiFile> file_;
+  FileAperto file_;
   Testo riga_;
   std::size_t letti_ = 0;    // characters of riga_ already taken
   bool rigaAperta_ = false;  // false: the next reading takes a new line
@@ -63,26 +74,29 @@ class FileInLettura {
   std::size_t posto_ = 0;  // of the next character in buffer_
 };
 
-/// A file written line by line; created, or replaced, when it is opened.
-class FileInScrittura {
- public:
-  /// Nothing when the file cannot be created; an existing one is then untouched.
-  static std::optional<FileInScrittura> Crea(const Testo& percorso);
+/// Adds a line and CR LF to the text of a file.
+void AccodaRiga(Testo& testo, std::string_view riga);
 
-  /// The line and CR LF. A write that fails is fatal (TipoErrore::File); it may show only later, at
-  /// the latest in Chiudi.
-  void ScriviRiga(std::string_view riga);
-  /// Everything is with the host when it returns. A file not closed so is closed without a check.
-  void Chiudi();
+// --- Writing. A file is composed in memory and handed to the host at once.
 
- private:
-  FileInScrittura(const Testo& percorso, std::FILE* file) : percorso_(percorso), file_(file) {}
-  void Svuota();
-  [[noreturn]] void Fallita() const;
-
-  Testo percorso_;
-  std::unique_ptr<std::FILE, ChiudiFile> file_;
-  Testo buffer_;
+enum class EsitoScrittura {
+  Scritto,
+  NonAperto,   // nothing has changed
+  Incompleto,  // the file was opened, so that what it held is gone
 };
+
+/// Creates the file, or truncates it in place, and writes the text. `sulDisco`: it is on the disk, not
+/// only with the host, when this returns.
+[[nodiscard]] EsitoScrittura ScriviFile(const Testo& percorso, std::string_view testo, bool sulDisco = false);
+
+/// The file becomes the text, or stays as it was: written beside it and then given its name, on the
+/// disk when this returns true.
+[[nodiscard]] bool SostituisciFile(const Testo& percorso, std::string_view testo);
+
+/// Copies a file as SostituisciFile writes one. False also when it cannot be read to its end.
+[[nodiscard]] bool CopiaFile(const Testo& da, const Testo& a);
+
+/// What stands at a path of the program.
+[[nodiscard]] Voce GenereFile(const Testo& percorso);
 
 }  // namespace tarvel

@@ -2,7 +2,6 @@
 #include "preview/anteprima.h"
 
 #include "app/cartelle.h"
-#include "base/errore.h"
 #include "drawing/nome_file.h"
 #include "platform/desktop.h"
 #include "platform/file.h"
@@ -29,18 +28,12 @@ std::int32_t AvviaVisualizzatore(const Testo& percorso, std::int16_t stile) {
 }
 
 bool ScriviInput(const Testo& percorso) {
-  try {
-    auto file = FileInScrittura::Crea(percorso);
-    if (!file) return false;
-    // The viewer's own: an unused line, the drawing, then left, top, width and height of its window.
-    for (const Testo& riga : {Testo("inutilizzato"), DirLavori + NomeFileDisegno, Testo("1350"),
-                              Testo("5250"), Testo("9500"), Testo("3900")})
-      file->ScriviRiga(riga);
-    file->Chiudi();
-    return true;
-  } catch (const ErroreFatale&) {
-    return false;
-  }
+  Testo testo;
+  // The viewer's own: an unused line, the drawing, then left, top, width and height of its window.
+  for (const Testo& riga : {Testo("inutilizzato"), DirLavori + NomeFileDisegno, Testo("1350"), Testo("5250"),
+                            Testo("9500"), Testo("3900")})
+    AccodaRiga(testo, riga);
+  return ScriviFile(percorso, testo) == EsitoScrittura::Scritto;
 }
 
 void ScriviInputVisualizzatore() {

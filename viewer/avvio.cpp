@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "base/numeri.h"
-#include "platform/file.h"
+#include "platform/comune/percorso.h"
 
 namespace ostrel {
 namespace {
@@ -38,7 +38,7 @@ std::optional<Avvio> LeggiAvvio(const std::string& file) {
     complete = complete && valore && *valore >= -kMassimoTwip && *valore <= kMassimoTwip;
     if (complete) misura = static_cast<int>(valore->Valore());
   }
-  Avvio avvio{tarvel::PercorsoHost(*disegno), {}};
+  Avvio avvio{tarvel::PercorsoHost(*disegno).value_or(tarvel::InUtf8(*disegno)), {}};
   if (complete && misure[2] > 0 && misure[3] > 0) avvio.posto = {misure[0], misure[1], misure[2], misure[3]};
   return avvio;
 }

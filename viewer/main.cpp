@@ -8,7 +8,7 @@
 #include <cstring>
 
 #include "platform/comune/scala.h"
-#include "platform/file.h"
+#include "platform/comune/percorso.h"
 #include "viewer/avvio.h"
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
@@ -33,9 +33,10 @@ int EsportaSenzaFinestra(const QString& uscita, const QString& disegno) {
 
 // The working folder is the program's own where the preview starts it.
 std::optional<Avvio> CercaAvvio() {
-  if (auto avvio = LeggiAvvio(tarvel::PercorsoHost(kFileAvvio))) return avvio;
+  if (auto avvio = LeggiAvvio(kFileAvvio)) return avvio;
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
-  return LeggiAvvio(tarvel::PercorsoHost(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio));
+  const auto host = tarvel::PercorsoHost(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio);
+  return host ? LeggiAvvio(*host) : std::nullopt;
 }
 
 void Disponi(QWidget& finestra, const PostoFinestra& posto) {

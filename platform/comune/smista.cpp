@@ -2,10 +2,31 @@
 #include "platform/comune/smista.h"
 
 #include <new>
+#include <utility>
 
 #include "platform/desktop.h"
 
 namespace tarvel {
+namespace {
+
+std::function<Testo()> gSalva;
+
+// What was saved, as a further sentence of the message.
+Testo PrimaDelMessaggio() {
+  try {
+    const Testo salvato = gSalva ? gSalva() : Testo();
+    return salvato.empty() ? salvato : ". " + salvato;
+  } catch (const ErroreFatale&) {
+  } catch (const std::bad_alloc&) {
+  }
+  return {};
+}
+
+}  // namespace
+
+void PrimaDellaFine(std::function<Testo()> salva) {
+  gSalva = std::move(salva);
+}
 
 Testo TestoErroreFatale(const ErroreFatale& errore) {
   return "Errore irreversibile: " + errore.Messaggio();
@@ -21,6 +42,7 @@ void Smista(const std::function<void()>& gestore) {
   } catch (const std::bad_alloc&) {
     testo = "Errore irreversibile: memoria esaurita";
   }
+  testo += PrimaDelMessaggio();
   MostraMessaggio(testo, kTitoloProgramma, Icona::Stop);
   TerminaProgramma(1);
 }

@@ -1,7 +1,6 @@
 // Starting, activating and ending programs that are not run.
 #include "platform/headless/compiti.h"
 
-#include <filesystem>
 #include <set>
 #include <string>
 
@@ -33,8 +32,7 @@ using namespace headless;
 
 std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t stile) {
   const std::string riga = "start " + TraVirgolette(percorso) + ' ' + std::to_string(stile) + " -> ";
-  std::error_code errore;
-  if (!std::filesystem::is_regular_file(PercorsoHost(percorso), errore)) {
+  if (GenereFile(percorso) != Voce::File) {
     Annota(riga + "failed");
     return std::nullopt;
   }

@@ -9,7 +9,7 @@
 #include <QProcess>
 #include <vector>
 
-#include "platform/file.h"
+#include "platform/comune/percorso.h"
 #include "platform/qt/finestre_x11.h"
 #include "platform/qt/tasti.h"
 
@@ -38,7 +38,9 @@ bool Finito(const Compito& compito) {
 }  // namespace
 
 std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t) {
-  const QString host = QString::fromStdString(PercorsoHost(percorso));
+  const auto trovato = PercorsoHost(percorso);
+  if (!trovato) return std::nullopt;
+  const QString host = QString::fromStdString(*trovato);
   QProcess avvio;
   avvio.setProgram(QFileInfo(host).absoluteFilePath());
   avvio.setWorkingDirectory(QFileInfo(host).absolutePath());

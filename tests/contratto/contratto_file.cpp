@@ -1,5 +1,6 @@
 // Files and programs of the host: how paths are found, lines and items read and written, programs started.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,6 +9,7 @@
 #include <iterator>
 
 #include "base/errore.h"
+#include "platform/comune/percorso.h"
 #include "platform/file.h"
 #include "platform/programmi.h"
 #include "tests/contratto/mobili.h"
@@ -64,16 +66,34 @@ TEST_F(ContrattoFile, PathsAreMatchedExactlyFirstThenWithoutRegardToCase) {
     EXPECT_EQ(PercorsoHost(Percorso("") + percorso), base + "/" + atteso) << percorso;
 }
 
+TEST_F(ContrattoFile, OfNamesThatDifferByCaseTheOneWrittenByTheUserWins) {
+  for (const char* nome : {"radice", "Radice", "RADICE"}) {
+    fs::create_directories(cartella_ / nome / "Custom");
+    fs::create_directories(cartella_ / nome / "custom");
+  }
+  const Testo radice = Percorso("radice");
+  RicordaGrafia(Percorso("Radice") + "\\");
+  EXPECT_EQ(PercorsoHost(radice + "\\custom"), (cartella_ / "Radice/custom").string());
+  EXPECT_EQ(PercorsoHost(Percorso("RADICE") + "\\x"), (cartella_ / "Radice/x").string());
+  // A name that the code page lacks is no other name, and no other name is it.
+  Metti("\xE2\x88\x91", "");
+  EXPECT_EQ(PercorsoHost(Percorso("?")), (cartella_ / "?").string());
+}
+
 TEST_F(ContrattoFile, NoFileIsNothing) {
   Metti("f", "");
+  ASSERT_EQ(mkfifo((cartella_ / "tubo").c_str(), 0600), 0);
+  EXPECT_FALSE(FileInLettura::Apri(Percorso("tubo")));
+  EXPECT_FALSE(FileInLettura::Apri("\\dev\\zero"));
+  EXPECT_EQ(ScriviFile(Percorso("tubo"), "x"), EsitoScrittura::NonAperto);
   for (const Testo& percorso : {Percorso("assente"), Percorso(""), Testo(), Percorso("f\\dentro")})
     EXPECT_FALSE(FileInLettura::Apri(percorso)) << percorso;
   for (const Testo& percorso : {Percorso("manca\\f"), Percorso("")})
-    EXPECT_FALSE(FileInScrittura::Crea(percorso)) << percorso;
+    EXPECT_EQ(ScriviFile(percorso, "x"), EsitoScrittura::NonAperto) << percorso;
 }
 
 TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
-  const Testo lunga(5'000'000, 'x');
+  const Testo lunga(kRigaMassima, 'x');
   const struct {
     Testo contenuto;
     std::vector<Testo> righe;
@@ -99,19 +119,21 @@ TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
     for (const Testo& voce : caso.voci) EXPECT_TRUE(aVoci.LeggiVoceTesto() == voce) << voce.substr(0, 40);
     EXPECT_THROW(aVoci.LeggiVoceTesto(), ErroreFatale);
   }
+  EXPECT_THROW(Apri("f", lunga + "x\r\n").LeggiRiga(), ErroreFatale);
 }
 
 TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
-  FileInLettura file = Apri("f", " .5  -2,\"3\" 1E+03\r\n7 resto\r\nintera\r\nx\r\n32768\r\n1.5\r\n");
+  FileInLettura file =
+      Apri("f", " .5  -2,\"3\" 1E+03\r\n7 resto\r\nintera\r\nx\r\n32768\r\n1.5\r\n-1E309\r\n");
   EXPECT_EQ(file.LeggiVoceNumero().Valore(), 0.5);
   EXPECT_EQ(file.LeggiVoceIntero(), -2);
   EXPECT_EQ(file.LeggiVoceIntero(), 3);
   EXPECT_EQ(file.LeggiVoceNumero().Valore(), 1000.0);
   EXPECT_EQ(file.LeggiVoceIntero(), 7);
   EXPECT_EQ(file.LeggiRiga(), "intera");
-  for (const int riga : {4, 5, 6}) {
+  for (const int riga : {4, 5, 6, 7}) {
     try {
-      riga == 4 ? void(file.LeggiVoceNumero()) : void(file.LeggiVoceIntero());
+      riga == 4 || riga == 7 ? void(file.LeggiVoceNumero()) : void(file.LeggiVoceIntero());
       ADD_FAILURE() << riga;
     } catch (const ErroreFatale& errore) {
       EXPECT_EQ(errore.dove, Percorso("f") + ", riga " + std::to_string(riga));
@@ -119,17 +141,26 @@ TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
   }
 }
 
-TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFileAndAFullDiskIsFatal) {
+TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFileAndAFullDiskIsSaid) {
   Metti("Vecchio", "qualcosa di piu' lungo di quanto segue");
-  auto file = FileInScrittura::Crea(Percorso("VECCHIO")).value();
-  file.ScriviRiga("gi\xE0");
-  file.ScriviRiga("");
-  file.Chiudi();
-  std::ifstream scritto(cartella_ / "Vecchio", std::ios::binary);
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(scritto), {}), "gi\xE0\r\n\r\n");
+  fs::create_symlink("Vecchio", cartella_ / "rimando");
+  Testo testo;
+  for (const char* riga : {"gi\xE0", ""}) AccodaRiga(testo, riga);
+  EXPECT_EQ(ScriviFile(Percorso("RIMANDO"), testo, true), EsitoScrittura::Scritto);
+  const auto letto = [&](const char* nome) {
+    std::ifstream scritto(cartella_ / nome, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(scritto), {});
+  };
+  EXPECT_EQ(letto("Vecchio"), "gi\xE0\r\n\r\n");
 
-  auto pieno = FileInScrittura::Crea("\\dev\\full").value();
-  EXPECT_THROW((pieno.ScriviRiga("una riga"), pieno.Chiudi()), ErroreFatale);
+  const Testo grande(200'000, 'x');
+  Metti("grande", grande);
+  EXPECT_TRUE(CopiaFile(Percorso("GRANDE"), Percorso("copia")) && letto("copia") == grande);
+  EXPECT_TRUE(SostituisciFile(Percorso("copia"), "breve") && letto("copia") == "breve");
+  EXPECT_FALSE(CopiaFile("\\dev\\zero", Percorso("copia")));
+  EXPECT_EQ(std::distance(fs::directory_iterator(cartella_), {}), 4);
+
+  EXPECT_EQ(ScriviFile("\\dev\\full", "x"), EsitoScrittura::Incompleto);
 }
 
 TEST(ContrattoProgrammi, IdsAreNewAndOnlyOfProgramsThatStart) {

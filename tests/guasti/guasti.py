@@ -1,0 +1,86 @@
+#!/usr/bin/env python3
+"""Every file call of a session fails in turn: start, calculate, save, preview, calculate, close.
+
+    guasti.py PROGRAM          linked with ospite_guasto.cpp
+
+Each call fails once alone, then together with all that follow. Whatever happens, the answer is one of
+those that are foreseen, and no section is lost without a whole copy.
+"""
+import os
+import re
+import subprocess
+import sys
+import tempfile
+
+from sezioni import installa, nomi
+
+PROGRAMMA = sys.argv[1]
+PRIME = "type nome A\nclick Calcolo\nclick Command2\ntype nome B\nclick Calcolo\nclick Command2\n" \
+        "click Command6\nclick Salva\nclick Chiudi\nclick Command5\n"
+SCENA = "type nome C\nclick Calcolo\nclick Command2\nclick Command4\n" \
+        "type nome D\nclick Calcolo\nclick Command5\nanswer yes\ntick 10\n"
+PARAMETRI = "200 25 20 35 45 50 30 25 20 250 50 60 150 50 40 1200 2.5 2.5 -2.5 -2.5 20".split()
+PREVISTI = re.compile("|".join((
+    "Calcolo eseguito", "File salvato", r"Sezione non salvata\. Salvare\?",
+    r"Errore: file \S+impostazioni\\(dirlav|lavoro) errato o mancante",
+    r"Problemi nella scrittura del file \S+\\sezio_ut", r"Problemi con la scrittura del file \S+ostrel\.inp",
+    r"Problemi con l'apertura dell'applicazione \S+ostrel\.exe", r"File \S+CapOpSez\.txt non valido.*",
+    "Errore irreversibile: .*")))
+guasti = 0
+
+
+def gioca(radice, copione, guasto):
+    return subprocess.run([PROGRAMMA, "--", f"|diroot={radice}|"], input=copione, capture_output=True, timeout=60,
+                          encoding="utf-8", env={**os.environ, "TARVEL_GUASTO": guasto})
+
+
+def esamina(guasto, solo):
+    """Plays the scene with these calls failing; says what is wrong and returns the number of calls."""
+    with tempfile.TemporaryDirectory(prefix="Guasti_") as radice:
+        lavoro = installa(radice)
+        with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as file:
+            file.write("".join(p + "\r\n" for p in PARAMETRI))
+        assert gioca(radice, PRIME, "").returncode == 0
+        # Found by a listing of its folder, which may fail too.
+        os.rename(os.path.join(lavoro, "sezio_ut"), os.path.join(lavoro, "SEZIO_UT"))
+        esito = gioca(radice, SCENA, guasto)
+        messaggi = re.findall(r'^message \S+ ".*?" "(.*)" -> ', esito.stdout, re.M)
+        file = {"": "SEZIO_UT", ".bak": "sezio_ut.bak", ".salvataggio": "sezio_ut.salvataggio"}
+        stato = {nome: nomi(os.path.join(lavoro, f)) for nome, f in file.items()}
+        intere = [set(n) for n in stato.values() if n is not None]
+        fatale = next((m for m in messaggi if m.startswith("Errore irreversibile")), "")
+
+        def esige(vero, cosa):
+            global guasti
+            if not vero:
+                guasti += 1
+                print(f"guasto {guasto}: {cosa}\n  {stato}\n{esito.stdout[-1500:]}{esito.stderr}")
+
+        esige(esito.returncode in (0, 1), f"stato {esito.returncode}")
+        esige(all(PREVISTI.fullmatch(m) for m in messaggi), "un messaggio imprevisto")
+        esige(any({"A", "B"} <= n for n in intere), "sezioni perdute")
+        esige("sezio_ut" not in os.listdir(lavoro), "un secondo file delle sezioni")
+        for nome in (".bak", ".salvataggio"):
+            esige(stato[nome] is not None or file[nome] not in os.listdir(lavoro), nome + " non intero")
+        esige(stato[""] is not None or "sezio_ut.bak" in fatale, "un file rovinato senza dire della copia")
+        # "File salvato" follows also the message of a file that could not be written.
+        salvato = ["File salvato" == m and not messaggi[i - 1].startswith("Problemi nella")
+                   for i, m in enumerate(messaggi)]
+        esige(salvato.count(True) < 1 or any({"A", "B", "C"} <= n for n in intere), "salvato, e non lo era")
+        esige(salvato.count(True) < 2 or any("D" in n for n in intere), "salvato alla chiusura, e non lo era")
+        # Calculated and not saved: the first unsaved section is C, the second D.
+        calcolate = messaggi.count("Calcolo eseguito")
+        if fatale and solo and calcolate > len([m for m in messaggi if m == "File salvato"]):
+            esige(".salvataggio" in fatale and "CD"[calcolate - 1] in (stato[".salvataggio"] or []),
+                  "sezioni non salvate che l'errore ha perduto")
+        esige(not solo or not [f for f in os.listdir(lavoro) if f.endswith(".tmp")], "un avanzo")
+        return int(re.search(r"chiamate (\d+)", esito.stderr).group(1))
+
+
+chiamate = esamina("", True)
+assert chiamate > 100
+for n in range(1, chiamate + 1):
+    esamina(str(n), True)
+    esamina(f"{n}-999999", False)
+print(f"{2 * chiamate - guasti} passed, {guasti} failed")
+sys.exit(guasti > 0)

@@ -1,0 +1,40 @@
+"""A fresh installation, and the names of a section file that is whole."""
+import os
+
+
+def installa(radice):
+    for cartella in ("impostazioni", "custom", "progra", "driver", "Lavori/PR0001"):
+        os.makedirs(os.path.join(radice, cartella))
+    for nome, testo in (("impostazioni/dirlav", os.path.join(radice, "Lavori") + "\r\n"),
+                        ("impostazioni/lavoro", "PR0001\r\n"), ("progra/ostrel.exe", "")):
+        with open(os.path.join(radice, nome), "w", newline="") as file:
+            file.write(testo)
+    return os.path.join(radice, "Lavori", "PR0001")
+
+
+def nomi(percorso):
+    """The names in order; nothing where the file is missing or not whole, to its last line end."""
+    try:
+        with open(percorso, newline="", encoding="cp1252") as file:
+            righe = file.read().split("\r\n")
+    except FileNotFoundError:
+        return None
+    posto = iter(righe)
+    try:
+        trovati = []
+        for _ in range(int(next(posto))):
+            trovati.append(next(posto))
+            assert len(next(posto).split()) == 4
+            for _ in range(int(next(posto))):
+                for _ in range(int(next(posto))):
+                    assert len(next(posto).split()) == 3
+            assert len(next(posto).split()) == 3 and len(next(posto).split()) == 4
+            for _ in range(int(next(posto))):
+                next(posto)
+                assert [len(next(posto).split()) for _ in range(3)] == [2, 2, 2]
+            next(posto)
+            float(next(posto))
+        assert list(posto) == [""]
+        return trovati
+    except (StopIteration, ValueError, AssertionError):
+        return None
