@@ -22,6 +22,6 @@ done
 [ "$(cat "$dove/$mie")" = mie ] || { echo "$mie non è più quello dell'utente"; exit 1; }
 
 for nome in 'a|b' 'a\b' 'a"b' $'a\tb' 日本; do
-  if "$avvia" "$1" "$base/$nome" >"$base/uscita" 2>"$base/errori"; then echo "accettata: $nome"; exit 1; fi
+  if "$avvia" "$base/$nome" >"$base/uscita" 2>"$base/errori"; then echo "accettata: $nome"; exit 1; fi
   grep -q '^Il percorso contiene' "$base/errori" || { cat "$base/errori"; exit 1; }
 done
