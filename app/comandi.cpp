@@ -16,8 +16,6 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t kLunghezzaNomeDisegno = 8;
-
 bool Conferma(const Testo& domanda) {
   return MostraMessaggio(domanda, "ATTENZIONE", Icona::Esclamazione, Bottoni::SiNo) == Risposta::Si;
 }
@@ -30,21 +28,21 @@ void Avverti(const Testo& testo) {
 
 void tarvel1::Calcolo_Click() {
   const Testo& nomeSezione = nome.testo;
-  Durante([&] { return "calcolo della sezione " + nomeSezione; },
-          [&] {
-            const Intero16 i = CercaSezione(nomeSezione);
-            if (i != 0) {
-              // The outline stays as it was stored, whatever the boxes say: wanted so.
-              CalcolaCaratteristiche(TabellaSezioni[i]);
-              SezioneCorrente = i;
-            } else {
-              SezioneCorrente = ++NumeroSezioni;
-              RecordSezione& nuova = TabellaSezioni[NumeroSezioni];
-              CostruisciGeometria(nuova, ParametriSezione);
-              nuova.Nome = nomeSezione;
-              CalcolaCaratteristiche(nuova);
-            }
-          });
+  const auto calcola = [&] {
+    const Intero16 i = CercaSezione(nomeSezione);
+    if (i != 0) {
+      // The outline stays as it was stored, whatever the boxes say: wanted so.
+      CalcolaCaratteristiche(TabellaSezioni[i]);
+      SezioneCorrente = i;
+    } else {
+      SezioneCorrente = ++NumeroSezioni;
+      RecordSezione& nuova = TabellaSezioni[NumeroSezioni];
+      Durante("contorno", [&] { CostruisciGeometria(nuova, ParametriSezione); });
+      nuova.Nome = nomeSezione;
+      CalcolaCaratteristiche(nuova);
+    }
+  };
+  Durante([&] { return SullaSezione("calcolo", nomeSezione); }, calcola, kNonCassone);
   SezioneCalcolata = true;
   SezioneSalvata = false;
   MostraMessaggio("Calcolo eseguito", "INFORMAZIONE", Icona::Informazione);
@@ -66,7 +64,8 @@ void tarvel1::Command1_Click() {
 void tarvel1::RichiamaSezione(int i) {
   SezioneCalcolata = false;
   const RecordSezione& r = TabellaSezioni[i];
-  if (!Durante([&] { return "lettura della sezione " + r.Nome; }, [&] { return VerificaSezione(r); })) return;
+  const auto verifica = [&] { return VerificaSezione(r); };
+  if (!Durante([&] { return SullaSezione("lettura", r.Nome); }, verifica, kNonCassone)) return;
   SezioneCorrente = i;
   AggiornaTextParametri();
   ImpostaTesto(nome, Testo(SenzaBlanchi(r.Nome)));
@@ -86,17 +85,20 @@ void tarvel1::SalvaSezione() {
   // A calculated section under an unknown name takes the last slot of the table under that name.
   if (i == 0 && !SezioneCalcolata) ++NumeroSezioni;
   const Intero16 k = i != 0 ? i : NumeroSezioni;
-  RecordSezione& r = TabellaSezioni[k];
-  Durante([&] { return "contorno della sezione " + s; }, [&] { CostruisciGeometria(r, ParametriSezione); });
-  r.Nome = s;
+  const auto aggiorna = [&] {
+    RecordSezione& r = TabellaSezioni[k];
+    Durante("contorno", [&] { CostruisciGeometria(r, ParametriSezione); });
+    r.Nome = s;
+  };
+  Durante([&] { return SullaSezione("salvataggio", s); }, aggiorna, kNonCassone);
   SezioneCorrente = k;
 
   ScriviFileSezioni();
   SezioneSalvata = true;
   MostraMessaggio("File salvato", "INFORMAZIONE", Icona::Informazione);
-  if (r.Nome.starts_with(PrefissoNome)) ++NumeroProposto;
+  if (s.starts_with(PrefissoNome)) ++NumeroProposto;
 
-  NomeFileDisegno = "\\" + s.substr(0, kLunghezzaNomeDisegno) + ".dis";
+  NomeFileDisegno = DisegnoDellaSezione(s);
   GeneraDisegno(kAvvisiNessuno);
   NomeFileDisegno = kDisegnoTemporaneo;
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/errore.h"
+#include "model/geometria.h"
 #include "platform/desktop.h"
 #include "properties/caratteristiche.h"
 
@@ -11,7 +12,7 @@ namespace tarvel {
 
 Intero16 SezioneScelta;
 Intero16 NumeroScelte;
-Tabella<"SezioniScelte", Intero16, 1, kMaxSezioni> SezioniScelte;
+Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
 
 namespace {
 
@@ -72,8 +73,8 @@ void FormSez2::Command1_Click() {
 // entries are highlighted, and NumeroScelte is that of the last closing. Wanted so.
 void FormSez2::Command2_Click() {
   for (int i = 1; i <= NumeroScelte; ++i) {
-    Durante([&] { return "calcolo della sezione " + TabellaSezioni[i].Nome; },
-            [&] { CalcolaCaratteristiche(TabellaSezioni[i]); });
+    RecordSezione& r = TabellaSezioni[i];
+    Durante([&] { return SullaSezione("calcolo", r.Nome); }, [&] { CalcolaCaratteristiche(r); }, kNonCassone);
     SezioneCorrente = i;
     SezioneCalcolata = true;
     SezioneSalvata = false;

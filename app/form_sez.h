@@ -12,7 +12,7 @@ namespace tarvel {
 extern Intero16 SezioneScelta;
 /// How many entries were selected in FormSez2 when it was last closed by its button, and which.
 extern Intero16 NumeroScelte;
-extern Tabella<"SezioniScelte", Intero16, 1, kMaxSezioni> SezioniScelte;
+extern Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
 
 /// Picks one section, by button or double click.
 class FormSez : public Form {

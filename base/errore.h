@@ -24,27 +24,32 @@ class ErroreFatale : public std::exception {
   ErroreFatale(TipoErrore genere, Testo fatto, Testo luogo = {})
       : tipo(genere), cosa(std::move(fatto)), dove(std::move(luogo)) {}
 
-  /// "what happened (where)", 8-bit text.
-  Testo Messaggio() const { return dove.empty() ? cosa : cosa + " (" + dove + ")"; }
+  /// 8-bit text: "what happened (where)" of a file, "where: what happened. What to do" of a calculation,
+  /// whose place is the operation that it interrupted.
+  Testo Messaggio() const;
   const char* what() const noexcept override { return cosa.c_str(); }
+
+  /// Learns which operation was interrupted, and what its author can conclude from a fault of arithmetic.
+  void Interrompe(const Testo& operazione, const char* conclusione);
 
   TipoErrore tipo;
   Testo cosa;
   Testo dove;
+  Testo consiglio;
 };
 
 /// Runs `lavoro`; a fatal error that passes through learns which operation it interrupted.
-/// `operazione` is a text, or a callable that makes it only when it is needed.
+/// `operazione` is a text, or a callable that makes it only when it is needed; `conclusione` is a
+/// sentence for a fault of arithmetic.
 template <class Operazione, class Lavoro>
-decltype(auto) Durante(const Operazione& operazione, Lavoro&& lavoro) {
+decltype(auto) Durante(const Operazione& operazione, Lavoro&& lavoro, const char* conclusione = "") {
   try {
     return std::forward<Lavoro>(lavoro)();
   } catch (ErroreFatale& errore) {
-    if (!errore.dove.empty()) errore.dove += "; ";
     if constexpr (requires { operazione(); })
-      errore.dove += operazione();
+      errore.Interrompe(operazione(), conclusione);
     else
-      errore.dove += operazione;
+      errore.Interrompe(operazione, conclusione);
     throw;
   }
 }

@@ -13,7 +13,7 @@ class Intero16 {
  public:
   constexpr Intero16() = default;
   constexpr Intero16(long long valore) : valore_(static_cast<std::int16_t>(valore)) {
-    if (valore != valore_) ErroreOverflow("intero a 16 bit");
+    if (valore != valore_) ErroreOverflow();
   }
   constexpr operator int() const { return valore_; }
 
@@ -29,7 +29,7 @@ class Intero16 {
 inline Intero16 InteroPari(Reale x) {
   const double r = Arrotondato(x).Valore();
   if (r < std::numeric_limits<std::int16_t>::min() || r > std::numeric_limits<std::int16_t>::max())
-    ErroreOverflow("intero a 16 bit");
+    ErroreOverflow();
   return {static_cast<long long>(r)};
 }
 

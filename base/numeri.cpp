@@ -149,7 +149,8 @@ Reale InteroConBase(std::string_view cifre, int base) {
   return valore;
 }
 
-// The text in invariant form, or nothing where the thousands separators stand wrong.
+// The text in invariant form, or nothing where the thousands separators stand wrong: out of their
+// groups, or in front of an exponent, where they rather are somebody else's decimal point.
 std::optional<Testo> Invariante(std::string_view testo, char decimale, char migliaia) {
   const auto virgola = testo.find(decimale);
   const auto inizioEsponente = testo.find_first_of("eE");
@@ -172,7 +173,7 @@ std::optional<Testo> Invariante(std::string_view testo, char decimale, char migl
       if (i < fineIntera && Cifra(c)) ++inGruppo;
     }
   }
-  if (gruppi && inGruppo != 3) return std::nullopt;
+  if (gruppi && (inGruppo != 3 || inizioEsponente != std::string_view::npos)) return std::nullopt;
   return esito;
 }
 

@@ -35,8 +35,8 @@ std::optional<Reale> InizioNumerico(std::string_view testo);
 std::optional<Reale> NumeroInvariante(std::string_view testo);
 
 /// Strict conversion in the regional format. Blanks at both ends are dropped; thousands separators
-/// count only between proper groups of three. A text that is no number in that form is tried in
-/// the invariant one.
+/// count only between proper groups of three of a number without an exponent. A text that is no number in
+/// that form is tried in the invariant one.
 std::optional<Reale> NumeroRegionale(std::string_view testo, char decimale, char migliaia);
 
 }  // namespace tarvel

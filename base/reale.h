@@ -8,7 +8,7 @@
 
 namespace tarvel {
 
-[[noreturn]] void ErroreOverflow(const char* operazione);
+[[noreturn]] void ErroreOverflow();
 [[noreturn]] void ErroreNonValida(const char* operazione);
 [[noreturn]] void ErroreDivisione(bool zeroSuZero);
 
@@ -16,17 +16,17 @@ class Reale {
  public:
   constexpr Reale() = default;
   /// Implicit, so that constants stand in formulas as they are; a value that is not finite is fatal.
-  constexpr Reale(double valore) : valore_(Controlla(valore, "assegnazione")) {}
+  constexpr Reale(double valore) : valore_(Controlla(valore)) {}
 
   constexpr double Valore() const { return valore_; }
 
   friend constexpr Reale operator-(Reale a) { return Diretto(-a.valore_); }
-  friend constexpr Reale operator+(Reale a, Reale b) { return Esito(a.valore_ + b.valore_, "somma"); }
-  friend constexpr Reale operator-(Reale a, Reale b) { return Esito(a.valore_ - b.valore_, "differenza"); }
-  friend constexpr Reale operator*(Reale a, Reale b) { return Esito(a.valore_ * b.valore_, "prodotto"); }
+  friend constexpr Reale operator+(Reale a, Reale b) { return Esito(a.valore_ + b.valore_); }
+  friend constexpr Reale operator-(Reale a, Reale b) { return Esito(a.valore_ - b.valore_); }
+  friend constexpr Reale operator*(Reale a, Reale b) { return Esito(a.valore_ * b.valore_); }
   friend constexpr Reale operator/(Reale a, Reale b) {
     if (b.valore_ == 0) ErroreDivisione(a.valore_ == 0);
-    return Esito(a.valore_ / b.valore_, "quoziente");
+    return Esito(a.valore_ / b.valore_);
   }
   constexpr Reale& operator+=(Reale b) { return *this = *this + b; }
   constexpr Reale& operator-=(Reale b) { return *this = *this - b; }
@@ -39,7 +39,7 @@ class Reale {
     return Diretto(std::sqrt(x.valore_));
   }
   /// x to a positive exponent, by the general power operation on doubles.
-  friend Reale Potenza(Reale x, double esponente) { return Esito(std::pow(x.valore_, esponente), "potenza"); }
+  friend Reale Potenza(Reale x, double esponente) { return Esito(std::pow(x.valore_, esponente)); }
   friend Reale Logaritmo(Reale x) {
     if (x.valore_ <= 0) ErroreNonValida("logaritmo di un numero non positivo");
     return Diretto(std::log(x.valore_));
@@ -53,11 +53,11 @@ class Reale {
   friend Reale Arrotondato(Reale x) { return Diretto(std::nearbyint(x.valore_)); }
 
  private:
-  static constexpr double Controlla(double r, const char* operazione) {
+  static constexpr double Controlla(double r) {
     constexpr double limite = std::numeric_limits<double>::max();
     if (!(r >= -limite && r <= limite)) [[unlikely]] {
-      if (r != r) ErroreNonValida(operazione);
-      ErroreOverflow(operazione);
+      if (r != r) ErroreNonValida("operazione non valida");
+      ErroreOverflow();
     }
     return r;
   }
@@ -66,7 +66,7 @@ class Reale {
     esito.valore_ = r;
     return esito;
   }
-  static constexpr Reale Esito(double r, const char* operazione) { return Diretto(Controlla(r, operazione)); }
+  static constexpr Reale Esito(double r) { return Diretto(Controlla(r)); }
 
   double valore_ = 0;
 };

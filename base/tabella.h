@@ -1,5 +1,5 @@
 // Fixed tables with the index base of their subject. An index beyond the capacity is fatal,
-// never clamped, and the error names the table.
+// never clamped, and the error names the table as its users do.
 #pragma once
 
 #include <algorithm>
@@ -8,6 +8,7 @@
 
 namespace tarvel {
 
+/// `tabella`: whose elements it holds, "delle sezioni".
 [[noreturn]] void ErroreIndice(const char* tabella, long long indice, int primo, int ultimo);
 
 template <std::size_t N>
@@ -16,7 +17,7 @@ struct NomeTabella {
   char testo[N] = {};
 };
 
-/// Tabella<"punti", T, 1, 50>: elements 1 to 50.
+/// Tabella<"dei punti", T, 1, 50>: elements 1 to 50.
 template <NomeTabella Nome, class T, int Primo, int Ultimo>
 class Tabella {
  public:

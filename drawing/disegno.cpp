@@ -10,9 +10,9 @@ Intero16 ColoreCorrente, TipoLineaCorrente;
 tarvel::Testo FlagDisegno;
 Intero16 DecimaliQuote;
 
-Tabella<"FontPunti", Intero16, 0, 255> FontPunti;
-OrdinateFont<"FontX"> FontX;
-OrdinateFont<"FontY"> FontY;
+Tabella<"dei caratteri", Intero16, 0, 255> FontPunti;
+OrdinateFont<"dei caratteri"> FontX;
+OrdinateFont<"dei caratteri"> FontY;
 Intero16 SpaziaturaCaratteri;
 
 void SvuotaDisegno() {

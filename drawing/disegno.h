@@ -59,11 +59,11 @@ struct Elenco {
 };
 
 struct TabelleDisegno {
-  Elenco<"Coordinate", Coordinata, 50000> Coordinate;
-  Elenco<"Punti", ElementoPunto, 5000> Punti;
-  Elenco<"Linee", ElementoLinea, 50000> Linee;
-  Elenco<"Archi", ElementoArco, 15000> Archi;
-  Elenco<"Testi", ElementoTesto, 15000> Testi;
+  Elenco<"delle coordinate", Coordinata, 50000> Coordinate;
+  Elenco<"dei punti", ElementoPunto, 5000> Punti;
+  Elenco<"delle linee", ElementoLinea, 50000> Linee;
+  Elenco<"degli archi", ElementoArco, 15000> Archi;
+  Elenco<"dei testi", ElementoTesto, 15000> Testi;
 };
 
 extern TabelleDisegno Disegno;
@@ -91,11 +91,11 @@ extern Intero16 DecimaliQuote;
 // ordinate 30. Two consecutive points are one stroke. No font is supplied: all of it is 0.
 
 template <NomeTabella Nome>
-using OrdinateFont = Tabella<"carattere", Tabella<Nome, Intero16, 0, 100>, 0, 255>;
+using OrdinateFont = Tabella<"dei caratteri", Tabella<Nome, Intero16, 0, 100>, 0, 255>;
 
-extern Tabella<"FontPunti", Intero16, 0, 255> FontPunti;
-extern OrdinateFont<"FontX"> FontX;
-extern OrdinateFont<"FontY"> FontY;
+extern Tabella<"dei caratteri", Intero16, 0, 255> FontPunti;
+extern OrdinateFont<"dei caratteri"> FontX;
+extern OrdinateFont<"dei caratteri"> FontY;
 /// By which characters are narrowed, percent.
 extern Intero16 SpaziaturaCaratteri;
 

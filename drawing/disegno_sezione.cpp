@@ -18,8 +18,6 @@
 
 namespace tarvel {
 
-Testo NomeFileDisegno = kDisegnoTemporaneo;
-
 namespace {
 
 // Horizontal and vertical coordinate of vertex k of polygon p.
@@ -56,11 +54,17 @@ disegno::StileQuota StileDelleQuote(int lato, Reale distanzaTesto) {
 void DisegnaContorni(const GeometriaSezione& g) {
   for (const int p : {1, 2}) {
     const int n = g.NumVertici[p];
-    for (int k = 1; k <= n; ++k) {
-      const Punto da = g.Vertice(p, k);
-      const Punto a = g.Vertice(p, k < n ? k + 1 : 1);
+    const auto lato = [&](int k, int seguente) {
+      const Punto da = g.Vertice(p, k), a = g.Vertice(p, seguente);
       disegno::Linea(da.z, da.y, a.z, a.y);
-    }
+    };
+    const auto operazione = [&] {
+      return "poligono " + std::to_string(p) + " di " + std::to_string(n) + " vertici";
+    };
+    Durante(operazione, [&] {
+      for (int k = 1; k < n; ++k) lato(k, k + 1);
+      lato(n, 1);  // also of a polygon without vertices, which is fatal: wanted so
+    });
   }
 }
 
@@ -170,16 +174,16 @@ void DisegnaSezione(const RecordSezione& r) {
 
 void GeneraDisegno(ModoAvviso avvisi) {
   RecordSezione& r = TabellaSezioni[SezioneCorrente];
-  Durante([&] { return "disegno della sezione " + r.Nome; },
-          [&] {
-            disegno::SvuotaDisegno();
-            disegno::FlagDisegno = disegno::kGeneraDisegno;
-            if (!SezioneCalcolata) CostruisciGeometria(r, ParametriSezione);
-            DisegnaSezione(r);
-            disegno::FlagDisegno = "";
-            Intero16 tipoIntestazione = 0;
-            disegno::SalvaDisegno(DirLavori + NomeFileDisegno, tipoIntestazione, static_cast<int>(avvisi));
-          });
+  const auto genera = [&] {
+    disegno::SvuotaDisegno();
+    disegno::FlagDisegno = disegno::kGeneraDisegno;
+    if (!SezioneCalcolata) Durante("contorno", [&] { CostruisciGeometria(r, ParametriSezione); });
+    DisegnaSezione(r);
+    disegno::FlagDisegno = "";
+    Intero16 tipoIntestazione = 0;
+    disegno::SalvaDisegno(DirLavori + NomeFileDisegno, tipoIntestazione, static_cast<int>(avvisi));
+  };
+  Durante([&] { return SullaSezione("disegno", r.Nome); }, genera, kNonCassone);
 }
 
 }  // namespace tarvel

@@ -11,4 +11,8 @@ inline constexpr char kDisegnoTemporaneo[] = "\\SezTmpPO.dis";
 /// is being saved.
 extern Testo NomeFileDisegno;
 
+/// The name, in the same form, of a section's own drawing: the first 8 characters of its name, '_' for
+/// those that no file name holds, so that it stays inside DirLavori.
+Testo DisegnoDellaSezione(const Testo& nomeSezione);
+
 }  // namespace tarvel

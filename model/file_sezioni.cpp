@@ -198,7 +198,7 @@ void LeggiRecord(FileInLettura& file, RecordSezione& r) {
 
 void LeggiFileSezioni(bool mostraErrore) {
   auto file = FileInLettura::Apri(FileSezioni);
-  gIntoccabile = file || GenereFile(FileSezioni) == Voce::Assente ? Testo() : FileSezioni;
+  gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;
   if (!file) {
     if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
     return;
@@ -208,7 +208,7 @@ void LeggiFileSezioni(bool mostraErrore) {
     NumeroSezioni = NumeroSezioniFile;
     for (int i = 1; i <= NumeroSezioni; ++i) LeggiRecord(*file, TabellaSezioni[i]);
   } catch (ErroreFatale& errore) {
-    if (GenereFile(FileCopia()) == Voce::File) errore.dove += "; " + DoveLaCopia();
+    if (GenereFile(FileCopia()) == TipoVoce::File) errore.dove += "; " + DoveLaCopia();
     throw;
   }
 }
@@ -216,12 +216,12 @@ void LeggiFileSezioni(bool mostraErrore) {
 void ScriviFileSezioni() {
   Testo record;
   for (int i = 1; i <= NumeroSezioni; ++i)
-    Durante([&] { return "registrazione della sezione " + TabellaSezioni[i].Nome; },
+    Durante([&] { return SullaSezione("salvataggio", TabellaSezioni[i].Nome); },
             [&] { ScriviRecord(record, TabellaSezioni[i]); });
 
-  const Voce vecchio = FileSezioni == gIntoccabile ? Voce::Ignota : GenereFile(FileSezioni);
+  const TipoVoce vecchio = FileSezioni == gIntoccabile ? TipoVoce::Ignota : GenereFile(FileSezioni);
   const bool alSicuro =
-      vecchio == Voce::Assente || (vecchio == Voce::File && CopiaFile(FileSezioni, FileCopia()));
+      vecchio == TipoVoce::Assente || (vecchio == TipoVoce::File && CopiaFile(FileSezioni, FileCopia()));
   const auto esito = alSicuro ? ScriviFile(FileSezioni, ConConteggio(NumeroSezioni, record), true)
                               : EsitoScrittura::NonAperto;
   if (esito == EsitoScrittura::NonAperto)
@@ -229,7 +229,7 @@ void ScriviFileSezioni() {
   if (esito == EsitoScrittura::Incompleto)
     throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
                        "il file " + FileSezioni + " può essere incompleto"_t +
-                           (vecchio == Voce::File ? "; " + DoveLaCopia() : ""));
+                           (vecchio == TipoVoce::File ? "; " + DoveLaCopia() : ""));
 }
 
 Testo ComponiSezioniScrivibili() {

@@ -12,7 +12,7 @@ namespace tarvel {
 constexpr int kNumParametri = 21;
 
 /// Element i is box Text1(i): 0-8 heights, 9-15 bases, 16-20 slopes in percent.
-using VettoreParametri = Tabella<"ParametriSezione", Reale, 0, kNumParametri - 1>;
+using VettoreParametri = Tabella<"delle dimensioni", Reale, 0, kNumParametri - 1>;
 
 extern VettoreParametri ParametriSezione;
 

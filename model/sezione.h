@@ -27,9 +27,9 @@ struct Punto {
 /// polygon 2 the cell, clockwise: signed integrals over both give the net section.
 struct GeometriaSezione {
   Intero16 NumPoligoni;
-  Tabella<"NumVertici", Intero16, 1, kMaxPoligoni> NumVertici;
-  Griglia<"VerticeY", Reale, kMaxPoligoni, kMaxVertici> VerticeY;
-  Griglia<"VerticeZ", Reale, kMaxPoligoni, kMaxVertici> VerticeZ;
+  Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni> NumVertici;
+  Griglia<"dei vertici", Reale, kMaxPoligoni, kMaxVertici> VerticeY;
+  Griglia<"dei vertici", Reale, kMaxPoligoni, kMaxVertici> VerticeZ;
 
   Punto Vertice(int poligono, int v) const { return {VerticeZ(poligono, v), VerticeY(poligono, v)}; }
   void ImpostaVertice(int poligono, int v, Punto p) {
@@ -53,17 +53,17 @@ struct CaratteristicheSezione {
   Reale ValoreAggiuntivo;           // carried through the section file, computed by nothing
 
   Intero16 NumPunti;
-  Tabella<"PuntoZ", Reale, 1, kMaxPunti> PuntoZ;
-  Tabella<"PuntoY", Reale, 1, kMaxPunti> PuntoY;
-  Tabella<"EtichettaPunto", TestoEtichetta, 1, kMaxPunti> EtichettaPunto;
+  Tabella<"dei punti caratteristici", Reale, 1, kMaxPunti> PuntoZ;
+  Tabella<"dei punti caratteristici", Reale, 1, kMaxPunti> PuntoY;
+  Tabella<"dei punti caratteristici", TestoEtichetta, 1, kMaxPunti> EtichettaPunto;
   // Stress for a unit torque, a unit shear along y and along z, each with the code that the
   // program reading the section file expects beside it.
-  Tabella<"TauT", Reale, 1, kMaxPunti> TauT;
-  Tabella<"TauVy", Reale, 1, kMaxPunti> TauVy;
-  Tabella<"TauVz", Reale, 1, kMaxPunti> TauVz;
-  Tabella<"IndicatoreTauT", Intero16, 1, kMaxPunti> IndicatoreTauT;
-  Tabella<"IndicatoreTauVy", Intero16, 1, kMaxPunti> IndicatoreTauVy;
-  Tabella<"IndicatoreTauVz", Intero16, 1, kMaxPunti> IndicatoreTauVz;
+  Tabella<"dei punti caratteristici", Reale, 1, kMaxPunti> TauT;
+  Tabella<"dei punti caratteristici", Reale, 1, kMaxPunti> TauVy;
+  Tabella<"dei punti caratteristici", Reale, 1, kMaxPunti> TauVz;
+  Tabella<"dei punti caratteristici", Intero16, 1, kMaxPunti> IndicatoreTauT;
+  Tabella<"dei punti caratteristici", Intero16, 1, kMaxPunti> IndicatoreTauVy;
+  Tabella<"dei punti caratteristici", Intero16, 1, kMaxPunti> IndicatoreTauVz;
 
   Testo Sigla;
   Reale ValoreSigla;

@@ -3,18 +3,22 @@
 
 namespace tarvel {
 
-Tabella<"TabellaSezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
+Tabella<"delle sezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
 Intero16 NumeroSezioni;
 Intero16 NumeroSezioniFile;
 Intero16 SezioneCorrente = 1;
 bool SezioneCalcolata = false;
 bool SezioneSalvata = true;
-Tabella<"VerticiPoligono", Intero16, 1, kMaxPoligoni> VerticiPoligono;
+Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni> VerticiPoligono;
 
 Intero16 CercaSezione(std::string_view nome) {
   for (int i = 1; i <= NumeroSezioni; ++i)
     if (TabellaSezioni[i].Nome == nome) return i;
   return 0;
+}
+
+Testo SullaSezione(const char* operazione, const Testo& nome) {
+  return Testo(operazione) + " della sezione " + (nome.empty() ? "senza nome" : nome);
 }
 
 }  // namespace tarvel

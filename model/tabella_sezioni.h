@@ -10,7 +10,7 @@ namespace tarvel {
 constexpr int kMaxSezioni = 500;
 
 /// Slots above NumeroSezioni keep what they last held and are never read. No record is deleted.
-extern Tabella<"TabellaSezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
+extern Tabella<"delle sezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
 extern Intero16 NumeroSezioni;
 /// How many records the section file held when it was last read.
 extern Intero16 NumeroSezioniFile;
@@ -23,9 +23,12 @@ extern bool SezioneCalcolata;
 extern bool SezioneSalvata;
 
 /// Vertices of each polygon of an outline; the main form's load sets 13 and 11.
-extern Tabella<"VerticiPoligono", Intero16, 1, kMaxPoligoni> VerticiPoligono;
+extern Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni> VerticiPoligono;
 
 /// 1-based index of the first record with exactly this name, 0 when there is none.
 Intero16 CercaSezione(std::string_view nome);
+
+/// What is done to which section, for a message: "calcolo della sezione U_PO_001".
+Testo SullaSezione(const char* operazione, const Testo& nome);
 
 }  // namespace tarvel

@@ -19,6 +19,8 @@ constexpr int kCasella = 840;
 constexpr int kColonna = kEtichetta + kCasella + 2 * kMargine;
 constexpr int kBottone = 1200;
 
+constexpr std::size_t kTestoMostrato = 40;  // of one that is refused
+
 Rettangolo Posto(int i, int scarto, int larghezza, int altezza) {
   const int colonna = (i - 1) / kRighe;
   const int riga = (i - 1) % kRighe;
@@ -91,20 +93,21 @@ void FormOpt::AggiornaTextOpzioni() {
   for (int i = 1; i <= kNumOpzioni; ++i) AggiornaTextOpt(i);
 }
 
-// Cut to two decimals, with a blank in the sign's place. A double of 1E+15 and above has no
-// decimals to cut, and the largest ones would overflow on the way.
+// Cut to two decimals, with a blank in the sign's place.
 void FormOpt::AggiornaTextOpt(int i) {
-  const Reale valore = Assoluto(copia_[i]) < 1e15 ? Tronca(copia_[i], 2) : copia_[i];
+  const Reale valore = Tronca(copia_[i], 2);
   ImpostaTesto(TextOpt[static_cast<std::size_t>(i - 1)], (valore >= 0 ? " " : "") + FormatoNumero(valore));
 }
 
 void FormOpt::TextOpt_LostFocus(int i) {
   const Testo& testo = TextOpt[static_cast<std::size_t>(i - 1)].testo;
-  if (const auto valore = NumeroRegionale(testo, SeparatoreDecimale(), SeparatoreMigliaia())) {
+  const auto valore = NumeroRegionale(testo, SeparatoreDecimale(), SeparatoreMigliaia());
+  if (valore && Ammesso(i, *valore)) {
     copia_[i] = *valore;
     return;
   }
-  MostraMessaggio("Valore non valido: " + testo, "ATTENZIONE", Icona::Esclamazione);
+  MostraMessaggio("Valore non valido: \"" + testo.substr(0, kTestoMostrato) + "\". " + ValoriAmmessi(i),
+                  "ATTENZIONE", Icona::Esclamazione);
   AggiornaTextOpt(i);
 }
 

@@ -27,10 +27,15 @@ VettoreOpzioni Predefinite() {
   return predefinite;
 }
 
+const VoceOpzione& Voce(int i) {
+  return kVociOpzioni[static_cast<std::size_t>(i - 1)];
+}
+
 // The file is written with '.', whatever the region of who reads it.
-std::optional<Reale> Valore(const Testo& parola) {
-  if (const auto invariante = NumeroInvariante(parola)) return invariante;
-  return NumeroRegionale(parola, SeparatoreDecimale(), SeparatoreMigliaia());
+std::optional<Reale> Valore(int i, const Testo& parola) {
+  auto valore = NumeroInvariante(parola);
+  if (!valore) valore = NumeroRegionale(parola, SeparatoreDecimale(), SeparatoreMigliaia());
+  return valore && Ammesso(i, *valore) ? valore : std::nullopt;
 }
 
 }  // namespace
@@ -44,13 +49,14 @@ void LeggiOpzioni() {
     std::optional<Reale> valore;
     try {
       Testo riga(SenzaBlanchi(file->LeggiRiga()));
-      valore = Valore(PrimaParola(riga));
+      valore = Valore(i, PrimaParola(riga));
     } catch (const ErroreFatale&) {
       // A short file is reported as a spoiled line is.
     }
     if (!valore) {
-      MostraMessaggio("File " + FileOpzioni() + " non valido, riga " + std::to_string(i), "ERRORE",
-                      Icona::Esclamazione);
+      MostraMessaggio(
+          "File " + FileOpzioni() + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i),
+          "ERRORE", Icona::Esclamazione);
       return;
     }
     lette[i] = *valore;
@@ -66,6 +72,21 @@ void ScriviOpzioni() {
   // A disk that is full has the same answer as a file that cannot be created.
   if (ScriviFile(FileOpzioni(), testo) != EsitoScrittura::Scritto)
     MostraMessaggio("Problemi con la scrittura del file " + FileOpzioni(), "ERRORE", Icona::Esclamazione);
+}
+
+bool Ammesso(int i, Reale valore) {
+  const GenereOpzione& genere = Voce(i).genere;
+  double v = valore.Valore();
+  if (genere.volte != 0) v = std::nearbyint(v * genere.volte) / genere.volte;
+  return v >= genere.minimo && v <= genere.massimo;
+}
+
+Testo ValoriAmmessi(int i) {
+  const VoceOpzione& voce = Voce(i);
+  Testo testo = Testo(voce.etichettaForm) + ": " + voce.genere.cosa + " da ";
+  AccodaNumero(testo, voce.genere.minimo, SeparatoreDecimale());
+  AccodaNumero(testo += " a ", voce.genere.massimo, SeparatoreDecimale());
+  return testo;
 }
 
 Testo PrimaParola(Testo& riga) {

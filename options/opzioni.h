@@ -10,7 +10,7 @@
 namespace tarvel {
 
 constexpr int kNumOpzioni = 15;
-using VettoreOpzioni = Tabella<"Opzioni", Reale, 1, kNumOpzioni>;
+using VettoreOpzioni = Tabella<"delle opzioni", Reale, 1, kNumOpzioni>;
 
 /// Read at start, changed afterwards only by the options form.
 extern VettoreOpzioni Opzioni;
@@ -34,38 +34,58 @@ enum Opzione {
   kAltezzaTesti,
 };
 
+/// What an option may be. The drawing keeps it as a whole number so many times as large, 16 bits
+/// wide; 0 times: as it is.
+struct GenereOpzione {
+  const char* cosa;
+  double minimo, massimo;
+  int volte;
+};
+
+inline constexpr GenereOpzione kCodice = {"un numero intero", -32768, 32767, 1};
+inline constexpr GenereOpzione kCarattere = {"un numero", -3276.8, 3276.7, 10};
+/// Far beyond any drawing, far from where its squares overflow.
+inline constexpr GenereOpzione kMisura = {"un numero", -1e15, 1e15, 0};
+
 struct VoceOpzione {
   const char* etichettaFile;
   const char* etichettaForm;
   double predefinito;
+  GenereOpzione genere;
 };
 
 /// One entry an option, in order. 14 and 15 have the file labels of 9 and 10: only their place tells
 /// them apart.
 inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
-    {"colore sezione", "Colore sezione", 3},
-    {"tipo linea sezione", "Tipo linea sezione", 0},
-    {"scala quote", "Scala quote", 1},
-    {"distanza massima quote disegno", "Distanza massima quote-disegno", 130},
-    {"lunghezza linee di estensione delle quote", "Lunghezza linee di estensione delle quote", 4},
-    {"colore quota", "Colore linea di quota", 1},
-    {"colore testo quota", "Colore testo della quota", 5},
-    {"dimensione pallino", "Dimensione pallino della quota", 5},
-    {"base testo", "Base testo quota", 10},
-    {"altezza testo", "Altezza testo quota", 15},
-    {"distanza testo quota", "Distanza testo- quota", 8},
-    {"quote sup o inf", "Quote sup. / inf.", 1},
-    {"colore testo", "Colore testi", 7},
-    {"base testo", "Base testi", 20},
-    {"altezza testo", "Altezza testi", 20},
+    {"colore sezione", "Colore sezione", 3, kCodice},
+    {"tipo linea sezione", "Tipo linea sezione", 0, kCodice},
+    {"scala quote", "Scala quote", 1, kMisura},
+    {"distanza massima quote disegno", "Distanza massima quote-disegno", 130, kMisura},
+    {"lunghezza linee di estensione delle quote", "Lunghezza linee di estensione delle quote", 4, kMisura},
+    {"colore quota", "Colore linea di quota", 1, kCodice},
+    {"colore testo quota", "Colore testo della quota", 5, kCodice},
+    {"dimensione pallino", "Dimensione pallino della quota", 5, kMisura},
+    {"base testo", "Base testo quota", 10, kCarattere},
+    {"altezza testo", "Altezza testo quota", 15, kCarattere},
+    {"distanza testo quota", "Distanza testo- quota", 8, kMisura},
+    {"quote sup o inf", "Quote sup. / inf.", 1, kMisura},
+    {"colore testo", "Colore testi", 7, kCodice},
+    {"base testo", "Base testi", 20, kCarattere},
+    {"altezza testo", "Altezza testi", 20, kCarattere},
 }};
 
 /// The options of "CapOpSez.txt" in DirCustom; the built-in defaults when it cannot be opened
-/// (silently) or is short or spoiled (with a message that names the line).
+/// (silently) or is short or spoiled (with a message that names the line, the option and what it may be).
 void LeggiOpzioni();
 
 /// Writes Opzioni to the file; a message when that fails, Opzioni are as they were.
 void ScriviOpzioni();
+
+/// Whether a drawing can hold this value of option i.
+bool Ammesso(int i, Reale valore);
+
+/// Option i and what it may be, for the user: "Scala quote: un numero da … a …".
+Testo ValoriAmmessi(int i);
 
 /// The first word of a line; the line keeps the rest, from the separator (blank or tab) on.
 Testo PrimaParola(Testo& riga);

@@ -97,6 +97,6 @@ enum class EsitoScrittura {
 [[nodiscard]] bool CopiaFile(const Testo& da, const Testo& a);
 
 /// What stands at a path of the program.
-[[nodiscard]] Voce GenereFile(const Testo& percorso);
+[[nodiscard]] TipoVoce GenereFile(const Testo& percorso);
 
 }  // namespace tarvel

@@ -14,12 +14,12 @@ namespace tarvel {
 
 /// What stands under a name, links followed. Ignota: the host does not tell (a folder that cannot be
 /// entered, say), which is never taken for Assente.
-enum class Voce { Assente, File, Cartella, Altro, Ignota };
+enum class TipoVoce { Assente, File, Cartella, Altro, Ignota };
 
 struct Ospite {
   using Maniglia = std::intptr_t;
 
-  Voce (*Genere)(const std::string& percorso);
+  TipoVoce (*Genere)(const std::string& percorso);
   /// Names of a folder's entries; nothing when they cannot be had, all of them.
   std::optional<std::vector<std::string>> (*Elenco)(const std::string& cartella);
 

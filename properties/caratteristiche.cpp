@@ -105,7 +105,7 @@ void CalcolaCaratteristiche(RecordSezione& sezione) {
   });
 
   Reale qT;
-  Durante("torsione", [&] {
+  Durante("costante di torsione", [&] {
     Reale omega;
     CalcolaTorsione(sezione, omega, sezione.Jt);
     qT = Reale(1) / 2 / omega;
@@ -135,7 +135,7 @@ void CalcolaCaratteristiche(RecordSezione& sezione) {
     }
   });
 
-  Durante("punti caratteristici",
+  Durante("tensioni nei punti caratteristici",
           [&] { CalcolaTauPunti(sezione, SezioneBaricentrica, ParteSuperiore, ParteInferiore, qT); });
 
   sezione.Sigla = "A";

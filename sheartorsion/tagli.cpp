@@ -160,7 +160,7 @@ MomentiStatici TaglioVz(const RecordSezione& copia, int punto) {
 }
 
 MomentiStatici TaglioAsse(const RecordSezione& s, const AsseBaricentrico& asse) {
-  Tabella<"parte tagliata al punto 14", Punto, 1, kMaxAngoli> vertici;
+  Tabella<"della parte tagliata", Punto, 1, kMaxAngoli> vertici;
   int n = 0;
   vertici[++n] = s.P(14);
   for (int v = asse.LatoEsterno + 1; v <= 5; ++v) vertici[++n] = s.O(v);

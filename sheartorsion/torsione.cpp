@@ -9,7 +9,7 @@ namespace tarvel {
 namespace {
 
 constexpr int kPuntiMediana = 13;
-using LineaMediana = Tabella<"linea mediana", Punto, 1, kPuntiMediana>;
+using LineaMediana = Tabella<"della linea mediana", Punto, 1, kPuntiMediana>;
 
 LineaMediana Mediana(const GeometriaSezione& g) {
   const auto O = [&](int v) { return g.O(v); };

@@ -49,9 +49,9 @@ enum class Esito { Trovato, Assente, Ignoto };
 Esito Accoda(fs::path& percorso, const Componenti& parti, std::size_t i) {
   const Ospite& ospite = OspiteDeiFile();
   for (const std::string& grafia : GrafieDi(parti, i)) {
-    const Voce voce = ospite.Genere((percorso / grafia).string());
-    if (voce == Voce::Ignota) return Esito::Ignoto;
-    if (voce == Voce::Assente) continue;
+    const TipoVoce voce = ospite.Genere((percorso / grafia).string());
+    if (voce == TipoVoce::Ignota) return Esito::Ignoto;
+    if (voce == TipoVoce::Assente) continue;
     percorso /= grafia;
     return Esito::Trovato;
   }

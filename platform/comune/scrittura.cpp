@@ -62,9 +62,9 @@ bool CopiaFile(const Testo& da, const Testo& a) {
   });
 }
 
-Voce GenereFile(const Testo& percorso) {
+TipoVoce GenereFile(const Testo& percorso) {
   const auto host = PercorsoHost(percorso);
-  return host ? OspiteDeiFile().Genere(*host) : Voce::Ignota;
+  return host ? OspiteDeiFile().Genere(*host) : TipoVoce::Ignota;
 }
 
 }  // namespace tarvel

@@ -11,11 +11,10 @@ namespace {
 
 std::function<Testo()> gSalva;
 
-// What was saved, as a further sentence of the message.
+// What was saved, in a sentence.
 Testo PrimaDelMessaggio() {
   try {
-    const Testo salvato = gSalva ? gSalva() : Testo();
-    return salvato.empty() ? salvato : ". " + salvato;
+    return gSalva ? gSalva() : Testo();
   } catch (const ErroreFatale&) {
   } catch (const std::bad_alloc&) {
   }
@@ -42,7 +41,8 @@ void Smista(const std::function<void()>& gestore) {
   } catch (const std::bad_alloc&) {
     testo = "Errore irreversibile: memoria esaurita";
   }
-  testo += PrimaDelMessaggio();
+  if (const Testo salvato = PrimaDelMessaggio(); !salvato.empty())
+    testo += (testo.ends_with('.') ? " " : ". ") + salvato;
   MostraMessaggio(testo, kTitoloProgramma, Icona::Stop);
   TerminaProgramma(1);
 }

@@ -32,7 +32,7 @@ using namespace headless;
 
 std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t stile) {
   const std::string riga = "start " + TraVirgolette(percorso) + ' ' + std::to_string(stile) + " -> ";
-  if (GenereFile(percorso) != Voce::File) {
+  if (GenereFile(percorso) != TipoVoce::File) {
     Annota(riga + "failed");
     return std::nullopt;
   }

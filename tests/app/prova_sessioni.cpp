@@ -4,13 +4,15 @@
 // Comment lines of a script that begin with "#:" prepare the installation:
 //   #: scrivi PATH TEXT     a file (\n: CR LF, \t)      #: togli PATH        removes a file or folder
 //   #: cartella PATH        a folder                #: argomento TEXT    in place of |diroot={radice}|
-//   #: opzioni ARGS         of the program          #: mostra PATH       adds a file to the transcript
+//   #: opzioni ARGS         of the program
+//   #: mostra PATH          adds a file to the transcript, of a folder the names
 // A line "#=== NAME" begins another session of the same file, on a fresh installation.
 // {radice} stands for the installation's folder, also in the transcripts. With TARVEL_ACCETTA=1 in
 // the environment what was played becomes what is expected.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <set>
 
 #include "aiuti.h"
 
@@ -89,6 +91,13 @@ struct Sessione {
         Contenuto(uscita) + Contenuto(errori) + "stato " + std::to_string(WEXITSTATUS(stato)) + "\n";
     for (const std::string& nome : mostrati) {
       testo += "--- " + nome + (fs::exists(cartella / nome) ? "\n" : " manca\n");
+      if (fs::is_directory(cartella / nome)) {
+        std::set<std::string> voci;
+        for (const auto& voce : fs::directory_iterator(cartella / nome))
+          voci.insert(voce.path().filename().string());
+        for (const std::string& voce : voci) testo += voce + "\n";
+        continue;
+      }
       testo += Sostituisci(Contenuto(cartella / nome), "\r\n", "\n");
     }
     return Sostituisci(Sostituisci(testo, radice, "{radice}"), Minuscolo(radice), "{radice}");

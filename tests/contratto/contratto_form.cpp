@@ -122,7 +122,7 @@ TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
 // Whatever is open, the end is at once: no unload hook, no code after it, no further step.
 TEST(ContrattoForm, TheProgramEndsAtOnceWhereverItIs) {
   const std::string messaggio = std::string("; messaggio stop ok \"") + kTitoloProgramma +
-                                "\" \"Errore irreversibile: indice 501 (tabella T)\" -> ok";
+                                "\" \"Errore irreversibile: numero (riga 1)\" -> ok";
   enum Luogo { kCaricamento, kClick, kScatto, kScarico };
   const std::pair<Luogo, std::string> luoghi[] = {
       {kCaricamento, "load F"},
@@ -133,7 +133,7 @@ TEST(ContrattoForm, TheProgramEndsAtOnceWhereverItIs) {
   for (const bool fatale : {false, true})
     for (const auto& [luogo, prime] : luoghi) {
       const auto fine = [&] {
-        if (fatale) throw ErroreFatale(TipoErrore::Indice, "indice 501", "tabella T");
+        if (fatale) throw ErroreFatale(TipoErrore::Formato, "numero", "riga 1");
         TerminaProgramma(5);
       };
       const Esito esito = Prova([&, dove = luogo](Utente& u) {

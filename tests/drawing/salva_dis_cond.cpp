@@ -2,6 +2,7 @@
 #include "drawing/salva_dis_cond.h"
 
 #include "drawing/funz_disegno.h"
+#include "drawing/nome_file.h"
 #include "tests/drawing/attrezzi.h"
 
 namespace tarvel::disegno {
@@ -75,6 +76,19 @@ TEST_F(FileDisegno, Avvisi) {
     EXPECT_EQ(Mostrato([&] { SalvaDisegno(nome, tipo, modo); }), messaggio) << nome << ' ' << modo;
     EXPECT_EQ(tipo, scritto) << nome << ' ' << modo;
   }
+}
+
+TEST(NomeDisegno, UnNomeDiFileDentroLaCartella) {
+  using std::string_literals::operator""s;
+  for (const auto& [nome, file] : {std::pair{"U_PO_001"s, "U_PO_001"s},
+                                   {"SEZIONE_LUNGA", "SEZIONE_"},
+                                   {"A/B:..\\C", "A_B_.._C"},
+                                   {"..\\..\\..\\x", ".._.._.."},
+                                   {"*?\"<>|\x7F\t", "________"},
+                                   {"a\0b\x1F\x80 \xE8."s, "a_b_\x80 \xE8."},
+                                   {"..", ".."},
+                                   {"", ""}})
+    EXPECT_EQ(DisegnoDellaSezione(nome), "\\" + file + ".dis");
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ bool Fallisce() {
 
 using tarvel::kOspiteSistema;
 using tarvel::Ospite;
-using tarvel::Voce;
+using tarvel::TipoVoce;
 using Maniglia = Ospite::Maniglia;
 
 template <auto Chiamata, class... Argomenti>
@@ -39,7 +39,7 @@ auto ONiente(Argomenti... argomenti) -> decltype((kOspiteSistema.*Chiamata)(argo
 }
 
 constexpr Ospite kGuasto = {
-    .Genere = [](const std::string& p) { return Fallisce() ? Voce::Ignota : kOspiteSistema.Genere(p); },
+    .Genere = [](const std::string& p) { return Fallisce() ? TipoVoce::Ignota : kOspiteSistema.Genere(p); },
     .Elenco = ONiente<&Ospite::Elenco, const std::string&>,
     .ApriLettura = ONiente<&Ospite::ApriLettura, const std::string&>,
     .ApriScrittura = ONiente<&Ospite::ApriScrittura, const std::string&>,

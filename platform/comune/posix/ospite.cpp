@@ -29,11 +29,11 @@ std::optional<Ospite::Maniglia> Apri(const std::string& percorso, int modo, bool
   return std::nullopt;
 }
 
-Voce Genere(const std::string& percorso) {
+TipoVoce Genere(const std::string& percorso) {
   struct stat stato {};
   if (::stat(percorso.c_str(), &stato) != 0)
-    return errno == ENOENT || errno == ENOTDIR ? Voce::Assente : Voce::Ignota;
-  return S_ISREG(stato.st_mode) ? Voce::File : S_ISDIR(stato.st_mode) ? Voce::Cartella : Voce::Altro;
+    return errno == ENOENT || errno == ENOTDIR ? TipoVoce::Assente : TipoVoce::Ignota;
+  return S_ISREG(stato.st_mode) ? TipoVoce::File : S_ISDIR(stato.st_mode) ? TipoVoce::Cartella : TipoVoce::Altro;
 }
 
 std::optional<std::vector<std::string>> Elenco(const std::string& cartella) {
