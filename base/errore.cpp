@@ -20,15 +20,15 @@ bool DiCalcolo(TipoErrore tipo) {
 
 Testo ErroreFatale::Messaggio() const {
   if (!DiCalcolo(tipo)) return dove.empty() ? cosa : cosa + " (" + dove + ")";
-  return (dove.empty() ? "" : dove + ": ") + cosa + (consiglio.empty() ? "" : ". " + consiglio);
+  return (dove.empty() ? "" : dove + ": ") + cosa + (conclusione.empty() ? "" : ". " + conclusione);
 }
 
-void ErroreFatale::Interrompe(const Testo& operazione, const char* conclusione) {
+void ErroreFatale::Interrompe(const Testo& operazione, const char* significato) {
   if (DiCalcolo(tipo))
     dove = dove.empty() ? operazione : operazione + ", " + dove;
   else
     dove = dove.empty() ? operazione : dove + "; " + operazione;
-  if (DiAritmetica(tipo) && consiglio.empty()) consiglio = conclusione;
+  if (DiAritmetica(tipo) && conclusione.empty()) conclusione = significato;
 }
 
 void ErroreOverflow() {

@@ -24,18 +24,18 @@ class ErroreFatale : public std::exception {
   ErroreFatale(TipoErrore genere, Testo fatto, Testo luogo = {})
       : tipo(genere), cosa(std::move(fatto)), dove(std::move(luogo)) {}
 
-  /// 8-bit text: "what happened (where)" of a file, "where: what happened. What to do" of a calculation,
-  /// whose place is the operation that it interrupted.
+  /// 8-bit text: "what happened (where)" of a file, "where: what happened. Conclusion" of a
+  /// calculation, whose place is the operation that it interrupted.
   Testo Messaggio() const;
   const char* what() const noexcept override { return cosa.c_str(); }
 
-  /// Learns which operation was interrupted, and what its author can conclude from a fault of arithmetic.
-  void Interrompe(const Testo& operazione, const char* conclusione);
+  /// Learns which operation it interrupted, and what a fault of arithmetic in there means to the user.
+  void Interrompe(const Testo& operazione, const char* significato);
 
   TipoErrore tipo;
   Testo cosa;
   Testo dove;
-  Testo consiglio;
+  Testo conclusione;
 };
 
 /// Runs `lavoro`; a fatal error that passes through learns which operation it interrupted.

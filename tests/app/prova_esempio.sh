@@ -14,7 +14,6 @@ mkdir -p "$dove/${mie%/*}"
 echo mie >"$dove/$mie"
 for volta in prima seconda; do # the second on what the first has left
   "$avvia" "$1" "$dove" >"$base/uscita" || { cat "$base/uscita"; echo "non riuscita la $volta volta"; exit 1; }
-  if grep -q 'ERRORE\|Sostituirla' "$base/uscita"; then cat "$base/uscita"; exit 1; fi
 done
 for file in sezio_ut U_PO_001.dis SezTmpPO.dis; do
   [ -s "$dove/dimostrazione/Lavori/PR0001/$file" ] || { echo "manca $file"; exit 1; }
