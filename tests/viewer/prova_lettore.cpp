@@ -51,7 +51,7 @@ TEST(Lettore, FiniDiRigaELineeSenzaInizio) {
   for (const std::string& byte : {soloLf, uno.substr(0, uno.size() - 3), uno + "\r\n \r\n", senzaInizio}) {
     const Disegno d = prove::Letto(byte);
     EXPECT_EQ(d.linee.size(), byte == senzaInizio ? 1u : 2u) << byte;
-    EXPECT_EQ(d.lineeSaltate, byte == senzaInizio ? 1 : 0) << byte;
+    EXPECT_EQ(d.saltati, byte == senzaInizio ? 1 : 0) << byte;
   }
 }
 
