@@ -2,6 +2,7 @@
 #include "viewer/esporta.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -13,6 +14,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #include "viewer/dxf.h"
 #include "viewer/misure.h"
@@ -123,10 +126,7 @@ constexpr std::array<Genere, 4> kGeneri = {{
 QString MotivoHost(int errore) {
   switch (errore) {
     case ENOENT:
-    case ENOTDIR:
-      return "la cartella non esiste";
-    case EISDIR:
-      return "è una cartella";
+      return "la cartella non accetta file nuovi";
     case EACCES:
     case EPERM:
       return "manca il permesso di scrivere nella cartella o sul file";
@@ -145,7 +145,8 @@ QString MotivoHost(int errore) {
   }
 }
 
-// A device is written to as it is; a file is replaced only once its successor is whole.
+// A device is written to as it is, a pipe might never be read; a file is replaced only once its successor is
+// whole.
 template <class File>
 Motivo ScriviSu(File&& file, const QByteArray& byte) {
   errno = 0;
@@ -158,9 +159,19 @@ Motivo ScriviSu(File&& file, const QByteArray& byte) {
 
 Motivo ScriviFile(const QString& percorso, const QByteArray& byte) {
   const QFileInfo destinazione(percorso);
-  if (destinazione.isDir()) return MotivoHost(EISDIR);
-  if (!destinazione.exists() || destinazione.isFile()) return ScriviSu(QSaveFile(percorso), byte);
-  return ScriviSu(QFile(percorso), byte);
+  if (destinazione.isDir()) return "è una cartella";
+  if (!destinazione.dir().exists()) return "la cartella non esiste";
+  std::error_code errore;
+  switch (std::filesystem::status(destinazione.filesystemFilePath(), errore).type()) {
+    case std::filesystem::file_type::character:
+      return ScriviSu(QFile(percorso), byte);
+    case std::filesystem::file_type::fifo:
+    case std::filesystem::file_type::socket:
+    case std::filesystem::file_type::block:
+      return "non è un file";
+    default:
+      return ScriviSu(QSaveFile(percorso), byte);
+  }
 }
 
 }  // namespace
