@@ -55,6 +55,13 @@ TEST(Lettore, FiniDiRigaELineeSenzaInizio) {
   }
 }
 
+TEST(Lettore, RigheFinoAUnMegabyte) {
+  for (const std::size_t lunga : {1u << 20, (1u << 20) + 1}) {
+    const auto letto = LeggiDis(prove::ConRiga(prove::kUnoPerGenere, 18, std::string(lunga, 'x')));
+    EXPECT_EQ(std::holds_alternative<Disegno>(letto), lunga == 1u << 20);
+  }
+}
+
 TEST(Lettore, TroncatoOvunque) {
   // All but the blank and the line end that close it.
   for (std::size_t n = 0; n + 3 < prove::kEsempio.size(); ++n) {
