@@ -35,7 +35,7 @@ problemi "$(printf 'x%.0s' {1..300}).pdf" 'il nome è troppo lungo'
 problemi s.svg 'non c'\''è niente da disegnare' vuoto.dis
 [ -w chiusa ] || problemi chiusa/s.svg 'manca il permesso di scrivere'
 echo prima >s.png
-(trap '' XFSZ && ulimit -f 1 && problemi s.png 'il file supera la grandezza consentita')
+(ulimit -f 1 && problemi s.png 'il file supera la grandezza consentita')
 [ -c pieno.png ] && [ -p tubo.svg ] && [ "$(cat s.png)" = prima ]
 [ "$(ls)" = $'cartella.svg\nchiusa\npieno.png\ns.dis\ns.dxf\ns.png\ntubo.svg\nvuoto.dis' ]
 for uscita in s.bmp senza "$cartella/.dxf/"; do prova 1 "File $uscita: si esporta in" --esporta "$uscita" s.dis; done
