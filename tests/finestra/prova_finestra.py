@@ -35,11 +35,13 @@ FORME = {
 }
 
 # The user's own settings stay out. Without a binding for clicks into windows the manager holds none
-# back, so that keys cannot overtake them.
+# back, so that keys cannot overtake them; with one a click makes its window the active one first.
 GESTORE = """<openbox_config xmlns="http://openbox.org/3.4/rc">
 <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
 <mouse><context name="Close"><mousebind button="Left" action="Click"><action name="Close"/></mousebind>
-</context></mouse></openbox_config>"""
+</context>%s</mouse></openbox_config>"""
+COL_CLICK = """<context name="Client"><mousebind button="Left" action="Press"><action name="Focus"/>
+<action name="Raise"/></mousebind></context>"""
 
 
 def attendi(condizione, guasto):
@@ -70,7 +72,7 @@ def finisce(figlio, atteso):
 class Schermo(contextlib.ExitStack):
     """A virtual screen with a window manager, and the user's hands and eyes at it."""
 
-    def __init__(self, misure, cartella):
+    def __init__(self, misure, cartella, gestore=""):
         super().__init__()
         legge, scrive = os.pipe()
         # -noreset: a server that starts anew when its last client leaves would refuse the next one.
@@ -82,7 +84,7 @@ class Schermo(contextlib.ExitStack):
         assert numero, "Xvfb does not start"
         self.ambiente = os.environ | {"DISPLAY": ":" + numero, "QT_QPA_PLATFORM": "xcb"}
         regole = cartella / "openbox.xml"
-        regole.write_text(GESTORE)
+        regole.write_text(GESTORE % gestore)
         self.enter_context(programma("openbox", "--sm-disable", "--config-file", regole, env=self.ambiente))
         attendi(lambda: self.finestre("_NET_SUPPORTING_WM_CHECK"), "openbox does not start")
 
@@ -130,9 +132,9 @@ class Schermo(contextlib.ExitStack):
         self.mano("set_num_desktops", scrivanie)
         attendi(lambda: int(self.chiedi("xdotool", "get_num_desktops")) == scrivanie, "openbox hangs")
 
-    def clicca(self, form, controllo, volte=1):
+    def clicca(self, form, controllo, volte=1, sfondo=False):
         larghezza_form, controlli = FORME[form]
-        sinistra, alto, larghezza, *_ = self.posto(self.davanti(form))
+        sinistra, alto, larghezza, *_ = self.posto((self.trova if sfondo else self.davanti)(form))
         x, y = (int(twip * larghezza / larghezza_form) for twip in controlli[controllo])
         self.mano("mousemove", sinistra + x, alto + y, *["click", 1] * volte)
 
@@ -188,11 +190,20 @@ class Seduta:
                 attendi(lambda: self.diario().split() == atteso, f"the viewer's log: {self.diario()}")
             case ["show"]:
                 self.schermo.chiedi("cp", "/dev/null", self.radice / "progra/mostra")
+            case ["minimize" | "restore" as verbo, nome]:
+                azione = {"minimize": "windowminimize", "restore": "windowactivate"}[verbo]
+                self.schermo.mano(azione, self.schermo.trova(nome))
+            case ["across", nome, controllo]:
+                self.schermo.clicca(nome, controllo, sfondo=True)
             case ["close", nome]:
                 self.schermo.chiudi(nome)
             case ["message", titolo, *risposta]:
                 riquadro = self.schermo.davanti(titolo)
-                self.schermo.mano("key", {"si": "alt+s", "no": "Escape"}.get("".join(risposta), "Return"))
+                if risposta:  # nothing else answers a question
+                    self.schermo.mano("key", "Escape", "alt+F4")
+                    self.schermo.chiudi(titolo)
+                    self.schermo.davanti(titolo)
+                self.schermo.mano("key", {"si": "alt+s", "no": "n"}.get("".join(risposta), "Return"))
                 attendi(lambda: riquadro not in self.schermo.finestre(), "it stays")
             case ["end", stato]:
                 finisce(self.figlio, int(stato))
@@ -241,7 +252,7 @@ def confronta(radice, programmi, decimale):
 
 
 # The session's groups: screen, locale, its decimal separator.
-SESSIONI = {"sessione-piccola": ("1024x600", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
+SESSIONI = {"sessione-piccola": ("640x480", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
             "sessione-grande": ("1920x1080", "de_DE.UTF-8", ",")}
 RIGHE_SESSIONE = [*SESSIONE.read_text().splitlines(), "end 0", "log avviato normale Alt+f Alt+g chiusura"]
 INSERVIBILE = ["click Command4", "message ERRORE", "click Command5", "end 0"]
@@ -256,12 +267,24 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
     # It outlives the program.
     "visore-sordo": ("sordo", ["click Command4", "form ostrel", "activate tarvel1", "click Command5", "end 0",
                                "log avviato sordo chiusura", "form ostrel"]),
+    # Keys are for its main window or for none.
+    "visore-dialogo": ("dialogo", ["click Command4", "activate dialogo", "activate tarvel1", "click Command4",
+                                   "form dialogo", "activate tarvel1", "click Command5", "end 0",
+                                   "log avviato dialogo"]),
     "visore-non-programma": (0o700, INSERVIBILE),
     "visore-non-eseguibile": (0o400, INSERVIBILE),
     "chiusura": ("normale", ["type Text1(15) 7", "click Command1", "form ATTENZIONE", "close tarvel1",
                              "message ATTENZIONE", "form FormSez", "close tarvel1", "click Command1",
                              "form tarvel1", "close tarvel1", "message INFORMAZIONE no", "end 0",
                              "absent lavori/PR0042/sezio_ut", "absent custom/CapSezDe.txt"]),
+    "ridotte": ("normale", ["click Command6", "form FormOpt", "minimize FormOpt", "form tarvel1",
+                            "click Command6", "form FormOpt", "activate tarvel1", "click Command7",
+                            "form FormSez2", "minimize FormSez2", "form FormOpt", "restore tarvel1",
+                            "form FormSez2", "click Command1", "form tarvel1", "click Command5", "end 0"]),
+    # The box left has something to say first.
+    "altra-form": ("normale", ["click Command6", "form FormOpt", "click TextOpt(1)", "type TextOpt(2) x",
+                               "across tarvel1 Command7", "message ATTENZIONE", "form FormSez2",
+                               "click Command1", "form tarvel1", "click Command5", "end 0"]),
     "argomento": ("normale", ["message ERRORE", "end 1"]),
 }
 
@@ -274,12 +297,25 @@ def congeda(cartella):
                 os.kill(int(processo.name), signal.SIGKILL)
 
 
+def senza_schermo(programmi):
+    presente = {nome: valore for nome, valore in os.environ.items() if nome not in (
+        "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+    for altro in ({}, {"DISPLAY": ":9999"}, {"WAYLAND_DISPLAY": "nessuno"}):
+        for nome in ("tarvel1", "ostrel"):
+            fine = subprocess.run([programmi / nome], env=presente | altro, timeout=PAZIENZA, text=True,
+                                  stderr=subprocess.PIPE)
+            assert fine.returncode == 1 and fine.stderr.count("\n") == 1 and "DISPLAY" in fine.stderr, (
+                nome, altro, fine)
+
+
 def prova(gruppo, programmi, cartella):
+    if gruppo == "senza-schermo":
+        return senza_schermo(programmi)
     visore, righe = GRUPPI[gruppo]
     misure, regione, decimale = SESSIONI.get(gruppo, ("1024x600", "C", "."))
     radice = cartella / "impianto"
     argomento = installa(radice, programmi, visore)
-    with (Schermo(misure, cartella) as schermo,
+    with (Schermo(misure, cartella, COL_CLICK if gruppo == "altra-form" else "") as schermo,
           programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
                     env=schermo.ambiente | {"LC_ALL": regione}) as figlio):
         try:
@@ -298,7 +334,7 @@ def main():
             print(f"{comando} is missing: left out")
             return 77
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    programmi, gruppi, falliti = Path(sys.argv[1]).resolve(), sys.argv[2:] or [*GRUPPI], 0
+    programmi, gruppi, falliti = Path(sys.argv[1]).resolve(), sys.argv[2:] or [*GRUPPI, "senza-schermo"], 0
     for gruppo in gruppi:
         esito, inizio = "ok", time.monotonic()
         with tempfile.TemporaryDirectory(prefix="finestra") as cartella:
