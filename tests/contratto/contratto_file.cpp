@@ -107,6 +107,7 @@ TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
       {"  a b , c \n", {"  a b , c "}, {"a b ", "c "}},
       {"\"a, b\" , \"c\"\r\n\"d", {"\"a, b\" , \"c\"", "\"d"}, {"a, b", "c", "d"}},
       {",,x", {",,x"}, {"", "", "x"}},
+      {"\"a\",,b", {"\"a\",,b"}, {"a", "", "b"}},
       {"\r\n\"\"\r\nx\r\n", {"", "\"\"", "x"}, {"", "", "x"}},
       {"C:\\Lavori\r\n", {"C:\\Lavori"}, {"C:\\Lavori"}},
   };
