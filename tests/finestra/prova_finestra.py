@@ -93,6 +93,7 @@ class Seduta:
             case ["minimize" | "restore" as verbo, nome]:
                 azione = {"minimize": "windowminimize", "restore": "windowactivate"}[verbo]
                 self.schermo.mano(azione, self.schermo.trova(nome))
+                self.schermo.giro()
             case ["across", nome, controllo]:
                 clicca(self.schermo, nome, controllo, sfondo=True)
             case ["close", nome]:
