@@ -22,6 +22,10 @@ struct Coordinata {
   Reale x, y;
 };
 
+inline bool Coincidono(Coordinata a, Coordinata b) {
+  return Assoluto(a.x - b.x) < kTolleranza && Assoluto(a.y - b.y) < kTolleranza;
+}
+
 struct ElementoPunto {
   std::int32_t coordinata = 0;
   Intero16 attributoA, attributoB;  // carried to the file for the viewer
