@@ -99,7 +99,7 @@ void tarvel1::SalvaSezione() {
   if (s.starts_with(PrefissoNome)) ++NumeroProposto;
 
   NomeFileDisegno = DisegnoDellaSezione(s);
-  GeneraDisegno(kAvvisiNessuno);
+  GeneraDisegno(disegno::ModoAvviso::Nessuno);
   NomeFileDisegno = kDisegnoTemporaneo;
 }
 

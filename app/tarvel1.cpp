@@ -149,7 +149,7 @@ void tarvel1::nome_LostFocus() {
 }
 
 void tarvel1::Command4_Click() {
-  GeneraDisegno(kAvvisiNessuno);
+  GeneraDisegno(disegno::ModoAvviso::Nessuno);
   Anteprima();
 }
 

@@ -24,7 +24,7 @@ void Prepara() {
     return r;
   }();
   SvuotaDisegno();
-  FlagDisegno = kGeneraDisegno;
+  FlagDisegno = true;
   DisegnaSezione(sezione);
 }
 
@@ -46,10 +46,8 @@ BENCHMARK(Compattazione)->Unit(benchmark::kMicrosecond);
 void SalvataggioDisegno(benchmark::State& stato) {
   const std::string nome = (std::filesystem::temp_directory_path() / "bench-tarvel.dis").string();
   Prepara();
-  for (auto _ : stato) {  // compacted by the first round
-    Intero16 tipo = 0;
-    SalvaDisegno(nome, tipo, 1);
-  }
+  for (auto _ : stato)  // compacted by the first round
+    if (!SalvaDisegno(nome, ModoAvviso::Nessuno)) stato.SkipWithError("not written");
   std::filesystem::remove(nome);
 }
 BENCHMARK(SalvataggioDisegno)->Unit(benchmark::kMicrosecond);

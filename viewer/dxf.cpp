@@ -50,7 +50,7 @@ void GruppoPunto(Testo& dxf, int codice, double x, double y) {
 void Elemento(Testo& dxf, std::string_view genere, Livello livello, int colore) {
   Gruppo(dxf, 0, genere);
   Gruppo(dxf, 8, kLivelli[static_cast<std::size_t>(livello)].nome);
-  GruppoIntero(dxf, 62, kColori[IndiceColore(colore)].dxf);
+  GruppoIntero(dxf, 62, kColoriDxf[IndiceColore(colore)]);
 }
 
 // Two percent signs begin a special character and a caret a control one; these are plain.
@@ -178,7 +178,7 @@ Testo ScriviDxf(const Disegno& disegno) {
   for (const Scritta& scritta : disegno.scritte) ScriviScritta(dxf, disegno, scritta);
   for (const Punto& punto : disegno.punti) {
     const Coordinata posto = Posto(disegno, punto.posizione);
-    Elemento(dxf, "POINT", Livello::Contorno, kBianco);
+    Elemento(dxf, "POINT", Livello::Contorno, tarvel::disegno::kBianco);
     GruppoPunto(dxf, 10, posto.x, posto.y);
   }
   Gruppo(dxf, 0, "ENDSEC");
