@@ -1,13 +1,13 @@
 // Description, load and unload of the main form; the commands on sections stand in comandi.cpp.
 #include "app/tarvel1.h"
 
-#include "app/cartelle.h"
 #include "app/form_sez.h"
 #include "app/salvataggio.h"
 #include "app/schema.h"
 #include "base/numeri.h"
 #include "drawing/disegno_sezione.h"
-#include "drawing/nome_file.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
 #include "model/file_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "options/form_opt.h"

@@ -3,13 +3,13 @@
 
 #include <array>
 
-#include "app/cartelle.h"
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "drawing/funz_disegno.h"
-#include "drawing/nome_file.h"
 #include "drawing/quota.h"
 #include "drawing/salva_dis_cond.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
 #include "options/opzioni.h"
@@ -21,6 +21,11 @@ namespace tarvel {
 namespace {
 
 using disegno::Lato;
+
+// Of the dimension lines from the outline.
+Reale DistanzaQuote() {
+  return Minimo(Opzioni[kDistanzaMassima], ParametriSezione[0] / 2);
+}
 
 // Distances of a label from its dimension line: the standard side, and the other one.
 struct DistanzeTesto {
@@ -176,7 +181,7 @@ void DisegnaSezione(const RecordSezione& r) {
   disegno::TipoLineaCorrente = InteroPari(Opzioni[kTipoLineaSezione]);
   DisegnaContorni(r);
 
-  const Reale d = Minimo(Opzioni[kDistanzaMassima], ParametriSezione[0] / 2);
+  const Reale d = DistanzaQuote();
   const DistanzeTesto distanze = DistanzeDelTesto();
   DisegnaTitolo(r, d);
   DisegnaCatene(r, d, distanze.standard);

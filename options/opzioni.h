@@ -90,7 +90,4 @@ bool Ammesso(int i, Reale valore);
 /// Option i and what it may be, for the user: "Scala quote: un numero da … a …".
 Testo ValoriAmmessi(int i);
 
-/// The first word of a line; the line keeps the rest, from the separator (blank or tab) on.
-Testo PrimaParola(Testo& riga);
-
 }  // namespace tarvel

@@ -2,7 +2,7 @@
 #include "drawing/salva_dis_cond.h"
 
 #include "drawing/funz_disegno.h"
-#include "drawing/nome_file.h"
+#include "lavoro/nome_disegno.h"
 #include "tests/drawing/attrezzi.h"
 
 namespace tarvel::disegno {
