@@ -7,7 +7,7 @@
 
 namespace tarvel::disegno {
 
-/// In place of a dimension line's colour: the label alone is drawn.
+/// In place of a dimension line's colour, which may be an option of the user: the label alone is drawn.
 inline constexpr int kSolaEtichetta = -1;
 
 enum class Lato { Sinistra, Destra };

@@ -6,7 +6,8 @@
 
 namespace tarvel::disegno {
 
-/// What the user is told of a drawing file: all, nothing, or that it could not be written.
+/// What the user is told of a drawing file: all, nothing, or that it could not be written. This program
+/// asks for nothing: a section is saved, and the viewer shown, all the same.
 enum class ModoAvviso { Tutti, Nessuno, Errori };
 
 /// The digit that the file begins with. The viewer reads both; this program writes the first.

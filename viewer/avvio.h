@@ -17,6 +17,6 @@ struct Avvio {
 /// Line 2 is the drawing's path, lines 3 to 6 the window's left, top, width and height; a place
 /// that is missing or makes no sense is the usual one. Nothing when the file cannot be read or
 /// names no drawing.
-std::optional<Avvio> LeggiAvvio(const tarvel::Testo& file);
+[[nodiscard]] std::optional<Avvio> LeggiAvvio(const tarvel::Testo& file);
 
 }  // namespace ostrel

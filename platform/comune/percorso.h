@@ -10,6 +10,6 @@ namespace tarvel {
 
 /// The host's path (UTF-8) of a path of the program; nothing when a folder on the way cannot be
 /// looked into: what is in it is then not known, and "not there" would be a guess.
-std::optional<std::string> PercorsoHost(const Testo& percorso);
+[[nodiscard]] std::optional<std::string> PercorsoHost(const Testo& percorso);
 
 }  // namespace tarvel
