@@ -1,11 +1,11 @@
 // The main form's commands on sections: calculate, read, save, switch the section file.
-#include "app/cartelle.h"
 #include "app/form_sez.h"
 #include "app/salvataggio.h"
 #include "app/tarvel1.h"
 #include "base/errore.h"
 #include "drawing/disegno_sezione.h"
-#include "drawing/nome_file.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
 #include "model/file_sezioni.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
@@ -31,7 +31,8 @@ void tarvel1::Calcolo_Click() {
   const auto calcola = [&] {
     const Intero16 i = CercaSezione(nomeSezione);
     if (i != 0) {
-      // The outline stays as it was stored, whatever the boxes say: wanted so.
+      // The outline stays as it was stored, whatever the boxes say: a section that is only looked up and
+      // recalculated never changes shape. Saving and the preview rebuild it.
       CalcolaCaratteristiche(TabellaSezioni[i]);
       SezioneCorrente = i;
     } else {
@@ -82,7 +83,7 @@ void tarvel1::SalvaSezione() {
   if (i >= 1 && i <= NumeroSezioniFile && !Conferma("Sezione già esistente. Sostituirla?"_t)) return;
   if (!SezioneCalcolata && !Conferma("Sezione non calcolata. Salvare comunque?")) return;
 
-  // A calculated section under an unknown name takes the last slot of the table under that name.
+  // A calculated section has its slot already, the last one: an unknown name renames it.
   if (i == 0 && !SezioneCalcolata) ++NumeroSezioni;
   const Intero16 k = i != 0 ? i : NumeroSezioni;
   const auto aggiorna = [&] {
@@ -99,7 +100,7 @@ void tarvel1::SalvaSezione() {
   if (s.starts_with(PrefissoNome)) ++NumeroProposto;
 
   NomeFileDisegno = DisegnoDellaSezione(s);
-  GeneraDisegno(kAvvisiNessuno);
+  GeneraDisegno(disegno::ModoAvviso::Nessuno);
   NomeFileDisegno = kDisegnoTemporaneo;
 }
 

@@ -69,8 +69,8 @@ void FormSez2::Command1_Click() {
   ScaricaForm(*this);
 }
 
-// The counter itself is the table index: the first NumeroScelte records are recalculated, whichever
-// entries are highlighted, and NumeroScelte is that of the last closing. Wanted so.
+// The selection says how many records, from the top of the table, not which; and NumeroScelte is that of the
+// last closing.
 void FormSez2::Command2_Click() {
   for (int i = 1; i <= NumeroScelte; ++i) {
     RecordSezione& r = TabellaSezioni[i];

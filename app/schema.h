@@ -7,12 +7,14 @@
 
 namespace tarvel {
 
-struct PostoCasella {
+/// The box of a dimension; every box is 396 × 216 twips.
+struct CasellaSchema {
   int sinistra, alto;
+  Colore colore;  // of its text: heights, bases and slopes are told apart
 };
 
-/// Left and top of box i, in twips; every box is 396 × 216.
-std::span<const PostoCasella> PostiCaselle();
+/// In the order of the dimensions.
+std::span<const CasellaSchema> CaselleSchema();
 
 /// The boxes in tab order: bases, slopes and heights as one reads the section from the top.
 std::span<const int> OrdineCaselle();

@@ -1,13 +1,13 @@
 // Description, load and unload of the main form; the commands on sections stand in comandi.cpp.
 #include "app/tarvel1.h"
 
-#include "app/cartelle.h"
 #include "app/form_sez.h"
 #include "app/salvataggio.h"
 #include "app/schema.h"
 #include "base/numeri.h"
 #include "drawing/disegno_sezione.h"
-#include "drawing/nome_file.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
 #include "model/file_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "options/form_opt.h"
@@ -18,16 +18,7 @@
 namespace tarvel {
 namespace {
 
-constexpr Colore kBlu{0, 0, 255};
-constexpr Colore kVerde{0, 128, 0};
 constexpr Colore kBluMarino{0, 0, 128};
-
-constexpr int kPrimaBase = 9;
-constexpr int kPrimaPendenza = 16;
-
-Colore ColoreGruppo(int indice) {
-  return indice < kPrimaBase ? kNero : indice < kPrimaPendenza ? kBlu : kVerde;
-}
 
 Testo TestoNota() {
   return "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
@@ -50,10 +41,10 @@ tarvel1::tarvel1() {
 
   for (int i = 0; i < kNumParametri; ++i) {
     Controllo& casella = Text1[static_cast<std::size_t>(i)];
-    const PostoCasella& posto = PostiCaselle()[static_cast<std::size_t>(i)];
+    const CasellaSchema& voce = CaselleSchema()[static_cast<std::size_t>(i)];
     casella = NuovoControllo(TipoControllo::Casella, "Text1(" + std::to_string(i) + ")",
-                             {posto.sinistra, posto.alto, 396, 216}, "1234");
-    casella.coloreTesto = ColoreGruppo(i);
+                             {voce.sinistra, voce.alto, 396, 216}, "1234");
+    casella.coloreTesto = voce.colore;
     casella.carattere.punti = 6;
     casella.tasto = [this, i](int codice) { Text1_KeyPress(i, codice); };
     casella.fuocoPerso = [this, i] { Text1_LostFocus(i); };
@@ -149,7 +140,7 @@ void tarvel1::nome_LostFocus() {
 }
 
 void tarvel1::Command4_Click() {
-  GeneraDisegno(kAvvisiNessuno);
+  GeneraDisegno(disegno::ModoAvviso::Nessuno);
   Anteprima();
 }
 

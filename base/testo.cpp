@@ -105,6 +105,16 @@ Testo Maiuscole(std::string_view testo) {
   return esito;
 }
 
+std::string_view PrimaParola(std::string_view& riga) {
+  constexpr std::string_view kSeparatori = " \t";
+  const auto inizio = riga.find_first_not_of(kSeparatori);
+  if (inizio == std::string_view::npos) return {};
+  const auto fine = std::min(riga.find_first_of(kSeparatori, inizio), riga.size());
+  const std::string_view parola = riga.substr(inizio, fine - inizio);
+  riga.remove_prefix(fine);
+  return parola;
+}
+
 std::string_view SenzaBlanchi(std::string_view testo) {
   const auto primo = testo.find_first_not_of(' ');
   if (primo == std::string_view::npos) return {};

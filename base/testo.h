@@ -25,6 +25,10 @@ char Maiuscola(char c);
 Testo Minuscole(std::string_view testo);
 Testo Maiuscole(std::string_view testo);
 
+/// The first word of a line; the line keeps the rest, from the separator (blank or tab) on. A line
+/// without words has the empty one, and stays.
+std::string_view PrimaParola(std::string_view& riga);
+
 /// The text without the blanks (code 32 only) at both ends.
 std::string_view SenzaBlanchi(std::string_view testo);
 

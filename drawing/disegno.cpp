@@ -7,7 +7,7 @@ TabelleDisegno Disegno;
 
 Reale OrigineX, OrigineY;
 Intero16 ColoreCorrente, TipoLineaCorrente;
-tarvel::Testo FlagDisegno;
+bool FlagDisegno = false;
 Intero16 DecimaliQuote;
 
 Tabella<"dei caratteri", Intero16, 0, 255> FontPunti;

@@ -22,6 +22,10 @@ struct Coordinata {
   Reale x, y;
 };
 
+inline bool Coincidono(Coordinata a, Coordinata b) {
+  return Assoluto(a.x - b.x) < kTolleranza && Assoluto(a.y - b.y) < kTolleranza;
+}
+
 struct ElementoPunto {
   std::int32_t coordinata = 0;
   Intero16 attributoA, attributoB;  // carried to the file for the viewer
@@ -60,7 +64,7 @@ struct Elenco {
 
 struct TabelleDisegno {
   Elenco<"delle coordinate", Coordinata, 50000> Coordinate;
-  Elenco<"dei punti", ElementoPunto, 5000> Punti;
+  Elenco<"dei punti", ElementoPunto, 5000> Punti;  // none is ever drawn; the file has their section
   Elenco<"delle linee", ElementoLinea, 50000> Linee;
   Elenco<"degli archi", ElementoArco, 15000> Archi;
   Elenco<"dei testi", ElementoTesto, 15000> Testi;
@@ -74,21 +78,22 @@ void SvuotaDisegno();
 
 // --- Settings; each keeps its value from one drawing to the next.
 
-/// Added to whatever is recorded into Disegno, not to what is drawn onto a surface.
+/// Added to whatever is recorded into Disegno, not to what is drawn onto a surface. A section's drawing
+/// has its origin at 0.
 extern Reale OrigineX, OrigineY;
 /// Of a line or circle recorded without a colour of its own.
 extern Intero16 ColoreCorrente;
 /// Of every recorded line.
 extern Intero16 TipoLineaCorrente;
-/// kGeneraDisegno while a drawing file is being generated, otherwise "": texts are then recorded as
-/// texts, otherwise drawn by the strokes of the font.
-extern tarvel::Testo FlagDisegno;
-inline constexpr char kGeneraDisegno[] = "gendis";
-/// Decimals of a measured dimension; a negative number counts as 0.
+/// While a drawing file is being generated: texts are then recorded as texts, otherwise drawn by the
+/// strokes of the font.
+extern bool FlagDisegno;
+/// Decimals of a measured dimension; a negative number counts as 0. A setting that no option sets yet.
 extern Intero16 DecimaliQuote;
 
 // --- The stroke font, by character code: glyphs 99 units wide and 69 high, their baseline at
-// ordinate 30. Two consecutive points are one stroke. No font is supplied: all of it is 0.
+// ordinate 30. Two consecutive points are one stroke. The place for a font: none is supplied, all of it
+// is 0.
 
 template <NomeTabella Nome>
 using OrdinateFont = Tabella<"dei caratteri", Tabella<Nome, Intero16, 0, 100>, 0, 255>;

@@ -1,15 +1,15 @@
 // Dimensions stand in tables, as on a drawing; the order of drawing is the order of the file.
 #include "drawing/disegno_sezione.h"
 
-#include <span>
+#include <array>
 
-#include "app/cartelle.h"
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "drawing/funz_disegno.h"
-#include "drawing/nome_file.h"
 #include "drawing/quota.h"
 #include "drawing/salva_dis_cond.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
 #include "options/opzioni.h"
@@ -20,12 +20,12 @@ namespace tarvel {
 
 namespace {
 
-// Horizontal and vertical coordinate of vertex k of polygon p.
-struct Vertici {
-  const GeometriaSezione& g;
-  Reale H(int p, int k) const { return g.VerticeZ(p, k); }
-  Reale V(int p, int k) const { return g.VerticeY(p, k); }
-};
+using disegno::Lato;
+
+// Of the dimension lines from the outline.
+Reale DistanzaQuote() {
+  return Minimo(Opzioni[kDistanzaMassima], ParametriSezione[0] / 2);
+}
 
 // Distances of a label from its dimension line: the standard side, and the other one.
 struct DistanzeTesto {
@@ -39,7 +39,7 @@ DistanzeTesto DistanzeDelTesto() {
   return {Reale(segno - 1) / 2 * altezza + q, Reale(-1 - segno) / 2 * altezza - q};
 }
 
-disegno::StileQuota StileDelleQuote(int lato, Reale distanzaTesto) {
+disegno::StileQuota StileDelleQuote(Lato lato, Reale distanzaTesto) {
   return {.coloreLinea = InteroPari(Opzioni[kColoreQuota]),
           .coloreTesto = InteroPari(Opzioni[kColoreTestoQuota]),
           .diametroPallino = Opzioni[kDimensionePallino],
@@ -54,23 +54,20 @@ disegno::StileQuota StileDelleQuote(int lato, Reale distanzaTesto) {
 void DisegnaContorni(const GeometriaSezione& g) {
   for (const int p : {1, 2}) {
     const int n = g.NumVertici[p];
-    const auto lato = [&](int k, int seguente) {
-      const Punto da = g.Vertice(p, k), a = g.Vertice(p, seguente);
-      disegno::Linea(da.z, da.y, a.z, a.y);
-    };
+    const auto punto = [&](int k) -> disegno::Coordinata { return {g.VerticeZ(p, k), g.VerticeY(p, k)}; };
     const auto operazione = [&] {
       return "poligono " + std::to_string(p) + " di " + std::to_string(n) + " vertici";
     };
     Durante(operazione, [&] {
-      for (int k = 1; k < n; ++k) lato(k, k + 1);
-      lato(n, 1);  // also of a polygon without vertices, which is fatal: wanted so
+      for (int k = 1; k < n; ++k) disegno::Linea(punto(k), punto(k + 1));
+      // Of a polygon without vertices too: that is fatal, rather than a drawing that lacks it.
+      disegno::Linea(punto(n), punto(1));
     });
   }
 }
 
 void DisegnaTitolo(const RecordSezione& r, Reale d) {
-  const auto [g] = Vertici{r};
-  const disegno::StileQuota solaEtichetta{.coloreLinea = -1,
+  const disegno::StileQuota solaEtichetta{.coloreLinea = disegno::kSolaEtichetta,
                                           .coloreTesto = InteroPari(Opzioni[kColoreTesti]),
                                           .diametroPallino = 0,
                                           .base = Opzioni[kBaseTesti],
@@ -78,73 +75,93 @@ void DisegnaTitolo(const RecordSezione& r, Reale d) {
                                           .distanzaTesto = -Opzioni[kAltezzaTesti] / 2,
                                           .scala = 1,
                                           .estensione = 0,
-                                          .lato = 0};
-  const Reale y = Massimo(g.VerticeY(1, 1), g.VerticeY(1, 10)) + 3 * d;
-  disegno::Quota("SEZIONE " + r.Nome, g.VerticeZ(1, 1), g.VerticeZ(1, 10), y, y, solaEtichetta);
+                                          .lato = Lato::Destra};
+  const Reale y = Massimo(r.O(1).y, r.O(10).y) + 3 * d;
+  disegno::Quota("SEZIONE " + r.Nome, {r.O(1).z, y}, {r.O(10).z, y}, solaEtichetta);
 }
 
-void DisegnaCatene(const Vertici& v, Reale d, Reale T) {
-  const auto H = [&](int p, int k) { return v.H(p, k); };
-  const auto V = [&](int p, int k) { return v.V(p, k); };
-  const Reale sopra = V(1, 10);
+void DisegnaCatene(const GeometriaSezione& g, Reale d, Reale T) {
+  const auto O = [&](int v) { return g.O(v); };
+  const auto C = [&](int v) { return g.C(v); };
+  const Reale sopra = O(10).y;
+  // clang-format off
   const struct {
     std::array<Reale, 5> ascisse;
     std::size_t quante;
     Reale y;
-    int lato;
+    Lato lato;
   } catene[] = {
-      {{H(1, 1), H(1, 10)}, 2, sopra + 2 * d, 0},
-      {{H(1, 1), H(1, 13), H(1, 12), H(1, 11), H(1, 10)}, 5, sopra + d, 0},
-      {{H(1, 1), H(1, 3), H(1, 4), H(2, 2), H(2, 3)}, 5, Minimo(V(1, 4), V(2, 2)) - d / 4, 1},
-      {{H(2, 7), H(2, 8), H(1, 7), H(1, 8), H(1, 10)}, 5, Minimo(V(1, 7), V(2, 8)) - d / 4, 1},
+      {{O(1).z, O(10).z},                            2, sopra + 2 * d,                  Lato::Destra},    // overall
+      {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                      Lato::Destra},    // top
+      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, Minimo(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
+      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, Minimo(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
   };
+  // clang-format on
   for (const auto& c : catene)
-    disegno::CatenaQuote(1, {c.ascisse.data(), c.quante}, c.y, StileDelleQuote(c.lato, T));
+    disegno::CatenaQuote(disegno::EtichetteCatena::Misure, {c.ascisse.data(), c.quante}, c.y,
+                         StileDelleQuote(c.lato, T));
 }
 
 enum class Verso { Orizzontale, Verticale };
 
-void DisegnaQuote(const Vertici& v, Reale d, const DistanzeTesto& distanze) {
-  const auto H = [&](int p, int k) { return v.H(p, k); };
-  const auto V = [&](int p, int k) { return v.V(p, k); };
-  // Height at x of the line of slope p16 through the top of the left tip.
-  const auto S = [&](Reale x) { return V(1, 1) + ParametriSezione[16] * x / 100; };
+void DisegnaQuote(const GeometriaSezione& g, Reale d, const DistanzeTesto& distanze) {
+  const auto O = [&](int v) { return g.O(v); };
+  const auto C = [&](int v) { return g.C(v); };
+  // Height at a point's abscissa of the line of slope p16 through the top of the left tip.
+  const auto S = [&](Punto p) { return O(1).y + ParametriSezione[16] * p.z / 100; };
   const auto [T, opposta] = distanze;
   constexpr auto oriz = Verso::Orizzontale;
   constexpr auto vert = Verso::Verticale;
+  constexpr auto sx = Lato::Sinistra, dx = Lato::Destra;
+  // clang-format off
   const struct {
     Verso verso;
     Reale da, a;
     Reale posto;  // the ordinate of a horizontal one, the abscissa of a vertical one
-    int lato;
+    Lato lato;
     Reale distanzaTesto;
   } quote[] = {
-      {oriz, H(1, 5), H(1, 6), V(1, 5) - d, 1, T},   {vert, V(1, 5), V(1, 12), H(1, 12), 1, T},
-      {vert, V(1, 5), V(2, 10), H(1, 12) + d, 1, T}, {oriz, H(2, 1), H(2, 11), V(2, 1) + d, 0, T},
-      {oriz, H(2, 10), H(2, 9), V(2, 9) + d, 0, T},  {vert, V(2, 11), V(2, 1), H(2, 11) + d, 1, T},
-      {vert, V(2, 10), V(2, 9), H(2, 10) - d, 0, T}, {vert, V(1, 2), V(1, 1), H(1, 1) - d, 0, T},
-      {vert, S(H(1, 3)), V(1, 3), H(1, 3), 0, T},    {vert, S(H(1, 4)), V(1, 4), H(1, 4), 0, opposta},
-      {vert, S(H(2, 2)), V(2, 2), H(2, 2), 0, T},    {vert, S(H(2, 3)), V(2, 3), H(2, 3), 0, opposta},
-      {vert, S(H(2, 4)), V(2, 4), H(2, 4), 0, T},
+      {oriz, O(5).z,  O(6).z,  O(5).y - d,  sx, T},        // D1   width of the bottom
+      {vert, O(5).y,  O(12).y, O(12).z,     sx, T},        // D2   total height
+      {vert, O(5).y,  C(10).y, O(12).z + d, sx, T},        // D3   bottom slab
+      {oriz, C(1).z,  C(11).z, C(1).y + d,  dx, T},        // D4   lower left haunch of the cell, width
+      {oriz, C(10).z, C(9).z,  C(9).y + d,  dx, T},        // D5   lower right haunch, width
+      {vert, C(11).y, C(1).y,  C(11).z + d, sx, T},        // D6   lower left haunch, height
+      {vert, C(10).y, C(9).y,  C(10).z - d, dx, T},        // D7   lower right haunch, height
+      {vert, O(2).y,  O(1).y,  O(1).z - d,  dx, T},        // D8   tip of the cantilever
+      {vert, S(O(3)), O(3).y,  O(3).z,      dx, T},        // D9   depth of O3 below the slope of the top
+      {vert, S(O(4)), O(4).y,  O(4).z,      dx, opposta},  // D10  of O4
+      {vert, S(C(2)), C(2).y,  C(2).z,      dx, T},        // D11  of C2
+      {vert, S(C(3)), C(3).y,  C(3).z,      dx, opposta},  // D12  of C3
+      {vert, S(C(4)), C(4).y,  C(4).z,      dx, T},        // D13  of C4
   };
+  // clang-format on
   for (const auto& q : quote) {
     const disegno::StileQuota stile = StileDelleQuote(q.lato, q.distanzaTesto);
     if (q.verso == Verso::Orizzontale)
-      disegno::Quota("", q.da, q.a, q.posto, q.posto, stile);
+      disegno::Quota({q.da, q.posto}, {q.a, q.posto}, stile);
     else
-      disegno::Quota("", q.posto, q.posto, q.da, q.a, stile);
+      disegno::Quota({q.posto, q.da}, {q.posto, q.a}, stile);
   }
 }
 
 void DisegnaProprieta(const RecordSezione& r, Reale d) {
+  // clang-format off
   const struct {
     const char* etichetta;
     Reale valore;
     int decimali;
   } righe[] = {
-      {"ZG:   ", r.ZG, 2},  {"YG:   ", r.YG, 2},  {"An:   ", r.An, 0},  {"Atz:  ", r.Atz, 0},
-      {"Aty:  ", r.Aty, 0}, {"Jzg:  ", r.Jzg, 0}, {"Jyg:  ", r.Jyg, 0}, {"Jt :  ", r.Jt, 0},
+      {"ZG:   ", r.ZG,  2},
+      {"YG:   ", r.YG,  2},
+      {"An:   ", r.An,  0},
+      {"Atz:  ", r.Atz, 0},
+      {"Aty:  ", r.Aty, 0},
+      {"Jzg:  ", r.Jzg, 0},
+      {"Jyg:  ", r.Jyg, 0},
+      {"Jt :  ", r.Jt,  0},
   };
+  // clang-format on
   const Reale passo = Arrotondato(2 * Opzioni[kAltezzaTesti]);
   const Intero16 colore = InteroPari(Opzioni[kColoreTesti]);
   int n = 0;
@@ -152,7 +169,7 @@ void DisegnaProprieta(const RecordSezione& r, Reale d) {
     Testo testo = riga.etichetta;
     AccodaNumero(testo, Tronca(riga.valore, riga.decimali), SeparatoreDecimale(), true);
     const Reale y = r.O(6).y - d / 2 - n++ * passo;
-    disegno::Testo(testo, r.O(6).z + d, y, 0, Opzioni[kBaseTesti], Opzioni[kAltezzaTesti], colore);
+    disegno::Testo(testo, {r.O(6).z + d, y}, 0, Opzioni[kBaseTesti], Opzioni[kAltezzaTesti], colore);
   }
 }
 
@@ -164,24 +181,23 @@ void DisegnaSezione(const RecordSezione& r) {
   disegno::TipoLineaCorrente = InteroPari(Opzioni[kTipoLineaSezione]);
   DisegnaContorni(r);
 
-  const Reale d = Minimo(Opzioni[kDistanzaMassima], ParametriSezione[0] / 2);
+  const Reale d = DistanzaQuote();
   const DistanzeTesto distanze = DistanzeDelTesto();
   DisegnaTitolo(r, d);
-  DisegnaCatene({r}, d, distanze.standard);
-  DisegnaQuote({r}, d, distanze);
+  DisegnaCatene(r, d, distanze.standard);
+  DisegnaQuote(r, d, distanze);
   if (SezioneCalcolata) DisegnaProprieta(r, d);
 }
 
-void GeneraDisegno(ModoAvviso avvisi) {
+void GeneraDisegno(disegno::ModoAvviso avvisi) {
   RecordSezione& r = TabellaSezioni[SezioneCorrente];
   const auto genera = [&] {
     disegno::SvuotaDisegno();
-    disegno::FlagDisegno = disegno::kGeneraDisegno;
+    disegno::FlagDisegno = true;
     if (!SezioneCalcolata) Durante("contorno", [&] { CostruisciGeometria(r, ParametriSezione); });
     DisegnaSezione(r);
-    disegno::FlagDisegno = "";
-    Intero16 tipoIntestazione = 0;
-    disegno::SalvaDisegno(DirLavori + NomeFileDisegno, tipoIntestazione, static_cast<int>(avvisi));
+    disegno::FlagDisegno = false;
+    static_cast<void>(disegno::SalvaDisegno(DirLavori + NomeFileDisegno, avvisi));
   };
   Durante([&] { return SullaSezione("disegno", r.Nome); }, genera, kNonCassone);
 }

@@ -2,7 +2,6 @@
 #include "drawing/funz_disegno.h"
 
 #include <algorithm>
-#include <array>
 #include <numbers>
 
 #include "platform/desktop.h"
@@ -24,19 +23,23 @@ bool PrendiPosto(Elenco& elenco, const char* avviso) {
 }
 
 Intero16 ColoreScelto(std::optional<Intero16> colore, const Superficie* superficie) {
-  return colore.value_or(superficie != nullptr ? Intero16(0) : ColoreCorrente);
+  return colore.value_or(superficie != nullptr ? Intero16(kNero) : ColoreCorrente);
 }
 
 Intero16 NeroInBianco(Intero16 colore) {
-  return colore == 0 ? Intero16(1) : colore;
+  return colore == kNero ? Intero16(kBianco) : colore;
 }
 
-void RegistraTesto(const tarvel::Testo& stringa, Reale x, Reale y, Intero16 angolo, Reale base, Reale altezza,
+Coordinata ConOrigine(Coordinata p) {
+  return {p.x + OrigineX, p.y + OrigineY};
+}
+
+void RegistraTesto(const tarvel::Testo& stringa, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
                    Intero16 colore) {
   auto& testi = Disegno.Testi;
   if (!PrendiPosto(testi, kTroppiTesti)) return;
   ElementoTesto& testo = testi[testi.numero - 1];
-  testo.posizione = AggiungiCoordinata(OrigineX + x, OrigineY + y);
+  testo.posizione = AggiungiCoordinata(ConOrigine(posto));
   testo.base10 = InteroPari(base * 10);
   testo.altezza10 = InteroPari(altezza * 10);
   testo.angolo = angolo;
@@ -45,7 +48,7 @@ void RegistraTesto(const tarvel::Testo& stringa, Reale x, Reale y, Intero16 ango
   if (testo.posizione < 0) --testi.numero;
 }
 
-void TracciaCaratteri(const tarvel::Testo& testo, Reale x, Reale y, Intero16 angolo, Reale base,
+void TracciaCaratteri(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base,
                       Reale altezza, Intero16 colore, const Superficie* superficie) {
   const Reale a = Reale(angolo) * std::numbers::pi / 180;
   const Reale coseno = Coseno(a), seno = Seno(a);
@@ -53,63 +56,53 @@ void TracciaCaratteri(const tarvel::Testo& testo, Reale x, Reale y, Intero16 ang
   const Reale scalaY = altezza / 69;
   for (std::size_t i = 0; i < testo.size(); ++i) {
     const Reale avanzo = Reale(static_cast<double>(i)) * base;
-    const Reale origineX = x + avanzo * coseno, origineY = y + avanzo * seno;
+    const Reale origineX = posto.x + avanzo * coseno, origineY = posto.y + avanzo * seno;
     const int c = static_cast<unsigned char>(testo[i]);
     const auto punto = [&](int k) -> Coordinata {
       const Reale fx = Reale(FontX[c][k]) * scalaX, fy = (Reale(FontY[c][k]) - 30) * scalaY;
       return {origineX + fx * coseno - fy * seno, origineY + fy * coseno + fx * seno};
     };
-    for (int k = 0; k <= std::min(FontPunti[c] - 1, 100); k += 2) {
-      const Coordinata p = punto(k), q = punto(k + 1);
-      Linea(p.x, p.y, q.x, q.y, colore, superficie);
-    }
+    for (int k = 0; k <= std::min(FontPunti[c] - 1, 100); k += 2)
+      Linea(punto(k), punto(k + 1), colore, superficie);
   }
 }
 
 }  // namespace
 
-std::int32_t ColoreRGB(Intero16 indice) {
-  constexpr std::array<std::int32_t, 10> kColori = {0,     16777215, 12582912, 255,      65280,
-                                                    65535, 32768,    16711935, 16434592, 4629503};
-  const bool noto = indice >= 0 && indice < static_cast<int>(kColori.size());
-  return noto ? kColori[static_cast<std::size_t>(indice)] : kColori[1];
-}
-
-Intero16 AggiungiCoordinata(Reale x, Reale y) {
+Intero16 AggiungiCoordinata(Coordinata p) {
   auto& coordinate = Disegno.Coordinate;
   const Intero16 ultima = coordinate.numero - 1;
-  // The short look-back is wanted: adding stays cheap, and the file may hold a point twice.
+  // Not farther back, so that adding stays cheap; the file may hold a point twice.
   const int piuLontana = std::max(coordinate.numero - 31, 0);
   for (int i = ultima; i >= piuLontana; --i)
-    if (Assoluto(x - coordinate[i].x) < kTolleranza && Assoluto(y - coordinate[i].y) < kTolleranza) return i;
+    if (Coincidono(p, coordinate[i])) return i;
   if (!PrendiPosto(coordinate, kTroppeCoordinate)) return -1;
-  coordinate[coordinate.numero - 1] = {x, y};
+  coordinate[coordinate.numero - 1] = p;
   return coordinate.numero - 1;
 }
 
-void AggiungiLinea(Reale x1, Reale y1, Reale x2, Reale y2, Intero16 colore) {
+void AggiungiLinea(Coordinata da, Coordinata a, Intero16 colore) {
   auto& linee = Disegno.Linee;
   if (!PrendiPosto(linee, kTroppiElementi)) return;
   ElementoLinea& linea = linee[linee.numero - 1];
-  linea.primo = AggiungiCoordinata(x1, y1);
-  linea.secondo = AggiungiCoordinata(x2, y2);
+  linea.primo = AggiungiCoordinata(da);
+  linea.secondo = AggiungiCoordinata(a);
   linea.tipo = TipoLineaCorrente;
   linea.colore = colore;
-  // Wanted: a line that lacks only its first point stays.
+  // A line that lacks only its first point stays: who reads the file knows of -1 there.
   if (linea.secondo < 0) --linee.numero;
 }
 
-void Linea(Reale x1, Reale y1, Reale x2, Reale y2, std::optional<Intero16> colore,
-           const Superficie* superficie) {
+void Linea(Coordinata da, Coordinata a, std::optional<Intero16> colore, const Superficie* superficie) {
   const Intero16 scelto = ColoreScelto(colore, superficie);
-  if (Assoluto(x1 - x2) <= kTolleranza && Assoluto(y1 - y2) <= kTolleranza) return;
+  if (Assoluto(da.x - a.x) <= kTolleranza && Assoluto(da.y - a.y) <= kTolleranza) return;
   if (superficie != nullptr)
-    superficie->segmento({x1, y1}, {x2, y2}, ColoreRGB(scelto));
+    superficie->segmento(da, a, ColoreRGB(scelto));
   else
-    AggiungiLinea(x1 + OrigineX, y1 + OrigineY, x2 + OrigineX, y2 + OrigineY, scelto);
+    AggiungiLinea(ConOrigine(da), ConOrigine(a), scelto);
 }
 
-void Cerchio(Reale x, Reale y, Reale diametro, std::optional<Intero16> colore,
+void Cerchio(Coordinata centro, Reale diametro, std::optional<Intero16> colore,
              std::optional<Reale> angoloIniziale, std::optional<Reale> angoloFinale,
              const Superficie* superficie) {
   const Intero16 scelto = ColoreScelto(colore, superficie);
@@ -118,29 +111,32 @@ void Cerchio(Reale x, Reale y, Reale diametro, std::optional<Intero16> colore,
   if (diametro <= kTolleranza) return;
   const Reale r = diametro / 2;
   if (superficie != nullptr) {
-    superficie->arco({x, y}, r, inizio, fine, ColoreRGB(scelto));
+    superficie->arco(centro, r, inizio, fine, ColoreRGB(scelto));
     return;
   }
   auto& archi = Disegno.Archi;
   if (!PrendiPosto(archi, kTroppiElementi)) return;
   ElementoArco& arco = archi[archi.numero - 1];
-  const Reale cx = OrigineX + x, cy = OrigineY + y;
-  arco.centro = AggiungiCoordinata(cx, cy);
-  arco.inizio = AggiungiCoordinata(cx + r * Coseno(inizio), cy + r * Seno(inizio));
+  const Coordinata c = ConOrigine(centro);
+  const auto a = [&](Reale angolo) -> Coordinata {
+    return {c.x + r * Coseno(angolo), c.y + r * Seno(angolo)};
+  };
+  arco.centro = AggiungiCoordinata(c);
+  arco.inizio = AggiungiCoordinata(a(inizio));
   arco.secondoCentro = arco.centro;
-  arco.fine = AggiungiCoordinata(cx + r * Coseno(fine), cy + r * Seno(fine));
+  arco.fine = AggiungiCoordinata(a(fine));
   arco.genere = 0;
   arco.colore = NeroInBianco(scelto);
   if (arco.inizio < 0) --archi.numero;
 }
 
-void Testo(const tarvel::Testo& testo, Reale x, Reale y, Intero16 angolo, Reale base, Reale altezza,
+void Testo(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
            Intero16 colore, const Superficie* superficie) {
   if (base == 0 || altezza == 0) return;
-  if (FlagDisegno == kGeneraDisegno)
-    RegistraTesto(testo, x, y, angolo, base, altezza, colore);
+  if (FlagDisegno)
+    RegistraTesto(testo, posto, angolo, base, altezza, colore);
   else
-    TracciaCaratteri(testo, x, y, angolo, base, altezza, colore, superficie);
+    TracciaCaratteri(testo, posto, angolo, base, altezza, colore, superficie);
 }
 
 }  // namespace tarvel::disegno

@@ -1,20 +1,29 @@
 // Compaction of the drawing: what adds nothing to the picture is dropped before the file is written.
 #pragma once
 
-#include "base/intero.h"
-#include "base/reale.h"
+#include <cstdint>
+
+#include "drawing/disegno.h"
 
 namespace tarvel::disegno {
-
-Reale Distanza(Reale x1, Reale y1, Reale x2, Reale y2);
-
-/// 1 when A lies on segment BC, 0 otherwise: the detour over A is shorter than the tolerance.
-Intero16 PuntoSuSegmento(Reale ax, Reale ay, Reale bx, Reale by, Reale cx, Reale cy);
 
 /// Drops, in this order: lines of negative type or colour and coloured, typed lines that lie within
 /// another line; arcs equal to an earlier one; texts without size. Then lets coinciding coordinates
 /// be one (arc ends and points keep theirs) and drops those that nothing refers to. What remains
-/// keeps its order. A line without its first point, index -1, is fatal once lines are compared.
+/// keeps its order. A line without its first point, index -1, is fatal once it is compared.
 void OttimizzaDisegno();
+
+Reale Distanza(Coordinata a, Coordinata b);
+
+/// Whether A lies on segment BC: the detour over A is shorter than the tolerance.
+bool PuntoSuSegmento(Coordinata a, Coordinata b, Coordinata c);
+
+// --- The later entries of the table move down by one.
+
+void RimuoviLinea(std::int32_t i);
+void RimuoviArco(std::int32_t i);
+void RimuoviTesto(std::int32_t i);
+/// References to later coordinates follow them.
+void RimuoviCoordinata(std::int32_t k);
 
 }  // namespace tarvel::disegno

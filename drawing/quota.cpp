@@ -2,6 +2,7 @@
 #include "drawing/quota.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "base/numeri.h"
@@ -11,7 +12,7 @@
 namespace tarvel::disegno {
 
 bool AlternaTestiQuote = false;
-Intero16 LatoTestoAlternato;
+bool LatoTestoAlternato = false;
 
 namespace {
 
@@ -28,15 +29,24 @@ Tratto Orientato(Coordinata p1, Coordinata p2) {
   return {p1, p2, dx, dy, Radice(dx * dx + dy * dy)};
 }
 
-void TracciaQuota(const Tratto& q, const StileQuota& stile) {
+void TracciaLinee(const Tratto& q, const StileQuota& stile) {
   const Intero16 colore = stile.coloreLinea;
   const Reale t = stile.estensione / q.lunghezza;
   const Reale ex = q.dx * t, ey = q.dy * t;  // the extension, along the dimension
-  for (const Coordinata& p : {q.p1, q.p2}) Cerchio(p.x, p.y, stile.diametroPallino, colore);
-  Linea(q.p1.x - ex, q.p1.y - ey, q.p2.x + ex, q.p2.y + ey, colore);
-  const Reale aSinistra = stile.lato == 1 ? 2 : 1, aDestra = stile.lato == 1 ? 1 : 2;
+  for (const Coordinata& p : {q.p1, q.p2}) Cerchio(p, stile.diametroPallino, colore);
+  Linea({q.p1.x - ex, q.p1.y - ey}, {q.p2.x + ex, q.p2.y + ey}, colore);
+  const bool lungaASinistra = stile.lato == Lato::Sinistra;
+  const Reale aSinistra = lungaASinistra ? 2 : 1, aDestra = lungaASinistra ? 1 : 2;
   for (const Coordinata& p : {q.p1, q.p2})
-    Linea(p.x - aSinistra * ey, p.y + aSinistra * ex, p.x + aDestra * ey, p.y - aDestra * ex, colore);
+    Linea({p.x - aSinistra * ey, p.y + aSinistra * ex}, {p.x + aDestra * ey, p.y - aDestra * ex}, colore);
+}
+
+// All of a dimension but its label; nothing between coinciding points.
+std::optional<Tratto> TracciaQuota(Coordinata p1, Coordinata p2, const StileQuota& stile) {
+  if (Coincidono(p1, p2)) return std::nullopt;
+  const Tratto q = Orientato(p1, p2);
+  if (stile.coloreLinea != kSolaEtichetta && q.lunghezza > kTolleranza) TracciaLinee(q, stile);
+  return q;
 }
 
 Intero16 AngoloTesto(const Tratto& q) {
@@ -54,37 +64,46 @@ tarvel::Testo Misura(Reale valore) {
 // How far the label lies to the left of the line; keeps the alternation of a chain.
 Reale DistanzaEtichetta(bool sta, const StileQuota& stile) {
   if (sta) {
-    LatoTestoAlternato = 0;
+    LatoTestoAlternato = false;
   } else if (AlternaTestiQuote) {
-    LatoTestoAlternato = LatoTestoAlternato == 0 ? 1 : 0;
-    if (LatoTestoAlternato == 1) return -(stile.distanzaTesto + stile.altezza);
+    LatoTestoAlternato = !LatoTestoAlternato;
+    if (LatoTestoAlternato) return -(stile.distanzaTesto + stile.altezza);
   }
   return stile.distanzaTesto;
 }
 
-}  // namespace
-
-void Quota(const tarvel::Testo& testo, Reale x1, Reale x2, Reale y1, Reale y2, const StileQuota& stile) {
-  if (Assoluto(x1 - x2) < kTolleranza && Assoluto(y1 - y2) < kTolleranza) return;
-  const Tratto q = Orientato({x1, y1}, {x2, y2});
-  const Reale l = q.lunghezza;
-  if (stile.coloreLinea != -1 && l > kTolleranza) TracciaQuota(q, stile);
-
+void ScriviEtichetta(const tarvel::Testo& etichetta, const Tratto& q, const StileQuota& stile) {
   const Intero16 angolo = AngoloTesto(q);
-  const tarvel::Testo etichetta = testo.empty() ? Misura(Assoluto(stile.scala) * l) : testo;
-  if (etichetta == " ") return;
+  const Reale l = q.lunghezza;
   const Reale larghezza = Reale(static_cast<double>(etichetta.size())) * stile.base;
   const Reale distanza = DistanzaEtichetta(larghezza <= l, stile);
   const Reale x = (q.p1.x + q.p2.x) / 2 - larghezza / 2 * q.dx / l - distanza * q.dy / l;
   const Reale y = (q.p1.y + q.p2.y) / 2 - larghezza / 2 * q.dy / l + distanza * q.dx / l;
-  Testo(etichetta, x, y, angolo, stile.base, stile.altezza, stile.coloreTesto);
+  Testo(etichetta, {x, y}, angolo, stile.base, stile.altezza, stile.coloreTesto);
 }
 
-void CatenaQuote(Intero16 conValori, std::span<const Reale> ascisse, Reale y, const StileQuota& stile) {
+}  // namespace
+
+void Quota(Coordinata p1, Coordinata p2, const StileQuota& stile) {
+  if (const auto q = TracciaQuota(p1, p2, stile))
+    ScriviEtichetta(Misura(Assoluto(stile.scala) * q->lunghezza), *q, stile);
+}
+
+void Quota(const tarvel::Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile) {
+  if (const auto q = TracciaQuota(p1, p2, stile)) ScriviEtichetta(testo, *q, stile);
+}
+
+void CatenaQuote(EtichetteCatena etichette, std::span<const Reale> ascisse, Reale y,
+                 const StileQuota& stile) {
   AlternaTestiQuote = true;
-  LatoTestoAlternato = 0;
-  const tarvel::Testo testo = conValori == 1 ? "" : " ";
-  for (std::size_t i = 1; i < ascisse.size(); ++i) Quota(testo, ascisse[i - 1], ascisse[i], y, y, stile);
+  LatoTestoAlternato = false;
+  for (std::size_t i = 1; i < ascisse.size(); ++i) {
+    const Coordinata da{ascisse[i - 1], y}, a{ascisse[i], y};
+    if (etichette == EtichetteCatena::Misure)
+      Quota(da, a, stile);
+    else
+      TracciaQuota(da, a, stile);
+  }
   AlternaTestiQuote = false;
 }
 

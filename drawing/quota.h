@@ -7,31 +7,39 @@
 
 namespace tarvel::disegno {
 
+/// In place of a dimension line's colour, which may be an option of the user: the label alone is drawn.
+inline constexpr int kSolaEtichetta = -1;
+
+enum class Lato { Sinistra, Destra };
+
 /// What the dimension lines of one drawing have in common. Lengths in drawing units.
 struct StileQuota {
-  Intero16 coloreLinea;  // -1: the label alone
+  Intero16 coloreLinea;  // or kSolaEtichetta
   Intero16 coloreTesto;
   Reale diametroPallino;
   Reale base, altezza;  // of one character of the label
   Reale distanzaTesto;  // of the label from the line, to its left
   Reale scala;          // label value for a length of 1
-  Reale estensione;     // of the line beyond its ends; witness lines reach twice as far on their long side
-  Intero16 lato;        // 1: witness lines are long on the left, otherwise on the right
+  Reale estensione;     // of the line beyond its ends, and of the witness lines
+  Lato lato;            // on which the witness lines reach twice as far
 };
 
 /// On while a chain is drawn: a label wider than its dimension goes to the opposite side of the
 /// line, unless the one before it is there.
 extern bool AlternaTestiQuote;
-/// 1 while the last label went to the opposite side; a label that fits sets it back to 0.
-extern Intero16 LatoTestoAlternato;
+/// The last label went to the opposite side; a label that fits puts an end to that.
+extern bool LatoTestoAlternato;
 
-/// A dimension line between (x1, y1) and (x2, y2), in either order: it always runs to the right, or
-/// upwards where vertical. An empty text stands for the measured length, with DecimaliQuote decimals
-/// in the regional format; one blank for no label. Nothing is drawn between coinciding points.
-void Quota(const tarvel::Testo& testo, Reale x1, Reale x2, Reale y1, Reale y2, const StileQuota& stile);
+/// A dimension line between two points, in either order: it always runs to the right, or upwards where
+/// vertical. Its label is the measured length, with DecimaliQuote decimals in the regional format.
+/// Nothing is drawn between coinciding points.
+void Quota(Coordinata p1, Coordinata p2, const StileQuota& stile);
+/// The same with a label of its own.
+void Quota(const tarvel::Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile);
 
-/// Horizontal dimensions between consecutive abscissas, all at ordinate y. Measured when
-/// `conValori` is 1, otherwise without labels.
-void CatenaQuote(Intero16 conValori, std::span<const Reale> ascisse, Reale y, const StileQuota& stile);
+enum class EtichetteCatena { Misure, Nessuna };
+
+/// Horizontal dimensions between consecutive abscissas, all at ordinate y.
+void CatenaQuote(EtichetteCatena etichette, std::span<const Reale> ascisse, Reale y, const StileQuota& stile);
 
 }  // namespace tarvel::disegno

@@ -15,10 +15,6 @@
 namespace tarvel::disegno {
 namespace {
 
-struct Estremi {
-  Reale xmin, ymin, xmax, ymax;
-};
-
 struct Uscita {
   tarvel::Testo testo = {};
   char separatore = SeparatoreDecimale();
@@ -62,9 +58,9 @@ void ScriviSezioni(Uscita& uscita) {
   });
 }
 
-tarvel::Testo ComponiFile(Intero16 tipoIntestazione, const Estremi& estremi) {
+tarvel::Testo ComponiFile(Intestazione intestazione, const Estremi& estremi) {
   Uscita uscita;
-  AccodaRiga(uscita.testo, tipoIntestazione == 4 ? "                   4" : "                   3");
+  AccodaRiga(uscita.testo, "                   " + std::to_string(static_cast<int>(intestazione)));
   Stampa(uscita, estremi.xmin, estremi.xmax);
   Stampa(uscita, estremi.ymin, estremi.ymax);
   AccodaRiga(uscita.testo, "-10000.000000        10000.000000");
@@ -72,38 +68,34 @@ tarvel::Testo ComponiFile(Intero16 tipoIntestazione, const Estremi& estremi) {
   return std::move(uscita.testo);
 }
 
-void ScriviFileDisegno(const tarvel::Testo& nomeFile, Intero16& tipoIntestazione, Intero16 modoAvviso,
+bool ScriviFileDisegno(const tarvel::Testo& nomeFile, ModoAvviso avvisi, Intestazione intestazione,
                        const Estremi& estremi) {
-  const bool scritto =
-      ScriviFile(nomeFile, ComponiFile(tipoIntestazione, estremi)) == EsitoScrittura::Scritto;
-  tipoIntestazione = scritto ? 1 : 0;
-  // The missing blank before the name is wanted.
-  if (!scritto && (modoAvviso == 0 || modoAvviso == 2))
+  const bool scritto = ScriviFile(nomeFile, ComponiFile(intestazione, estremi)) == EsitoScrittura::Scritto;
+  // No blank before the name: the text is fixed, and found so by whoever looks for it.
+  if (!scritto && avvisi != ModoAvviso::Nessuno)
     MostraMessaggio("Errore durante la scrittura sul file" + nomeFile, "ERRORE", Icona::Nessuna);
+  return scritto;
 }
 
 }  // namespace
 
-void EstremiDisegno(Reale& xmin, Reale& ymin, Reale& xmax, Reale& ymax) {
+Estremi EstremiDisegno() {
   const auto& coordinate = Disegno.Coordinate;
-  xmin = xmax = coordinate[0].x;
-  ymin = ymax = coordinate[0].y;
+  Estremi e{coordinate[0].x, coordinate[0].y, coordinate[0].x, coordinate[0].y};
   for (std::int32_t i = 0; i < coordinate.numero; ++i) {
     const auto [x, y] = coordinate[i];
-    xmin = std::min(xmin, x);
-    xmax = std::max(xmax, x);
-    ymin = std::min(ymin, y);
-    ymax = std::max(ymax, y);
+    e = {std::min(e.xmin, x), std::min(e.ymin, y), std::max(e.xmax, x), std::max(e.ymax, y)};
   }
+  return e;
 }
 
-void SalvaDisegno(const tarvel::Testo& nomeFile, Intero16& tipoIntestazione, const Intero16& modoAvviso) {
-  Estremi estremi;
-  EstremiDisegno(estremi.xmin, estremi.ymin, estremi.xmax, estremi.ymax);
+bool SalvaDisegno(const tarvel::Testo& nomeFile, ModoAvviso avvisi, Intestazione intestazione) {
+  const Estremi estremi = EstremiDisegno();
   OttimizzaDisegno();
-  ScriviFileDisegno(nomeFile, tipoIntestazione, modoAvviso, estremi);
-  if (tipoIntestazione != 0 && modoAvviso == 0)
+  const bool scritto = ScriviFileDisegno(nomeFile, avvisi, intestazione, estremi);
+  if (scritto && avvisi == ModoAvviso::Tutti)
     MostraMessaggio("File " + nomeFile + " salvato.", "SALVA FILE DISEGNO", Icona::Informazione);
+  return scritto;
 }
 
 }  // namespace tarvel::disegno

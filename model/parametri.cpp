@@ -1,9 +1,9 @@
 // The defaults file: one value a line.
 #include "model/parametri.h"
 
-#include "app/cartelle.h"
 #include "base/errore.h"
 #include "base/numeri.h"
+#include "lavoro/cartelle.h"
 #include "platform/file.h"
 
 namespace tarvel {
@@ -19,15 +19,13 @@ Testo FileDefault() {
 void LeggiDefault() {
   auto file = FileInLettura::Apri(FileDefault());
   if (!file) return;
-  try {
-    for (Reale& p : ParametriSezione) {
-      const std::string_view voce = file->LeggiVoce();
-      const auto valore = InizioNumerico(voce);
-      if (!valore && !voce.empty()) return;
-      p = valore.value_or(0);
-    }
-  } catch (const ErroreFatale&) {
+  for (Reale& p : ParametriSezione) {
     // A short or spoiled file is no reason to stop a start: the user sees the values in the boxes.
+    const auto voce = file->ProssimaVoce();
+    if (!voce) return;
+    const auto valore = InizioNumerico(*voce);
+    if (!valore && !voce->empty()) return;
+    p = valore.value_or(0);
   }
 }
 

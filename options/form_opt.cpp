@@ -123,7 +123,7 @@ void FormOpt::Salva_Click() {
 
 void FormOpt::Applica_Click() {
   CopiaOpzioniOut();
-  GeneraDisegno(kAvvisiNessuno);
+  GeneraDisegno(disegno::ModoAvviso::Nessuno);
   Anteprima();
 }
 

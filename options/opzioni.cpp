@@ -3,9 +3,8 @@
 
 #include <optional>
 
-#include "app/cartelle.h"
-#include "base/errore.h"
 #include "base/numeri.h"
+#include "lavoro/cartelle.h"
 #include "platform/desktop.h"
 #include "platform/file.h"
 #include "platform/regione.h"
@@ -32,7 +31,7 @@ const VoceOpzione& Voce(int i) {
 }
 
 // The file is written with '.', whatever the region of who reads it.
-std::optional<Reale> Valore(int i, const Testo& parola) {
+std::optional<Reale> Valore(int i, std::string_view parola) {
   auto valore = NumeroInvariante(parola);
   if (!valore) valore = NumeroRegionale(parola, SeparatoreDecimale(), SeparatoreMigliaia());
   return valore && Ammesso(i, *valore) ? valore : std::nullopt;
@@ -46,13 +45,8 @@ void LeggiOpzioni() {
   if (!file) return;
   VettoreOpzioni lette;
   for (int i = 1; i <= kNumOpzioni; ++i) {
-    std::optional<Reale> valore;
-    try {
-      Testo riga(SenzaBlanchi(file->LeggiRiga()));
-      valore = Valore(i, PrimaParola(riga));
-    } catch (const ErroreFatale&) {
-      // A short file is reported as a spoiled line is.
-    }
+    auto riga = file->ProssimaRiga();
+    const auto valore = riga ? Valore(i, PrimaParola(*riga)) : std::nullopt;
     if (!valore) {
       MostraMessaggio(
           "File " + FileOpzioni() + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i),
@@ -67,8 +61,7 @@ void LeggiOpzioni() {
 void ScriviOpzioni() {
   Testo testo;
   for (int i = 1; i <= kNumOpzioni; ++i)
-    AccodaRiga(testo, FormatoNumero(Opzioni[i]) + Testo(10, ' ') +
-                          kVociOpzioni[static_cast<std::size_t>(i - 1)].etichettaFile);
+    AccodaRiga(testo, FormatoNumero(Opzioni[i]) + Testo(10, ' ') + Voce(i).etichettaFile);
   // A disk that is full has the same answer as a file that cannot be created.
   if (ScriviFile(FileOpzioni(), testo) != EsitoScrittura::Scritto)
     MostraMessaggio("Problemi con la scrittura del file " + FileOpzioni(), "ERRORE", Icona::Esclamazione);
@@ -87,16 +80,6 @@ Testo ValoriAmmessi(int i) {
   AccodaNumero(testo, voce.genere.minimo, SeparatoreDecimale());
   AccodaNumero(testo += " a ", voce.genere.massimo, SeparatoreDecimale());
   return testo;
-}
-
-Testo PrimaParola(Testo& riga) {
-  constexpr const char* kSeparatori = " \t";
-  const auto inizio = riga.find_first_not_of(kSeparatori);
-  if (inizio == Testo::npos) return {};
-  const auto fine = std::min(riga.find_first_of(kSeparatori, inizio), riga.size());
-  Testo parola = riga.substr(inizio, fine - inizio);
-  riga.erase(0, fine);
-  return parola;
 }
 
 }  // namespace tarvel

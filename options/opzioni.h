@@ -6,6 +6,7 @@
 #include "base/reale.h"
 #include "base/tabella.h"
 #include "base/testo.h"
+#include "drawing/colori.h"
 
 namespace tarvel {
 
@@ -56,23 +57,25 @@ struct VoceOpzione {
 
 /// One entry an option, in order. 14 and 15 have the file labels of 9 and 10: only their place tells
 /// them apart.
+// clang-format off
 inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
-    {"colore sezione", "Colore sezione", 3, kCodice},
-    {"tipo linea sezione", "Tipo linea sezione", 0, kCodice},
-    {"scala quote", "Scala quote", 1, kMisura},
-    {"distanza massima quote disegno", "Distanza massima quote-disegno", 130, kMisura},
-    {"lunghezza linee di estensione delle quote", "Lunghezza linee di estensione delle quote", 4, kMisura},
-    {"colore quota", "Colore linea di quota", 1, kCodice},
-    {"colore testo quota", "Colore testo della quota", 5, kCodice},
-    {"dimensione pallino", "Dimensione pallino della quota", 5, kMisura},
-    {"base testo", "Base testo quota", 10, kCarattere},
-    {"altezza testo", "Altezza testo quota", 15, kCarattere},
-    {"distanza testo quota", "Distanza testo- quota", 8, kMisura},
-    {"quote sup o inf", "Quote sup. / inf.", 1, kMisura},
-    {"colore testo", "Colore testi", 7, kCodice},
-    {"base testo", "Base testi", 20, kCarattere},
-    {"altezza testo", "Altezza testi", 20, kCarattere},
+    {"colore sezione",                            "Colore sezione",                            disegno::kRosso,   kCodice},
+    {"tipo linea sezione",                        "Tipo linea sezione",                        0,                 kCodice},
+    {"scala quote",                               "Scala quote",                               1,                 kMisura},
+    {"distanza massima quote disegno",            "Distanza massima quote-disegno",            130,               kMisura},
+    {"lunghezza linee di estensione delle quote", "Lunghezza linee di estensione delle quote", 4,                 kMisura},
+    {"colore quota",                              "Colore linea di quota",                     disegno::kBianco,  kCodice},
+    {"colore testo quota",                        "Colore testo della quota",                  disegno::kGiallo,  kCodice},
+    {"dimensione pallino",                        "Dimensione pallino della quota",            5,                 kMisura},
+    {"base testo",                                "Base testo quota",                          10,                kCarattere},
+    {"altezza testo",                             "Altezza testo quota",                       15,                kCarattere},
+    {"distanza testo quota",                      "Distanza testo- quota",                     8,                 kMisura},
+    {"quote sup o inf",                           "Quote sup. / inf.",                         1,                 kMisura},
+    {"colore testo",                              "Colore testi",                              disegno::kMagenta, kCodice},
+    {"base testo",                                "Base testi",                                20,                kCarattere},
+    {"altezza testo",                             "Altezza testi",                             20,                kCarattere},
 }};
+// clang-format on
 
 /// The options of "CapOpSez.txt" in DirCustom; the built-in defaults when it cannot be opened
 /// (silently) or is short or spoiled (with a message that names the line, the option and what it may be).
@@ -86,8 +89,5 @@ bool Ammesso(int i, Reale valore);
 
 /// Option i and what it may be, for the user: "Scala quote: un numero da … a …".
 Testo ValoriAmmessi(int i);
-
-/// The first word of a line; the line keeps the rest, from the separator (blank or tab) on.
-Testo PrimaParola(Testo& riga);
 
 }  // namespace tarvel

@@ -1,5 +1,9 @@
-// Sequential text files of 8-bit text with CR LF line ends. Paths are those of the program
-// (platform/comune/percorso.h).
+// Sequential text files of 8-bit text with CR LF line ends.
+//
+// Paths of the program use the backslash. Where the host separates by '/', a backslash becomes one
+// and each component is looked up: exactly first, then without regard to case (the program lower-cases
+// its folders, the host's may not be). From the first component that is not there on, a path is taken
+// as given.
 #pragma once
 
 #include <optional>
@@ -12,6 +16,10 @@
 #include "platform/ospite.h"
 
 namespace tarvel {
+
+/// A path as the user wrote it, before it was lower-cased: where names differ by case alone, its
+/// spelling is tried before any other.
+void RicordaGrafia(const Testo& percorso);
 
 /// A file of the host that is closed, unchecked, when it goes.
 class FileAperto {
@@ -34,21 +42,28 @@ inline constexpr std::size_t kRigaMassima = 1 << 20;
 
 /// A file read line by line or item by item. A line ends with CR LF or LF. After an item, the
 /// blanks that follow it, one comma or the line end belong to it; a whole line read after an item is
-/// always the next one, what is left of the item's line is passed over. Reading past the end, a line
-/// longer than kRigaMassima, a malformed item and a fault of the host are fatal, with file and line.
+/// always the next one, what is left of the item's line is passed over.
 class FileInLettura {
  public:
   /// Nothing when the file is not there or cannot be opened; anything but a regular file cannot be.
-  static std::optional<FileInLettura> Apri(const Testo& percorso);
+  [[nodiscard]] static std::optional<FileInLettura> Apri(const Testo& percorso);
 
-  /// The next whole line, without its end. The view holds until the next call.
-  std::string_view LeggiRiga();
+  // --- Of a file that may be short or spoiled: nothing past its end, for a line longer than
+  // kRigaMassima and for a fault of the host. Views hold until the next call.
+
+  /// The next whole line, without its end.
+  [[nodiscard]] std::optional<std::string_view> ProssimaRiga();
   /// Leading blanks skipped; ends at a comma or the line end; quotes around it are removed.
-  Testo LeggiVoceTesto();
-  /// What stands up to a comma, a blank or the line end, quotes removed. The view holds until the
-  /// next call.
-  std::string_view LeggiVoce();
-  /// A number in the invariant form; ends as LeggiVoce does.
+  [[nodiscard]] std::optional<std::string_view> ProssimaVoceTesto();
+  /// What stands up to a comma, a blank or the line end, quotes removed.
+  [[nodiscard]] std::optional<std::string_view> ProssimaVoce();
+
+  // --- Of a file without which the program cannot go on: the same readings; where they have nothing,
+  // and for a malformed item, the error is fatal, with file and line.
+
+  std::string_view LeggiRiga() { return Preteso(ProssimaRiga()); }
+  Testo LeggiVoceTesto() { return Testo(Preteso(ProssimaVoceTesto())); }
+  /// A number in the invariant form; ends as ProssimaVoce does.
   Reale LeggiVoceNumero();
   /// A whole number of 16 bits; ends as a number does.
   Intero16 LeggiVoceIntero();
@@ -58,18 +73,22 @@ class FileInLettura {
   [[noreturn]] void Malformato(const Testo& cosa) const;
 
  private:
+  enum class Mancanza { FineFile, RigaLunga, Guasto };
+
   FileInLettura(const Testo& percorso, FileAperto file) : percorso_(percorso), file_(std::move(file)) {}
+  /// Makes the current line ready to be read from; otherwise mancanza_ says why there is none.
+  bool Prepara();
   bool Riempi();
-  /// Makes the current line ready to be read from; fatal at the end of the file.
-  void Prepara();
-  std::string_view Voce(bool fineAlBlanco);
+  std::optional<std::string_view> Voce(bool fineAlBlanco);
+  std::string_view Preteso(std::optional<std::string_view> letto) const;
 
   Testo percorso_;
   FileAperto file_;
   Testo riga_;
   std::size_t letti_ = 0;    // characters of riga_ already taken
   bool rigaAperta_ = false;  // false: the next reading takes a new line
-  int numero_ = 0;           // of riga_ in the file
+  Mancanza mancanza_ = Mancanza::FineFile;
+  int numero_ = 0;  // of riga_ in the file
   Testo buffer_;
   std::size_t posto_ = 0;  // of the next character in buffer_
 };

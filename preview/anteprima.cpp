@@ -1,8 +1,9 @@
 // The viewer is started once; later previews only ask it to read the same file again.
 #include "preview/anteprima.h"
 
-#include "app/cartelle.h"
-#include "drawing/nome_file.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
+#include "platform/comune/scala.h"
 #include "platform/desktop.h"
 #include "platform/file.h"
 #include "platform/programmi.h"
@@ -22,17 +23,18 @@ void ErroreStop(const Testo& messaggio) {
 
 std::int32_t AvviaVisualizzatore(const Testo& percorso, std::int16_t stile) {
   const auto id = AvviaProgramma(percorso, stile);
-  // The path begins with the folder, which stands twice in the text: wanted so.
+  // The path begins with the folder, which so stands twice: the text is fixed.
   if (!id) ErroreStop("Problemi con l'apertura dell'applicazione " + DirProgra + percorso);
   return id.value_or(0);
 }
 
 bool ScriviInput(const Testo& percorso) {
   Testo testo;
-  // The viewer's own: an unused line, the drawing, then left, top, width and height of its window.
-  for (const Testo& riga : {Testo("inutilizzato"), DirLavori + NomeFileDisegno, Testo("1350"), Testo("5250"),
-                            Testo("9500"), Testo("3900")})
-    AccodaRiga(testo, riga);
+  AccodaRiga(testo, "inutilizzato");
+  AccodaRiga(testo, DirLavori + NomeFileDisegno);
+  const Rettangolo& p = kPostoVisualizzatore;
+  for (const int misura : {p.sinistra, p.alto, p.larghezza, p.altezza})
+    AccodaRiga(testo, std::to_string(misura));
   return ScriviFile(percorso, testo) == EsitoScrittura::Scritto;
 }
 

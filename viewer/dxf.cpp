@@ -63,7 +63,7 @@ void GruppoPunto(Dxf& dxf, int codice, double x, double y) {
 void Elemento(Dxf& dxf, std::string_view genere, Livello livello, int colore) {
   Gruppo(dxf, 0, genere);
   Gruppo(dxf, 8, kLivelli[static_cast<std::size_t>(livello)].nome);
-  GruppoIntero(dxf, 62, kColori[IndiceColore(colore)].dxf);
+  GruppoIntero(dxf, 62, kColoriDxf[IndiceColore(colore)]);
 }
 
 // Two percent signs begin a special character and a caret a control one; these are plain.
@@ -210,7 +210,7 @@ std::optional<Testo> ScriviDxf(const Disegno& disegno) {
   for (const Scritta& scritta : disegno.scritte) ScriviScritta(dxf, disegno, scritta);
   for (const Punto& punto : disegno.punti) {
     const Coordinata posto = Posto(disegno, punto.posizione);
-    Elemento(dxf, "POINT", Livello::Contorno, kBianco);
+    Elemento(dxf, "POINT", Livello::Contorno, tarvel::disegno::kBianco);
     GruppoPunto(dxf, 10, posto.x, posto.y);
   }
   Gruppo(dxf, 0, "ENDSEC");

@@ -15,9 +15,9 @@ QString FiltriEsportazione();
 
 /// Writes the file; its ending (.png, .svg, .pdf or .dxf, in any case) says the kind. Nothing on
 /// success, otherwise an Italian message; an existing file is then as it was.
-std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso);
+[[nodiscard]] std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso);
 
 /// One page, the drawing as large as the printable area allows. False when the printer refuses.
-bool Stampa(const Disegno& disegno, QPrinter& stampante);
+[[nodiscard]] bool Stampa(const Disegno& disegno, QPrinter& stampante);
 
 }  // namespace ostrel

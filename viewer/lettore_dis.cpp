@@ -63,10 +63,10 @@ class Lettore {
     std::string_view riga = Riga(attesa);
     std::array<std::string_view, N> voci;
     for (auto& voce : voci) {
-      voce = Stacca(riga);
+      voce = tarvel::PrimaParola(riga);
       if (voce.empty()) Rifiuta();
     }
-    if (!Stacca(riga).empty()) Rifiuta();
+    if (!tarvel::PrimaParola(riga).empty()) Rifiuta();
     return voci;
   }
 
@@ -126,14 +126,6 @@ class Lettore {
   }
 
  private:
-  static std::string_view Stacca(std::string_view& riga) {
-    riga.remove_prefix(std::min(riga.find_first_not_of(" \t"), riga.size()));
-    const auto fine = std::min(riga.find_first_of(" \t"), riga.size());
-    const std::string_view voce = riga.substr(0, fine);
-    riga.remove_prefix(fine);
-    return voce;
-  }
-
   std::string_view resto_;
   std::string_view riga_;
   std::string_view attesa_;

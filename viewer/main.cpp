@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstring>
 
-#include "platform/comune/percorso.h"
 #include "platform/comune/scala.h"
 #include "platform/qt/schermo.h"
 #include "viewer/avvio.h"
@@ -36,11 +35,10 @@ int EsportaSenzaFinestra(const QString& uscita, const QString& disegno) {
 std::optional<Avvio> CercaAvvio() {
   if (auto avvio = LeggiAvvio(kFileAvvio)) return avvio;
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
-  const auto host = tarvel::PercorsoHost(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio);
-  return host ? LeggiAvvio(*host) : std::nullopt;
+  return LeggiAvvio(tarvel::DaUtf8(cartella) + '\\' + kFileAvvio);
 }
 
-void Disponi(QWidget& finestra, const PostoFinestra& posto) {
+void Disponi(QWidget& finestra, const tarvel::Rettangolo& posto) {
   const QRect schermo = finestra.screen()->availableGeometry();
   const double scala = tarvel::PixelPerTwip(schermo.width(), schermo.height());
   const QSize misura =

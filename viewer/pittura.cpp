@@ -66,7 +66,7 @@ class Pittura {
   }
 
   void Punti() {
-    p_.setPen(Penna(fondo_, kBianco));
+    p_.setPen(Penna(fondo_, tarvel::disegno::kBianco));
     const double m = kMezzaCroce * fondo_.spessore;
     for (const Punto& punto : d_.punti) {
       const QPointF c = Verso(punto.posizione);
@@ -160,10 +160,10 @@ Fondo FondoCarta(double spessore) {
 
 QColor ColoreSu(const Fondo& fondo, int colore) {
   const std::size_t indice = IndiceColore(colore);
-  const ColoreTabella& voce = kColori[indice];
+  const tarvel::Colore voce = kColori[indice];
   QColor esito(voce.r, voce.g, voce.b);
-  if (Luminanza(fondo.colore) < 0.5) return indice == kNero ? QColor(128, 128, 128) : esito;
-  if (indice == kBianco) return Qt::black;
+  if (Luminanza(fondo.colore) < 0.5) return indice == tarvel::disegno::kNero ? QColor(128, 128, 128) : esito;
+  if (indice == tarvel::disegno::kBianco) return Qt::black;
   while ((Luminanza(fondo.colore) + 0.05) / (Luminanza(esito) + 0.05) < kContrastoCarta)
     esito = esito.darker(105);
   return esito;

@@ -28,23 +28,32 @@ void FileInLettura::Malformato(const Testo& cosa) const {
   throw ErroreFatale(TipoErrore::Formato, cosa, Luogo());
 }
 
+std::string_view FileInLettura::Preteso(std::optional<std::string_view> letto) const {
+  if (letto) return *letto;
+  if (mancanza_ == Mancanza::Guasto)
+    throw ErroreFatale(TipoErrore::File, "lettura del file non riuscita", Luogo());
+  Malformato(mancanza_ == Mancanza::RigaLunga ? "riga troppo lunga" : "fine del file inattesa");
+}
+
+// The next block of the file; false at its end and for a fault.
 bool FileInLettura::Riempi() {
   buffer_.resize(kBlocco);
   const auto letti = OspiteDeiFile().Leggi(*file_, buffer_);
   buffer_.resize(letti.value_or(0));
   posto_ = 0;
-  if (!letti) throw ErroreFatale(TipoErrore::File, "lettura del file non riuscita", Luogo());
-  return *letti > 0;
+  mancanza_ = letti ? Mancanza::FineFile : Mancanza::Guasto;
+  return !buffer_.empty();
 }
 
-void FileInLettura::Prepara() {
-  if (rigaAperta_) return;
+bool FileInLettura::Prepara() {
+  if (rigaAperta_) return true;
   ++numero_;
   riga_.clear();
   letti_ = 0;
   for (bool intera = false; !intera;) {
     if (posto_ == buffer_.size() && !Riempi()) {
-      if (riga_.empty()) Malformato("fine del file inattesa");
+      // The last line may lack its end; a fault leaves no line.
+      if (riga_.empty() || mancanza_ == Mancanza::Guasto) return false;
       break;
     }
     const auto fine = std::min(buffer_.find('\n', posto_), buffer_.size());
@@ -54,19 +63,23 @@ void FileInLettura::Prepara() {
     posto_ = intera ? fine + 1 : fine;
   }
   if (!riga_.empty() && riga_.back() == '\r') riga_.pop_back();
-  if (riga_.size() > kRigaMassima) Malformato("riga troppo lunga");
+  if (riga_.size() > kRigaMassima) {
+    mancanza_ = Mancanza::RigaLunga;
+    return false;
+  }
   rigaAperta_ = true;
+  return true;
 }
 
-std::string_view FileInLettura::LeggiRiga() {
+std::optional<std::string_view> FileInLettura::ProssimaRiga() {
   rigaAperta_ = false;
-  Prepara();
+  if (!Prepara()) return std::nullopt;
   rigaAperta_ = false;
   return riga_;
 }
 
-std::string_view FileInLettura::Voce(bool fineAlBlanco) {
-  Prepara();
+std::optional<std::string_view> FileInLettura::Voce(bool fineAlBlanco) {
+  if (!Prepara()) return std::nullopt;
   const std::string_view riga = riga_;
   const auto blanco = [](char c) { return c == ' ' || c == '\t'; };
   const auto primo = [&](std::size_t da, auto cercato) {
@@ -90,16 +103,16 @@ std::string_view FileInLettura::Voce(bool fineAlBlanco) {
   return riga.substr(inizio, fine - inizio);
 }
 
-Testo FileInLettura::LeggiVoceTesto() {
-  return Testo(Voce(false));
+std::optional<std::string_view> FileInLettura::ProssimaVoceTesto() {
+  return Voce(false);
 }
 
-std::string_view FileInLettura::LeggiVoce() {
+std::optional<std::string_view> FileInLettura::ProssimaVoce() {
   return Voce(true);
 }
 
 Reale FileInLettura::LeggiVoceNumero() {
-  const std::string_view voce = LeggiVoce();
+  const std::string_view voce = Preteso(ProssimaVoce());
   const auto valore = NumeroInvariante(voce);
   if (!valore) Malformato("numero non valido \"" + Testo(voce.substr(0, 40)) + "\"");
   return *valore;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "platform/file.h"
 #include "platform/ospite.h"
 
 namespace tarvel {

@@ -17,7 +17,7 @@ inline void Azzera() {
   SvuotaDisegno();
   OrigineX = OrigineY = 0;
   ColoreCorrente = TipoLineaCorrente = DecimaliQuote = 0;
-  FlagDisegno = kGeneraDisegno;
+  FlagDisegno = true;
 }
 
 class ConDisegno : public testing::Test {
@@ -25,7 +25,7 @@ class ConDisegno : public testing::Test {
   void SetUp() override { Azzera(); }
   void TearDown() override {
     Azzera();
-    FlagDisegno.clear();
+    FlagDisegno = false;
   }
 };
 

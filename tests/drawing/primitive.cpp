@@ -38,11 +38,11 @@ TEST_F(Primitive, CoordinateVicineESegmentiCheSiVedono) {
   };
   for (const auto& c : casi) {
     Azzera();
-    AggiungiCoordinata(-5, -5);
-    AggiungiCoordinata(0, 0);
-    for (int i = 0; i < c.altre; ++i) AggiungiCoordinata(i, 100);
-    EXPECT_EQ(AggiungiCoordinata(c.dx, c.dy), c.stessoPunto ? 1 : c.altre + 2) << c.dx << ' ' << c.dy;
-    Linea(0, 0, c.dx, c.dy);
+    AggiungiCoordinata({-5, -5});
+    AggiungiCoordinata({0, 0});
+    for (int i = 0; i < c.altre; ++i) AggiungiCoordinata({i, 100});
+    EXPECT_EQ(AggiungiCoordinata({c.dx, c.dy}), c.stessoPunto ? 1 : c.altre + 2) << c.dx << ' ' << c.dy;
+    Linea({0, 0}, {c.dx, c.dy});
     EXPECT_EQ(Disegno.Linee.numero, c.siVede ? 1 : 0) << c.dx << ' ' << c.dy;
   }
 }
@@ -56,14 +56,14 @@ TEST_F(Primitive, TabellePiene) {
     EXPECT_EQ(Mostrato(aggiungi), "");
     EXPECT_EQ(numero, capienza) << cosa;
   };
-  riempie(Disegno.Linee.numero, 50000, "elementi di disegno", [] { Linea(0, 0, 1, 1); });
-  riempie(Disegno.Archi.numero, 15000, "elementi di disegno", [] { Cerchio(0, 0, 1); });
-  riempie(Disegno.Testi.numero, 15000, "testi", [] { Testo("a", 0, 0, 0, 1, 1, 1); });
+  riempie(Disegno.Linee.numero, 50000, "elementi di disegno", [] { Linea({0, 0}, {1, 1}); });
+  riempie(Disegno.Archi.numero, 15000, "elementi di disegno", [] { Cerchio({0, 0}, 1); });
+  riempie(Disegno.Testi.numero, 15000, "testi", [] { Testo("a", {0, 0}, 0, 1, 1, 1); });
   Disegno.Coordinate.numero = 32768;
   Disegno.Coordinate[32767] = {3, 4};
-  EXPECT_EQ(AggiungiCoordinata(3, 4), 32767);
-  EXPECT_THROW(AggiungiCoordinata(5, 6), ErroreFatale);  // beyond 16-bit positions
-  EXPECT_THROW(AggiungiCoordinata(5, 6), ErroreFatale);
+  EXPECT_EQ(AggiungiCoordinata({3, 4}), 32767);
+  EXPECT_THROW(AggiungiCoordinata({5, 6}), ErroreFatale);  // beyond 16-bit positions
+  EXPECT_THROW(AggiungiCoordinata({5, 6}), ErroreFatale);
 }
 
 TEST_F(Primitive, RegistranoConOrigineColoreETipo) {
@@ -71,57 +71,57 @@ TEST_F(Primitive, RegistranoConOrigineColoreETipo) {
   OrigineY = -1;
   ColoreCorrente = 4;
   TipoLineaCorrente = 2;
-  Linea(0, 0, 1, 0);
-  Linea(1, 0, 1, 2, 0);
-  Cerchio(0, 0, 2, 0);
-  Cerchio(1, 2, 2, {}, 0, std::numbers::pi / 2);
-  Cerchio(0, 0, 0.0001);
-  Testo("x", 1, 2, -90, 1.25, 0.04, 0);
-  Testo("senza base", 0, 0, 0, 0, 1, 1);
+  Linea({0, 0}, {1, 0});
+  Linea({1, 0}, {1, 2}, 0);
+  Cerchio({0, 0}, 2, 0);
+  Cerchio({1, 2}, 2, {}, 0, std::numbers::pi / 2);
+  Cerchio({0, 0}, 0.0001);
+  Testo("x", {1, 2}, -90, 1.25, 0.04, 0);
+  Testo("senza base", {0, 0}, 0, 0, 1, 1);
   EXPECT_EQ(Fotografia(),
             "0x1.4p+3 -0x1p+0 ; 0x1.6p+3 -0x1p+0 ; 0x1.6p+3 0x1p+0 ; 0x1.8p+3 0x1p+0 ; 0x1.6p+3 0x1p+1 ; \n\n"
             "0 1 4 2 ; 1 2 0 2 ; \n0 1 0 1 1 0 ; 2 3 2 4 4 0 ; \n2 -90 12 0 1 x ; \n");
   for (const auto& [misura, decimi] :
        {std::pair{0.05, 0}, {0.15, 2}, {0.25, 2}, {-3, -30}, {3276.74, 32767}}) {
-    Testo("a", 0, 0, 0, misura, 1, 1);
+    Testo("a", {0, 0}, 0, misura, 1, 1);
     EXPECT_EQ(Disegno.Testi[Disegno.Testi.numero - 1].base10, decimi) << misura;
   }
-  EXPECT_THROW(Testo("a", 0, 0, 0, 1, 3276.75, 1), ErroreFatale);
+  EXPECT_THROW(Testo("a", {0, 0}, 0, 1, 3276.75, 1), ErroreFatale);
 }
 
 TEST_F(Primitive, SuUnaSuperficie) {
   std::ostringstream visto;
   const auto segna = [&](auto... v) { ((visto << v << ' '), ...); };
   const Superficie superficie{
-      [&](Coordinata da, Coordinata a, int rgb) { segna(da.y.Valore(), a.x.Valore(), rgb); },
-      [&](Coordinata c, Reale r, Reale da, Reale a, int rgb) {
-        segna(c.y.Valore(), r.Valore(), da.Valore(), a.Valore(), rgb);
+      [&](Coordinata da, Coordinata a, Colore c) { segna(da.y.Valore(), a.x.Valore(), int{c.b}); },
+      [&](Coordinata c, Reale r, Reale da, Reale a, Colore colore) {
+        segna(c.y.Valore(), r.Valore(), da.Valore(), a.Valore(), int{colore.g});
       }};
   OrigineY = 5;
   ColoreCorrente = 5;
-  Linea(1, 2, 3, 4, {}, &superficie);
-  Cerchio(1, 2, 3, 10, 0.5, {}, &superficie);
-  Linea(1, 2, 1, 2, 9, &superficie);
-  EXPECT_EQ(visto.str(), "2 3 0 2 1.5 0.5 0.5 16777215 ");
+  Linea({1, 2}, {3, 4}, {}, &superficie);
+  Cerchio({1, 2}, 3, 10, 0.5, {}, &superficie);
+  Linea({1, 2}, {1, 2}, 9, &superficie);
+  EXPECT_EQ(visto.str(), "2 3 0 2 1.5 0.5 0.5 255 ");
   EXPECT_EQ(Disegno.Coordinate.numero, 0);
 }
 
 TEST_F(Primitive, CaratteriATratti) {
   // Upright, the second character: glyph abscissas run up, ordinates to the left.
-  FlagDisegno = "";
+  FlagDisegno = false;
   SpaziaturaCaratteri = 50;
   FontPunti[0xE0] = 2;
   FontX[0xE0][1] = FontY[0xE0][1] = 99;
   FontY[0xE0][0] = 30;
-  Testo("a\xE0", 100, 200, 90, 10, 6, 3);
+  Testo("a\xE0", {100, 200}, 90, 10, 6, 3);
   EXPECT_EQ(Linee(), "100 210 94 215; ");
   FontPunti[0xE0] = 101;  // the last point has no partner
-  EXPECT_THROW(Testo("\xE0", 0, 0, 0, 10, 6, 3), ErroreFatale);
+  EXPECT_THROW(Testo("\xE0", {0, 0}, 0, 10, 6, 3), ErroreFatale);
   FontPunti[0xE0] = SpaziaturaCaratteri = 0;
 }
 
 // Colours 1 and 5, dots of 5, characters 1 by 2, label at 3, scale 1, extension 4, long side right.
-constexpr StileQuota kStile{1, 5, 5, 1, 2, 3, 1, 4, 0};
+constexpr StileQuota kStile{1, 5, 5, 1, 2, 3, 1, 4, Lato::Destra};
 
 std::string Etichetta(std::int32_t i) {
   const ElementoTesto& t = Disegno.Testi[i];
@@ -132,25 +132,24 @@ std::string Etichetta(std::int32_t i) {
 }
 
 TEST_F(Quote, LineaPalliniETestimoni) {
-  Quota("", 0, 100, 20, 20, kStile);
+  Quota({0, 20}, {100, 20}, kStile);
   EXPECT_EQ(Linee(), "-4 20 104 20; 0 24 0 12; 100 24 100 12; ");
   EXPECT_EQ(Disegno.Archi.numero, 2);
   const std::string andata = Fotografia();
   Azzera();
-  Quota("", 100, 0, 20, 20, kStile);
+  Quota({100, 20}, {0, 20}, kStile);
   EXPECT_EQ(Fotografia(), andata);
 
   Azzera();
   StileQuota stile = kStile;
-  stile.lato = 1;
-  Quota(" ", 7, 7, 50, 0, stile);  // runs upwards: the left is at smaller x
+  stile.lato = Lato::Sinistra;
+  Quota({7, 50}, {7, 0}, stile);  // runs upwards: the left is at smaller x
   EXPECT_EQ(Linee(), "7 -4 7 54; -1 0 11 0; -1 50 11 50; ");
-  EXPECT_EQ(Disegno.Testi.numero, 0);
 
   Azzera();
-  stile.coloreLinea = -1;
-  Quota("TITOLO", 0, 100, 0, 0, stile);
-  Quota("", 3, 3.00009, 3, 2.99991, kStile);
+  stile.coloreLinea = kSolaEtichetta;
+  Quota("TITOLO", {0, 0}, {100, 0}, stile);
+  Quota({3, 3}, {3.00009, 2.99991}, kStile);
   EXPECT_EQ(Disegno.Linee.numero + Disegno.Archi.numero, 0);
   EXPECT_EQ(Etichetta(0), "TITOLO @ 47 3 ang 0");
 }
@@ -176,7 +175,7 @@ TEST_F(Quote, ValorePostoEAngoloDellEtichetta) {
     DecimaliQuote = c.decimali;
     StileQuota stile = kStile;
     stile.scala = c.scala;
-    Quota("", c.x1, c.x2, c.y1, c.y2, stile);
+    Quota({c.x1, c.y1}, {c.x2, c.y2}, stile);
     EXPECT_EQ(Etichetta(0), c.attesa);
   }
 }
@@ -185,14 +184,14 @@ TEST_F(Quote, LeEtichetteLungheSiAlternano) {
   StileQuota stile = kStile;
   stile.base = 6;  // a label of two characters does not fit a length of 10
   const std::vector<Reale> ascisse = {0, 10, 20, 30, 130, 140, 240};
-  CatenaQuote(1, ascisse, 0, stile);
-  Quota("", 0, 10, 0, 0, stile);  // outside a chain it stays on its side
+  CatenaQuote(EtichetteCatena::Misure, ascisse, 0, stile);
+  Quota({0, 0}, {10, 0}, stile);  // outside a chain it stays on its side
   ASSERT_EQ(Disegno.Testi.numero, 7);
   const double attese[] = {-5, 3, -5, 3, -5, 3, 3};
   for (std::int32_t i = 0; i < 7; ++i) EXPECT_EQ(Punto(Disegno.Testi[i].posizione).y, attese[i]) << i;
 
   Azzera();
-  CatenaQuote(0, ascisse, 0, stile);
+  CatenaQuote(EtichetteCatena::Nessuna, ascisse, 0, stile);
   EXPECT_EQ(Disegno.Testi.numero, 0);
   EXPECT_EQ(Disegno.Archi.numero, 12);
 }

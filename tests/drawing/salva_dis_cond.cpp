@@ -2,7 +2,7 @@
 #include "drawing/salva_dis_cond.h"
 
 #include "drawing/funz_disegno.h"
-#include "drawing/nome_file.h"
+#include "lavoro/nome_disegno.h"
 #include "tests/drawing/attrezzi.h"
 
 namespace tarvel::disegno {
@@ -17,10 +17,8 @@ std::string Righe(const std::string& testo) {
 
 class FileDisegno : public ConDisegno {
  protected:
-  std::string Salvato(int intestazione = 0) {
-    Intero16 tipo = intestazione;
-    SalvaDisegno(nome_, tipo, 1);
-    EXPECT_EQ(tipo, 1);
+  std::string Salvato(Intestazione intestazione = Intestazione::Tre) {
+    EXPECT_TRUE(SalvaDisegno(nome_, ModoAvviso::Nessuno, intestazione));
     return prove::Contenuto(nome_);
   }
 
@@ -30,12 +28,12 @@ class FileDisegno : public ConDisegno {
 
 TEST_F(FileDisegno, TutteLeSezioni) {
   TipoLineaCorrente = 2;
-  Linea(-0.25, 0, 1e16, 12.5, 3);
-  Testo("A b", -0.25, -1e-5, 0, 1.5, 2.5, 0);
-  Testo("due\r\nrighe", -0.25, 0, -90, 0.5, 1, 4);
-  Testo("sparisce", 70, 80, 0, 0.04, 1, 4);
-  Cerchio(1e16, 12.5, 8, 6);
-  Cerchio(1e16, 12.5, 8, 6);
+  Linea({-0.25, 0}, {1e16, 12.5}, 3);
+  Testo("A b", {-0.25, -1e-5}, 0, 1.5, 2.5, 0);
+  Testo("due\r\nrighe", {-0.25, 0}, -90, 0.5, 1, 4);
+  Testo("sparisce", {70, 80}, 0, 0.04, 1, 4);
+  Cerchio({1e16, 12.5}, 8, 6);
+  Cerchio({1e16, 12.5}, 8, 6);
   Disegno.Punti.numero = 1;
   Disegno.Punti[0] = {1, 7, -8};
   EXPECT_EQ(Salvato(), Righe("                   3|-.25  1E+16 | 0  80 |-10000.000000        10000.000000|"
@@ -46,12 +44,12 @@ TEST_F(FileDisegno, TutteLeSezioni) {
 }
 
 TEST_F(FileDisegno, Vuoto) {
-  AggiungiCoordinata(9, 9);
-  AggiungiCoordinata(-1.5, 4);
+  AggiungiCoordinata({9, 9});
+  AggiungiCoordinata({-1.5, 4});
   Salvato();
   // Nothing referred to the two points: the last one is left in place 0.
   EXPECT_EQ(
-      Salvato(4),
+      Salvato(Intestazione::Quattro),
       Righe("                   4|-1.5 -1.5 | 4  4 |-10000.000000        10000.000000| 0 | 0 | 0 | 0 | 0 |"));
 }
 
@@ -62,19 +60,19 @@ TEST_F(FileDisegno, Avvisi) {
     return "message none \"ERRORE\" \"Errore durante la scrittura sul file" + nome + "\" -> ok\n";
   };
   const std::string senzaCartella = (cartella_ / "manca/x.dis").string(), pieno = "/dev/full";
-  const std::tuple<std::string, int, int, std::string> casi[] = {
-      {nome_, 0, 1, riuscito},
-      {nome_, 1, 1, ""},
-      {nome_, 2, 1, ""},
-      {senzaCartella, 0, 0, fallito(senzaCartella)},
-      {senzaCartella, 1, 0, ""},
-      {senzaCartella, 2, 0, fallito(senzaCartella)},
-      {pieno, 0, 0, fallito(pieno)},  // opens, and refuses every write
+  const std::tuple<std::string, ModoAvviso, bool, std::string> casi[] = {
+      {nome_, ModoAvviso::Tutti, true, riuscito},
+      {nome_, ModoAvviso::Nessuno, true, ""},
+      {nome_, ModoAvviso::Errori, true, ""},
+      {senzaCartella, ModoAvviso::Tutti, false, fallito(senzaCartella)},
+      {senzaCartella, ModoAvviso::Nessuno, false, ""},
+      {senzaCartella, ModoAvviso::Errori, false, fallito(senzaCartella)},
+      {pieno, ModoAvviso::Tutti, false, fallito(pieno)},  // opens, and refuses every write
   };
   for (const auto& [nome, modo, scritto, messaggio] : casi) {
-    Intero16 tipo = 0;
-    EXPECT_EQ(Mostrato([&] { SalvaDisegno(nome, tipo, modo); }), messaggio) << nome << ' ' << modo;
-    EXPECT_EQ(tipo, scritto) << nome << ' ' << modo;
+    bool esito = !scritto;
+    EXPECT_EQ(Mostrato([&] { esito = SalvaDisegno(nome, modo); }), messaggio) << nome;
+    EXPECT_EQ(esito, scritto) << nome;
   }
 }
 

@@ -1,9 +1,8 @@
 // Start-up: the argument of the parent application, then the two settings files. Any inconsistency
 // ends the program; there is no fallback folder.
-#include "app/cartelle.h"
+#include "lavoro/cartelle.h"
 
 #include "base/errore.h"
-#include "platform/comune/percorso.h"
 #include "platform/desktop.h"
 #include "platform/file.h"
 
@@ -48,18 +47,6 @@ Testo RadiceDa(const Testo& argomento) {
   return Minuscole(radice);
 }
 
-// What `leggi` takes from the file; nothing when the file is missing, empty or unreadable.
-template <class Lettura>
-std::optional<Testo> Leggi(const Testo& percorso, Lettura leggi) {
-  try {
-    auto file = FileInLettura::Apri(percorso);
-    if (!file) return std::nullopt;
-    return Testo(leggi(*file));
-  } catch (const ErroreFatale&) {
-    return std::nullopt;
-  }
-}
-
 }  // namespace
 
 void InizializzaDirettori() {
@@ -71,7 +58,8 @@ void InizializzaDirettori() {
   DirRoot = RadiceDa(riga);
 
   const Testo dirlav = "\\impostazioni\\dirlav";
-  const auto voce = Leggi(DirRoot + dirlav, [](FileInLettura& f) { return f.LeggiVoceTesto(); });
+  auto fileDirlav = FileInLettura::Apri(DirRoot + dirlav);
+  const auto voce = fileDirlav ? fileDirlav->ProssimaVoceTesto() : std::nullopt;
   if (!voce) RifiutaFile(dirlav);
   RicordaGrafia(Testo(SenzaBlanchi(*voce)));
   Testo lavori(SenzaBlanchi(Minuscole(*voce)));
@@ -83,7 +71,8 @@ void InizializzaDirettori() {
   if (DirRoot.ends_with('\\')) DirRoot.pop_back();
 
   const Testo lavoro = "\\impostazioni\\lavoro";
-  const auto nome = Leggi(DirRoot + lavoro, [](FileInLettura& f) { return f.LeggiRiga(); });
+  auto fileLavoro = FileInLettura::Apri(DirRoot + lavoro);
+  const auto nome = fileLavoro ? fileLavoro->ProssimaRiga() : std::nullopt;
   if (!nome || SenzaBlanchi(*nome).size() != 6) RifiutaFile(lavoro);
   NomeLavoro = SenzaBlanchi(*nome);
 

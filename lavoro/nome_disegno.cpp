@@ -1,5 +1,5 @@
 // The rules of the strictest host hold on every one: an installation may be shared.
-#include "drawing/nome_file.h"
+#include "lavoro/nome_disegno.h"
 
 #include <algorithm>
 
