@@ -52,13 +52,12 @@ std::vector<Punto> Poligono(const RecordSezione& r, int p) {
 
 TEST(Integrali, RettangoloInFormaChiusa) {
   const double b = 3, h = 2, y0 = -1.5;  // the axis y = 0 above it; lower edge at y0 - h
-  const Punto rettangolo[] = {{0, y0 - h}, {b, y0 - h}, {b, y0}, {0, y0}};
+  const Estremo rettangolo[] = {{0, y0 - h}, {b, y0 - h}, {b, y0}, {0, y0}};
   Reale A, Sy, Sz, Iy, Iz, Izy;
-  const auto vertice = [&](int v) { return EstremoQuarto(rettangolo[v - 1]); };
-  PerOgniLato(4, vertice, [&](const EstremoQuarto& da, const EstremoQuarto& a) {
+  PerOgniLato<Estremo>(rettangolo, [&](const Estremo& da, const Estremo& a) {
     const auto s = SegmentoDi(da, a);
     if (!s) return;
-    A -= AreaTrapezio(da.p, a.p);
+    A -= AreaTrapezio(da, a);
     Sy -= MomStaticoY(*s);
     Sz -= MomStaticoZ(*s);
     Iy -= MomInerziaY(*s);
@@ -76,7 +75,7 @@ TEST(Integrali, RettangoloInFormaChiusa) {
 
 TEST(Integrali, TolleranzaDelLatoVerticale) {
   const auto contribuisce = [](double z1, double z2) {
-    return SegmentoDi(Estremo({z1, 0}), Estremo({z2, 5})).has_value();
+    return SegmentoDi({z1, 0}, {z2, 5}).has_value();
   };
   EXPECT_FALSE(contribuisce(1, 1.0000999));
   EXPECT_TRUE(contribuisce(1, 1.0001001));
@@ -118,7 +117,7 @@ TEST(Caratteristiche, SecondoMetodoSuCentoSezioni) {
     vicini(r.YG, yG, "YG");
     vicini(r.Jyg, baricentrici.Izz, "Jyg");
     vicini(r.Jzg, baricentrici.Iyy, "Jzg");
-    if (n % 2 == 0) vicini(r.ZG, p[15].Valore() / 2, "ZG di una sezione simmetrica");
+    if (n % 2 == 0) vicini(r.ZG, p[kLarghezzaTotale].Valore() / 2, "ZG di una sezione simmetrica");
   }
 }
 
@@ -140,8 +139,9 @@ TEST(Caratteristiche, TensioniPerSecondoMetodo) {
     };
     const auto O = [&](int v) { return r.O(v); };
     const auto C = [&](int v) { return r.C(v); };
-    const double p1 = p[1].Valore(), b2 = std::fabs((O(13).y - C(4).y).Valore());
-    const double b8 = std::fabs((C(2).z - O(4).z).Valore()) * std::hypot(1, p[20].Valore() / 100);
+    const double p1 = p[kSolettaInferiore].Valore(), b2 = std::fabs((O(13).y - C(4).y).Valore());
+    const double b8 =
+        std::fabs((C(2).z - O(4).z).Valore()) * std::hypot(1, p[kInclinazioneAnime].Valore() / 100);
     const double tau10 = flusso({C(11), C(10), {C(10).z, O(5).y}, {C(11).z, O(5).y}}) / 2 / p1;
     const double tau2 = flusso({O(13), O(12), O(11), C(6), C(5), C(4)}) / 2 / b2;
     const double tau8 = flusso({O(4), C(2), C(1), C(11), {O(12).z, C(11).y}, {O(12).z, O(5).y}, O(5)}) / b8;
