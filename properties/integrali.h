@@ -98,9 +98,8 @@ inline Reale MomCentrifugo(const Segmento& s) {
 /// Calls lavoro(from, to) for each edge of a closed polygon, the closing one last.
 template <class Vertice, class Lavoro>
 void PerOgniLato(std::span<const Vertice> vertici, const Lavoro& lavoro) {
-  if (vertici.empty()) return;
-  for (std::size_t v = 1; v < vertici.size(); ++v) lavoro(vertici[v - 1], vertici[v]);
-  lavoro(vertici.back(), vertici.front());
+  const std::size_t n = vertici.size();
+  for (std::size_t v = 0; v < n; ++v) lavoro(vertici[v], vertici[v + 1 < n ? v + 1 : 0]);
 }
 
 /// Sum of AreaTrapezio over a closed polygon.

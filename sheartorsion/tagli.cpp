@@ -82,15 +82,16 @@ constexpr Copia kIntera = &CopieLavoro::SezioneBaricentrica;
 constexpr Copia kSuperiore = &CopieLavoro::ParteSuperiore;
 constexpr Copia kInferiore = &CopieLavoro::ParteInferiore;
 
+// clang-format off
+
 constexpr Taglio kTagliVy[] = {
     {8, kIntera, {O(4), C(2), C(1), C(11), {O(12), C(11)}, {O(12), O(5)}, O(5)}},
     {9, kIntera, {P(9), C(1), C(11), {O(12), C(11)}, {O(12), O(5)}, O(5)}},
     {10, kIntera, {C(11), C(10), {C(10), O(5)}, {C(11), O(5)}}},
     {6, kIntera, {O(5), C(1), C(11), C(10), C(9), O(6)}},
     {2, kIntera, {O(13), O(12), O(11), C(6), C(5), C(4)}},
-    {11,
-     kIntera,
-     {SulTettoSinistro(C(3)), O(13), O(12), O(11), SulTettoDestro(C(7)), C(7), C(6), C(5), C(4), C(3)}},
+    {11, kIntera, {SulTettoSinistro(C(3)), O(13), O(12), O(11), SulTettoDestro(C(7)),
+                   C(7), C(6), C(5), C(4), C(3)}},
     {13, kIntera, {O(1), P(13), O(3), O(2)}},
 };
 
@@ -104,6 +105,8 @@ constexpr Taglio kTagliVz[] = {
     {10, kInferiore, {B(1), B(2), {B(2), B(5)}, B(6)}},
     {12, kInferiore, {B(1), B(2), Mezzo(B(2)), Mezzo(B(6)), B(6)}},
 };
+
+// clang-format on
 
 using Parte = Tabella<"della parte tagliata", Estremo, 1, kMaxAngoli>;
 

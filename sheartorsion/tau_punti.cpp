@@ -23,27 +23,12 @@ enum class TensioneT {
   MinoreDi9e10,  // the smaller magnitude, negative
 };
 
-constexpr struct {
+struct RigaTorsione {
   int punto;
   int tag;              // of the label; -1: none is written here
   Larghezza larghezza;  // in the label, and of the wall
   TensioneT tensione;
   int indicatore;
-} kTorsione[] = {
-    {1, 2, Nulla, TensioneT::Zero, 2},
-    {2, 0, SolettaAlColmoSinistro, TensioneT::Piu, 2},
-    {3, 2, SolettaInMezzeria, TensioneT::Piu, 2},
-    {4, 0, SolettaAlColmoDestro, TensioneT::Del2, 2},
-    {5, 2, Nulla, TensioneT::Zero, 2},
-    {8, 0, AnimaPerTorsione, TensioneT::Meno, 1},
-    {9, 0, AnimaPerTorsione, TensioneT::Meno, 1},
-    {10, 2, SolettaInferiore, TensioneT::Meno, 2},
-    {6, -1, Nulla, TensioneT::MinoreDi9e10, 2},
-    {7, -1, Nulla, TensioneT::MinoreDi9e10, 2},
-    {11, 2, SolettaAlRaccordo, TensioneT::Piu, 2},
-    {12, 2, Fondo, TensioneT::Del10, 2},
-    {13, 1, AttaccoSbalzo, TensioneT::Zero, 1},
-    {14, 1, AnimaSullAsse, TensioneT::Piu, 1},
 };
 
 enum class TensioneVy {
@@ -54,26 +39,11 @@ enum class TensioneVy {
   OppostoDel6,
 };
 
-constexpr struct {
+struct RigaVy {
   int punto;
   Larghezza larghezza;
   TensioneVy tensione;
   int indicatore;
-} kTaglioVy[] = {
-    {1, Nulla, TensioneVy::Zero, 2},
-    {5, Nulla, TensioneVy::Zero, 2},
-    {8, Anima, TensioneVy::Intero, 1},
-    {9, Anima, TensioneVy::Intero, 1},
-    {10, SolettaInferiore, TensioneVy::Meta, 2},
-    {12, Nulla, TensioneVy::Zero, 2},
-    {6, Piede, TensioneVy::Meta, 2},
-    {7, Piede, TensioneVy::OppostoDel6, 2},
-    {2, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta, 2},
-    {4, Nulla, TensioneVy::OppostoDel2, 2},
-    {3, Nulla, TensioneVy::Zero, 2},
-    {11, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta, 2},  // the width of point 2, not its own
-    {13, AttaccoSbalzo, TensioneVy::Intero, 2},
-    {14, Modulo<AnimaSullAsse>, TensioneVy::Intero, 1},
 };
 
 struct RigaVz {
@@ -83,21 +53,66 @@ struct RigaVz {
   int indicatore;
 };
 
+// clang-format off
+
+constexpr RigaTorsione kTorsione[] = {
+    // point, TAG, width, stress, indicator
+    { 1,  2, Nulla,                  TensioneT::Zero,         2},
+    { 2,  0, SolettaAlColmoSinistro, TensioneT::Piu,          2},
+    { 3,  2, SolettaInMezzeria,      TensioneT::Piu,          2},
+    { 4,  0, SolettaAlColmoDestro,   TensioneT::Del2,         2},
+    { 5,  2, Nulla,                  TensioneT::Zero,         2},
+    { 8,  0, AnimaPerTorsione,       TensioneT::Meno,         1},
+    { 9,  0, AnimaPerTorsione,       TensioneT::Meno,         1},
+    {10,  2, SolettaInferiore,       TensioneT::Meno,         2},
+    { 6, -1, Nulla,                  TensioneT::MinoreDi9e10, 2},
+    { 7, -1, Nulla,                  TensioneT::MinoreDi9e10, 2},
+    {11,  2, SolettaAlRaccordo,      TensioneT::Piu,          2},
+    {12,  2, Fondo,                  TensioneT::Del10,        2},
+    {13,  1, AttaccoSbalzo,          TensioneT::Zero,         1},
+    {14,  1, AnimaSullAsse,          TensioneT::Piu,          1},
+};
+
+constexpr RigaVy kTaglioVy[] = {
+    // point, width, stress, indicator
+    { 1, Nulla,                          TensioneVy::Zero,        2},
+    { 5, Nulla,                          TensioneVy::Zero,        2},
+    { 8, Anima,                          TensioneVy::Intero,      1},
+    { 9, Anima,                          TensioneVy::Intero,      1},
+    {10, SolettaInferiore,               TensioneVy::Meta,        2},
+    {12, Nulla,                          TensioneVy::Zero,        2},
+    { 6, Piede,                          TensioneVy::Meta,        2},
+    { 7, Piede,                          TensioneVy::OppostoDel6, 2},
+    { 2, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta,        2},
+    { 4, Nulla,                          TensioneVy::OppostoDel2, 2},
+    { 3, Nulla,                          TensioneVy::Zero,        2},
+    {11, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta,        2},  // the width of point 2, not its own
+    {13, AttaccoSbalzo,                  TensioneVy::Intero,      2},
+    {14, Modulo<AnimaSullAsse>,          TensioneVy::Intero,      1},
+};
+
 constexpr RigaVz kTaglioVzSuperiore[] = {
-    {1, Nulla, 0, 1},
-    {5, Nulla, 0, 1},
-    {2, Modulo<SolettaAlColmoSinistro>, -1, 2},
-    {11, Modulo<SolettaAlRaccordo>, +1, 2},
-    {3, Modulo<SolettaInMezzeria>, -1, 2},
-    {4, Modulo<SolettaAlColmoDestro>, -1, 2},
-    {8, SommitaAnima, +1, 2},
-    {13, AttaccoSbalzo, +1, 2},  // cut from the whole section, with the upper part's coefficients
-    {14, Nulla, 0, 1},
+    // point, width, sign, indicator
+    { 1, Nulla,                           0, 1},
+    { 5, Nulla,                           0, 1},
+    { 2, Modulo<SolettaAlColmoSinistro>, -1, 2},
+    {11, Modulo<SolettaAlRaccordo>,      +1, 2},
+    { 3, Modulo<SolettaInMezzeria>,      -1, 2},
+    { 4, Modulo<SolettaAlColmoDestro>,   -1, 2},
+    { 8, SommitaAnima,                   +1, 2},
+    {13, AttaccoSbalzo,                  +1, 2},  // cut from the whole section, with this part's coefficients
+    {14, Nulla,                           0, 1},
 };
+
 constexpr RigaVz kTaglioVzInferiore[] = {
-    {9, Nulla, 0, 1},           {6, Nulla, 0, 1},           {7, Nulla, 0, 1},
-    {10, Modulo<Fondo>, +1, 2}, {12, Modulo<Fondo>, +1, 2},
+    { 9, Nulla,          0, 1},
+    { 6, Nulla,          0, 1},
+    { 7, Nulla,          0, 1},
+    {10, Modulo<Fondo>, +1, 2},
+    {12, Modulo<Fondo>, +1, 2},
 };
+
+// clang-format on
 
 Reale Tensione(Reale flusso, Reale larghezza) {
   return larghezza > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);

@@ -1,12 +1,15 @@
 // Properties in rungs: closed forms, the worked example, an independent second method, invariances.
 #include <gtest/gtest.h>
 
+#include <thread>
 #include <vector>
 
 #include "aiuti.h"
 #include "base/errore.h"
+#include "base/numeri.h"
 #include "properties/caratteristiche.h"
 #include "properties/integrali.h"
+#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {
@@ -74,9 +77,7 @@ TEST(Integrali, RettangoloInFormaChiusa) {
 }
 
 TEST(Integrali, TolleranzaDelLatoVerticale) {
-  const auto contribuisce = [](double z1, double z2) {
-    return SegmentoDi({z1, 0}, {z2, 5}).has_value();
-  };
+  const auto contribuisce = [](double z1, double z2) { return SegmentoDi({z1, 0}, {z2, 5}).has_value(); };
   EXPECT_FALSE(contribuisce(1, 1.0000999));
   EXPECT_TRUE(contribuisce(1, 1.0001001));
   EXPECT_TRUE(contribuisce(1.0001001, 1));
@@ -95,6 +96,12 @@ TEST(Caratteristiche, Esempio) {
   EXPECT_NEAR(r.Atz.Valore(), 52633, 1e-9);
   EXPECT_EQ(r.NumPunti, 14);
   EXPECT_EQ(r.Sigla, "A");
+
+  // On the edge of a hundredth: the last digit of the double decides.
+  const RecordSezione sulFilo =
+      Calcolata(prove::Vettore({299, 26,    15.2,  36.1, 76,  59,  35,   21.6, 23,  93.8, 24.9,
+                                11,  28.78, 35.26, 19,   521, 1.3, 4.53, 1,    .16, 0}));
+  EXPECT_EQ(FormatoNumero(Tronca(sulFilo.Atz, 2)), "31683.57");
 }
 
 // Relative tolerance: on a web of slope m = 50 the edge formula of Jzg subtracts terms of m³ z⁴, up to
@@ -154,24 +161,55 @@ TEST(Caratteristiche, TensioniPerSecondoMetodo) {
   }
 }
 
-// A second moment beyond a double is fatal and says where; what came before it stays.
+// Beyond a double is fatal and says where; what came before it stays, to the last edge.
 TEST(Caratteristiche, OverflowLasciaICampiPrecedenti) {
-  VettoreParametri p = Esempio();
-  for (int i = 0; i <= 15; ++i) p[i] = p[i] * 1e77;
-  RecordSezione r = Costruita(p);
-  r.Sigla = "prima";
-  r.Aty = -7;
-  try {
-    CalcolaCaratteristiche(r);
-    FAIL() << "nessun errore";
-  } catch (const ErroreFatale& e) {
-    EXPECT_EQ(e.tipo, TipoErrore::Overflow);
-    EXPECT_NE(e.dove.find("momenti d'inerzia"), Testo::npos) << e.dove;
+  const struct {
+    double scala, An;
+    const char* dove;
+  } casi[] = {{1e77, 60917.2, "momenti d'inerzia"}, {1e110, (20 + 28.75) / 2 * 250, "area e baricentro"}};
+  for (const auto& c : casi) {
+    VettoreParametri p = Esempio();
+    for (int i = 0; i <= kLarghezzaTotale; ++i) p[i] = p[i] * c.scala;
+    RecordSezione r = Costruita(p);
+    r.Sigla = "prima";
+    r.Aty = -7;
+    try {
+      CalcolaCaratteristiche(r);
+      FAIL() << "nessun errore";
+    } catch (const ErroreFatale& e) {
+      EXPECT_EQ(e.tipo, TipoErrore::Overflow);
+      EXPECT_EQ(e.dove, c.dove);
+    }
+    EXPECT_NEAR((r.BaseTotale / c.scala).Valore(), 1200, 1e-9);
+    EXPECT_NEAR((r.An / c.scala / c.scala).Valore(), c.An, 1e-6);
+    EXPECT_EQ(r.Aty, -7);
+    EXPECT_EQ(r.Sigla, "prima");
   }
-  EXPECT_NEAR(r.BaseTotale.Valore(), 1200e77, 1e68);
-  EXPECT_NEAR((r.An / 1e154).Valore(), 60917.2, 1e-6);
-  EXPECT_EQ(r.Aty, -7);
-  EXPECT_EQ(r.Sigla, "prima");
+}
+
+// Two threads on two sections, while the program's own state is of neither.
+TEST(Caratteristiche, DiQualunqueSezioneDaOgniThread) {
+  std::mt19937 caso(11);
+  const auto riassunto = [](const RecordSezione& r) {
+    return std::vector<Reale>{r.Jyg,     r.Jzg,       r.Jt,       r.Aty,      r.Atz,
+                              r.TauT[9], r.TauVy[11], r.TauVz[8], r.PuntoY[9]};
+  };
+  const auto lavoro = [&](const VettoreParametri& p, const RecordSezione& attesa, int& diversi) {
+    for (int n = 0; n < 2000; ++n) {
+      RecordSezione r = attesa;
+      CalcolaCaratteristiche(r, p, attesa.NumVertici);
+      diversi += riassunto(r) != riassunto(attesa);
+    }
+  };
+  const VettoreParametri p1 = Casuale(caso, false), p2 = Casuale(caso, false);
+  const RecordSezione r1 = Calcolata(p1), r2 = Calcolata(p2);
+  ParametriSezione = {};
+  VerticiPoligono = {};
+  int diversi1 = 0, diversi2 = 0;
+  std::thread altro([&] { lavoro(p2, r2, diversi2); });
+  lavoro(p1, r1, diversi1);
+  altro.join();
+  EXPECT_EQ(diversi1 + diversi2, 0);
 }
 
 }  // namespace
