@@ -108,7 +108,7 @@ void DisegnaQuote(const Vertici& v, Reale d, const DistanzeTesto& distanze) {
   const auto H = [&](int p, int k) { return v.H(p, k); };
   const auto V = [&](int p, int k) { return v.V(p, k); };
   // Height at x of the line of slope p16 through the top of the left tip.
-  const auto S = [&](Reale x) { return V(1, 1) + ParametriSezione[kPendenzaSinistra] * x / 100; };
+  const auto S = [&](Reale x) { return V(1, 1) + TettoSinistro(ParametriSezione, x); };
   const auto [T, opposta] = distanze;
   constexpr auto oriz = Verso::Orizzontale;
   constexpr auto vert = Verso::Verticale;

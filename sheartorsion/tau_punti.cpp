@@ -12,7 +12,7 @@
 namespace tarvel {
 namespace {
 
-using namespace larghezza;
+using namespace larghezza;  // for the tables
 
 enum class TensioneT {
   Zero,
@@ -190,6 +190,7 @@ void TaglioLungoY(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
     const Reale larghezza = riga.larghezza(pareti);
     r.TauVy[riga.punto] = tensione(riga.tensione, riga.punto, larghezza);
     r.IndicatoreTauVy[riga.punto] = riga.indicatore;
+    // Points 6 and 7 have no width of torsion to show.
     if (riga.larghezza == &Piede) ScriviEtichetta(r, riga.punto, 2, larghezza);
   }
 }

@@ -1,6 +1,7 @@
 // Properties in rungs: closed forms, the worked example, an independent second method, invariances.
 #include <gtest/gtest.h>
 
+#include <latch>
 #include <thread>
 #include <vector>
 
@@ -194,8 +195,10 @@ TEST(Caratteristiche, DiQualunqueSezioneDaOgniThread) {
     return std::vector<Reale>{r.Jyg,     r.Jzg,       r.Jt,       r.Aty,      r.Atz,
                               r.TauT[9], r.TauVy[11], r.TauVz[8], r.PuntoY[9]};
   };
+  std::latch insieme(2);
   const auto lavoro = [&](const VettoreParametri& p, const RecordSezione& attesa, int& diversi) {
-    for (int n = 0; n < 2000; ++n) {
+    insieme.arrive_and_wait();
+    for (int n = 0; n < 5000; ++n) {
       RecordSezione r = attesa;
       CalcolaCaratteristiche(r, p, attesa.NumVertici);
       diversi += riassunto(r) != riassunto(attesa);
