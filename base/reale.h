@@ -4,7 +4,8 @@
 
 #include <cmath>
 #include <compare>
-#include <limits>
+
+#include "base/potenza.h"
 
 namespace tarvel {
 
@@ -38,24 +39,27 @@ class Reale {
     if (x.valore_ < 0) ErroreNonValida("radice quadrata di un numero negativo");
     return Diretto(std::sqrt(x.valore_));
   }
-  /// x to a positive exponent, by the general power operation on doubles.
-  friend Reale Potenza(Reale x, double esponente) { return Esito(std::pow(x.valore_, esponente)); }
+  friend constexpr Reale Potenza(Reale x, int esponente) {
+    return Esito(tarvel::Potenza(x.valore_, esponente));
+  }
+  // These are the C library's, whose last bit may differ from one system to the next: the logarithm
+  // reaches Jt, the trigonometry the drawn texts.
   friend Reale Logaritmo(Reale x) {
     if (x.valore_ <= 0) ErroreNonValida("logaritmo di un numero non positivo");
     return Diretto(std::log(x.valore_));
   }
-  friend Reale Pavimento(Reale x) { return Diretto(std::floor(x.valore_)); }
-  friend Reale Assoluto(Reale x) { return Diretto(std::fabs(x.valore_)); }
   friend Reale Seno(Reale radianti) { return Diretto(std::sin(radianti.valore_)); }
   friend Reale Coseno(Reale radianti) { return Diretto(std::cos(radianti.valore_)); }
   friend Reale Arcotangente(Reale x) { return Diretto(std::atan(x.valore_)); }
+
+  friend Reale Pavimento(Reale x) { return Diretto(std::floor(x.valore_)); }
+  friend Reale Assoluto(Reale x) { return Diretto(std::fabs(x.valore_)); }
   /// The nearest whole number, halves to the even one.
   friend Reale Arrotondato(Reale x) { return Diretto(std::nearbyint(x.valore_)); }
 
  private:
   static constexpr double Controlla(double r) {
-    constexpr double limite = std::numeric_limits<double>::max();
-    if (!(r >= -limite && r <= limite)) [[unlikely]] {
+    if (!Finito(r)) [[unlikely]] {
       if (r != r) ErroreNonValida("operazione non valida");
       ErroreOverflow();
     }

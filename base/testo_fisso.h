@@ -1,8 +1,8 @@
 // A text of exactly N characters: a shorter one is padded with blanks, a longer one is cut.
 #pragma once
 
-#include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <string_view>
 
 #include "base/testo.h"
@@ -13,9 +13,12 @@ template <std::size_t N>
 class TestoFisso {
  public:
   TestoFisso() { caratteri_.fill(' '); }
-  TestoFisso& operator=(std::string_view testo) {
+  TestoFisso& operator=(std::string_view testo) { return Componi({testo}); }
+  /// The parts one after the other.
+  TestoFisso& Componi(std::initializer_list<std::string_view> parti) {
     caratteri_.fill(' ');
-    std::copy_n(testo.data(), std::min(testo.size(), N), caratteri_.data());
+    std::size_t n = 0;
+    for (const std::string_view parte : parti) n += parte.copy(caratteri_.data() + n, N - n);
     return *this;
   }
   std::string_view Intero() const { return {caratteri_.data(), N}; }

@@ -51,7 +51,7 @@ class FileDiCinquecento : public benchmark::Fixture {
     NumeroSezioni = kMaxSezioni;
     for (int i = 1; i <= kMaxSezioni; ++i) {
       RecordSezione& r = TabellaSezioni[i];
-      ParametriSezione[0] = 200 + i * 0.37;
+      ParametriSezione[kAltezzaTotale] = 200 + i * 0.37;
       CostruisciGeometria(r, ParametriSezione);
       CalcolaCaratteristiche(r);
       r.Nome = "U_PO_" + std::to_string(i);

@@ -24,7 +24,7 @@ using disegno::Lato;
 
 // Of the dimension lines from the outline.
 Reale DistanzaQuote() {
-  return Minimo(Opzioni[kDistanzaMassima], ParametriSezione[0] / 2);
+  return Minimo(Opzioni[kDistanzaMassima], ParametriSezione[kAltezzaTotale] / 2);
 }
 
 // Distances of a label from its dimension line: the standard side, and the other one.
@@ -108,7 +108,7 @@ void DisegnaQuote(const GeometriaSezione& g, Reale d, const DistanzeTesto& dista
   const auto O = [&](int v) { return g.O(v); };
   const auto C = [&](int v) { return g.C(v); };
   // Height at a point's abscissa of the line of slope p16 through the top of the left tip.
-  const auto S = [&](Punto p) { return O(1).y + ParametriSezione[16] * p.z / 100; };
+  const auto S = [&](Punto p) { return O(1).y + TettoSinistro(ParametriSezione, p.z); };
   const auto [T, opposta] = distanze;
   constexpr auto oriz = Verso::Orizzontale;
   constexpr auto vert = Verso::Verticale;

@@ -21,34 +21,40 @@ void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p)
   geometria.NumVertici[1] = VerticiPoligono[1];
   geometria.NumVertici[2] = VerticiPoligono[2];
 
-  const Reale L = p[15];
+  const Reale L = p[kLarghezzaTotale];
   const Reale h = L / 2;
+  const Reale sbalzo = p[kSbalzo];
+  const Reale colmo = p[kDaColmoAMezzeria];
+  const Reale raccordo = p[kRaccordoSuperiore];
 
   // Top surface: left break, crown, right break, right end.
-  const Reale yT1 = p[16] * (h - p[13]) / 100;
-  const Reale yT2 = yT1 + p[17] * p[13] / 100;
-  const Reale yT3 = yT2 + p[18] * p[13] / 100;
-  const Reale yT4 = yT3 + p[19] * (h - p[13]) / 100;
+  const auto sinistra = [&](Reale z) { return TettoSinistro(p, z); };
+  const Reale yT1 = sinistra(h - colmo);
+  const Reale yT2 = yT1 + p[kPendenzaColmoSinistra] * colmo / 100;
+  const Reale yT3 = yT2 + p[kPendenzaColmoDestra] * colmo / 100;
+  const Reale yT4 = yT3 + p[kPendenzaDestra] * (h - colmo) / 100;
+  const auto destra = [&](Reale daDestra) { return yT4 - p[kPendenzaDestra] * daDestra / 100; };
 
   // Soffit, floor of the cell, bottom end of the inner web faces.
-  const Reale yS = yT2 - p[0];
-  const Reale yF = yS + p[1];
-  const Reale yR = yF + p[8];
+  const Reale yS = yT2 - p[kAltezzaTotale];
+  const Reale yF = yS + p[kSolettaInferiore];
+  const Reale yR = yF + p[kAltezzaRaccordo];
 
   // Outer web faces, top and bottom ends.
-  const Reale zWL = p[9] + p[10];
-  const Reale yWL = p[16] * zWL / 100 - p[4];
-  const Reale zWR = L - p[9] - p[10];
-  const Reale yWR = yT4 - p[19] * (p[9] + p[10]) / 100 - p[4];
-  const Reale zBL = zWL + (p[20] / 100) * (yWL - yS);
-  const Reale zBR = zWR - (p[20] / 100) * (yWR - yS);
+  const Reale zWL = sbalzo + p[kDaSbalzoAdAnima];
+  const Reale yWL = sinistra(zWL) - p[kSommitaEsternaAnime];
+  const Reale zWR = L - sbalzo - p[kDaSbalzoAdAnima];
+  const Reale yWR = destra(zWL) - p[kSommitaEsternaAnime];
+  const Reale inclinazione = p[kInclinazioneAnime] / 100;
+  const Reale zBL = zWL + inclinazione * (yWL - yS);
+  const Reale zBR = zWR - inclinazione * (yWR - yS);
 
   // Inner web faces: w is the width of the web at its top, not an input.
-  const Reale w = h - (p[9] + p[10] + p[11] + p[12] + p[13]);
+  const Reale w = h - (zWL + raccordo + p[kDaRaccordoAColmo] + colmo);
   const Reale zIL = zWL + w;
-  const Reale yIL = p[16] * zIL / 100 - p[5];
+  const Reale yIL = sinistra(zIL) - p[kSommitaInternaAnime];
   const Reale zIR = zWR - w;
-  const Reale yIR = yT4 - p[19] * (p[9] + p[10] + w) / 100 - p[5];
+  const Reale yIR = destra(zWL + w) - p[kSommitaInternaAnime];
 
   // Both inner faces are parallel to the left outer one, whatever the right one does.
   const Reale s = Assoluto(yWL - yS) > kTolleranza ? (zBL - zWL) / (yWL - yS) : Reale(0);
@@ -57,33 +63,34 @@ void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p)
 
   const Punto contorno[] = {
       {0, 0},
-      {0, -p[2]},
-      {p[9], p[16] * p[9] / 100 - p[3]},
+      {0, -p[kEstremitaSbalzi]},
+      {sbalzo, sinistra(sbalzo) - p[kAttaccoSbalzi]},
       {zWL, yWL},
       {zBL, yS},
       {zBR, yS},
       {zWR, yWR},
-      {L - p[9], yT4 - p[19] * p[9] / 100 - p[3]},
-      {L, yT4 - p[2]},
+      {L - sbalzo, destra(sbalzo) - p[kAttaccoSbalzi]},
+      {L, yT4 - p[kEstremitaSbalzi]},
       {L, yT4},
-      {h + p[13], yT3},
+      {h + colmo, yT3},
       {h, yT2},
-      {h - p[13], yT1},
+      {h - colmo, yT1},
   };
   Scrivi(geometria, 1, contorno);
 
+  const Reale t = p[kSolettaMezzeria];
   const Punto cella[] = {
       {zRL, yR},
       {zIL, yIL},
-      {zIL + p[11], p[16] * (zIL + p[11]) / 100 - p[6]},
-      {h - p[13], yT1 - p[7]},
-      {h, yT2 - p[7]},
-      {h + p[13], yT3 - p[7]},
-      {zIR - p[11], yT4 - p[19] * (p[9] + p[10] + w + p[11]) / 100 - p[6]},
+      {zIL + raccordo, sinistra(zIL + raccordo) - p[kSolettaFineRaccordo]},
+      {h - colmo, yT1 - t},
+      {h, yT2 - t},
+      {h + colmo, yT3 - t},
+      {zIR - raccordo, destra(zWL + w + raccordo) - p[kSolettaFineRaccordo]},
       {zIR, yIR},
       {zRR, yR},
-      {zRR - p[14], yF},
-      {zRL + p[14], yF},
+      {zRR - p[kRaccordoInferiore], yF},
+      {zRL + p[kRaccordoInferiore], yF},
   };
   Scrivi(geometria, 2, cella);
 }

@@ -1,4 +1,4 @@
-// From the 21 dimensions to the outline and the cell.
+// From the 21 dimensions to the outline and the cell, and the lines of the top surface beside the crown.
 #pragma once
 
 #include "model/parametri.h"
@@ -12,5 +12,14 @@ inline constexpr char kNonCassone[] = "Le dimensioni non formano una sezione a c
 /// Writes polygons 1 (outline, 13 vertices) and 2 (cell, 11 vertices). It judges no shape: crossing
 /// dimensions give crossing polygons. An arithmetic fault is fatal.
 void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p);
+
+/// Height at z of the line through the left tip's top with the left slope.
+inline Reale TettoSinistro(const VettoreParametri& p, Reale z) {
+  return p[kPendenzaSinistra] * z / 100;
+}
+/// The same with the right slope, through the right break of the top surface.
+inline Reale TettoDestro(const VettoreParametri& p, Punto O11, Reale z) {
+  return (z - O11.z) * p[kPendenzaDestra] / 100 + O11.y;
+}
 
 }  // namespace tarvel

@@ -11,7 +11,35 @@ namespace tarvel {
 
 constexpr int kNumParametri = 21;
 
-/// Element i is box Text1(i): 0-8 heights, 9-15 bases, 16-20 slopes in percent.
+/// The dimensions, each with the number of its box Text1(i), which is its element of the vector. Depths
+/// are measured downward from the top surface, slopes rise to the right.
+enum Dimensione {
+  // Heights
+  kAltezzaTotale = 0,        // at mid-width, from the crown down to the soffit
+  kSolettaInferiore = 1,     // bottom slab
+  kEstremitaSbalzi = 2,      // tips of the cantilevers
+  kAttaccoSbalzi = 3,        // depth of the cantilevers' underside at their root
+  kSommitaEsternaAnime = 4,  // depth of the top ends of the outer web faces
+  kSommitaInternaAnime = 5,  // depth of the top ends of the inner web faces, where the upper fillets start
+  kSolettaFineRaccordo = 6,  // top slab at the inner ends of the upper fillets
+  kSolettaMezzeria = 7,      // top slab under the crown and the breaks beside it
+  kAltezzaRaccordo = 8,      // lower fillets, upward from the floor of the cell
+  // Bases
+  kSbalzo = 9,              // length of each cantilever
+  kDaSbalzoAdAnima = 10,    // from the cantilever's root to the top of the outer web face
+  kRaccordoSuperiore = 11,  // width of the upper fillets
+  kDaRaccordoAColmo = 12,   // from the upper fillet to the break of the top surface
+  kDaColmoAMezzeria = 13,   // from the break of the top surface to the crown
+  kRaccordoInferiore = 14,  // width of the lower fillets
+  kLarghezzaTotale = 15,
+  // Slopes in percent
+  kPendenzaSinistra = 16,       // top surface from the left end to the left break
+  kPendenzaColmoSinistra = 17,  // from the left break to the crown
+  kPendenzaColmoDestra = 18,    // from the crown to the right break
+  kPendenzaDestra = 19,         // from the right break to the right end
+  kInclinazioneAnime = 20,      // inset of the webs per unit of height: positive narrows downward
+};
+
 using VettoreParametri = Tabella<"delle dimensioni", Reale, 0, kNumParametri - 1>;
 
 extern VettoreParametri ParametriSezione;

@@ -2,6 +2,27 @@
 //
 // Axes: z horizontal, to the right, from the left edge; y vertical, upward, 0 at the top of the
 // left cantilever tip. Lengths are in whatever unit the user types.
+//
+//  O1 P1              P13              P11 O13 P2  O12 P3  O11 P4                               O10 P5
+//    o-----------------x----------------x----o------o------o---------------------------------------o
+//    |                                                                                             |
+//    o.........                            ..o------o------o..                            .........o
+//   O2         ........o..             /o..  C4     C5    C6  ..o\             ..o........         O9
+//                    O3   ...o       //   C3                C7    \\       o...  O8
+//                      O4 P8 \     o/ C2                         C8 \o     / O7
+//                             \     \                               /     /
+//                          P14 x     x P15                         /     /
+//                              \     \                             /     /
+//                              \      \                           /      /
+//                            P9 x      o\ C1                C9  /o      /
+//                                \       \\ C11          C10  //       /
+//                                \         \o---------------o/         /
+//                                \                                     /
+//                                 o---------x-------x-----------------o
+//                              O5 P6       P10     P12               O6 P7
+//
+// o: vertices of the outline (O1 to O13) and of the cell (C1 to C11). x: characteristic points that are
+// no vertex; P14 and P15 lie at the height of the centroid, where the axis crosses the left web.
 #pragma once
 
 #include "base/intero.h"
@@ -23,11 +44,13 @@ struct Punto {
   Reale z, y;
 };
 
+using ConteggiVertici = Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni>;
+
 /// Closed polygons, the first vertex not repeated. Polygon 1 is the outline, counter-clockwise;
 /// polygon 2 the cell, clockwise: signed integrals over both give the net section.
 struct GeometriaSezione {
   Intero16 NumPoligoni;
-  Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni> NumVertici;
+  ConteggiVertici NumVertici;
   Griglia<"dei vertici", Reale, kMaxPoligoni, kMaxVertici> VerticeY;
   Griglia<"dei vertici", Reale, kMaxPoligoni, kMaxVertici> VerticeZ;
 
@@ -36,7 +59,7 @@ struct GeometriaSezione {
     VerticeZ(poligono, v) = p.z;
     VerticeY(poligono, v) = p.y;
   }
-  /// Vertex v of the outline, vertex v of the cell: O4 and C4 in drawings and formulas.
+  /// Vertex v of the outline, vertex v of the cell.
   Punto O(int v) const { return Vertice(1, v); }
   Punto C(int v) const { return Vertice(2, v); }
 };

@@ -23,7 +23,7 @@ extern bool SezioneCalcolata;
 extern bool SezioneSalvata;
 
 /// Vertices of each polygon of an outline; the main form's load sets 13 and 11.
-extern Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni> VerticiPoligono;
+extern ConteggiVertici VerticiPoligono;
 
 /// 1-based index of the first record with exactly this name, 0 when there is none.
 Intero16 CercaSezione(std::string_view nome);

@@ -26,28 +26,28 @@ bool VerificaSezione(const RecordSezione& r) {
   const auto pendenza = [](Punto da, Punto a) { return Pendenza(a.y - da.y, a.z - da.z); };
   VettoreParametri& p = ParametriSezione;
 
-  p[0] = O(12).y - O(5).y;
-  p[1] = C(11).y - O(5).y;
-  p[2] = O(1).y - O(2).y;
-  p[9] = O(3).z - O(1).z;
-  p[10] = O(4).z - O(3).z;
-  p[11] = C(3).z - C(2).z;
-  p[12] = C(4).z - C(3).z;
-  p[13] = C(5).z - C(4).z;
-  p[14] = C(11).z - C(1).z;
-  p[8] = C(1).y - C(11).y;
-  p[15] = O(10).z - O(1).z;
-  p[7] = O(13).y - C(4).y;
-  p[16] = pendenza(O(1), O(13));
-  p[17] = pendenza(O(13), O(12));
-  p[18] = pendenza(O(12), O(11));
-  p[19] = pendenza(O(10), O(11));
-  p[20] = Pendenza(O(5).z - O(4).z, O(4).y - O(5).y);
+  p[kAltezzaTotale] = O(12).y - O(5).y;
+  p[kSolettaInferiore] = C(11).y - O(5).y;
+  p[kEstremitaSbalzi] = O(1).y - O(2).y;
+  p[kSbalzo] = O(3).z - O(1).z;
+  p[kDaSbalzoAdAnima] = O(4).z - O(3).z;
+  p[kRaccordoSuperiore] = C(3).z - C(2).z;
+  p[kDaRaccordoAColmo] = C(4).z - C(3).z;
+  p[kDaColmoAMezzeria] = C(5).z - C(4).z;
+  p[kRaccordoInferiore] = C(11).z - C(1).z;
+  p[kAltezzaRaccordo] = C(1).y - C(11).y;
+  p[kLarghezzaTotale] = O(10).z - O(1).z;
+  p[kSolettaMezzeria] = O(13).y - C(4).y;
+  p[kPendenzaSinistra] = pendenza(O(1), O(13));
+  p[kPendenzaColmoSinistra] = pendenza(O(13), O(12));
+  p[kPendenzaColmoDestra] = pendenza(O(12), O(11));
+  p[kPendenzaDestra] = pendenza(O(10), O(11));
+  p[kInclinazioneAnime] = Pendenza(O(5).z - O(4).z, O(4).y - O(5).y);
   // Depths below the line of slope p16, as it has just been cut.
-  p[3] = p[16] / 100 * p[9] - O(3).y;
-  p[4] = p[16] / 100 * O(4).z - O(4).y;
-  p[5] = p[16] / 100 * C(2).z - C(2).y;
-  p[6] = p[16] / 100 * C(3).z - C(3).y;
+  p[kAttaccoSbalzi] = p[kPendenzaSinistra] / 100 * p[kSbalzo] - O(3).y;
+  p[kSommitaEsternaAnime] = p[kPendenzaSinistra] / 100 * O(4).z - O(4).y;
+  p[kSommitaInternaAnime] = p[kPendenzaSinistra] / 100 * C(2).z - C(2).y;
+  p[kSolettaFineRaccordo] = p[kPendenzaSinistra] / 100 * C(3).z - C(3).y;
   return true;
 }
 

@@ -8,6 +8,6 @@ namespace tarvel {
 /// True when the record has the shape that this program builds: two polygons with the vertex counts
 /// of VerticiPoligono. ParametriSezione is then derived from its vertices, slopes cut down to three
 /// decimals of the ratio. Otherwise a message, and nothing changes.
-bool VerificaSezione(const RecordSezione& r);
+[[nodiscard]] bool VerificaSezione(const RecordSezione& r);
 
 }  // namespace tarvel

@@ -1,21 +1,16 @@
 // All four polygons run clockwise, so that their trapezoid sums are positive.
 #include "properties/aree_taglio.h"
 
-#include "model/parametri.h"
+#include "model/geometria.h"
 #include "properties/integrali.h"
 
 namespace tarvel {
 
-Reale AreaAnime(const GeometriaSezione& g) {
+Reale AreaAnime(const GeometriaSezione& g, const VettoreParametri& p) {
   const auto O = [&](int v) { return g.O(v); };
   const auto C = [&](int v) { return g.C(v); };
-
-  // The top of each strip is the top surface recomputed from its slope: from the left edge with
-  // p16, from the right end of the crown zone with p19.
-  const auto sopraSinistra = [&](Reale z) { return Punto{z, ParametriSezione[16] * z / 100}; };
-  const auto sopraDestra = [&](Reale z) {
-    return Punto{z, O(11).y + (z - O(11).z) * ParametriSezione[19] / 100};
-  };
+  const auto sopraSinistra = [&](Reale z) { return Punto{z, TettoSinistro(p, z)}; };
+  const auto sopraDestra = [&](Reale z) { return Punto{z, TettoDestro(p, O(11), z)}; };
 
   const Punto sinistra[] = {
       O(3), sopraSinistra(O(3).z), sopraSinistra(C(3).z), C(3), C(2), C(1), C(11), {C(11).z, O(5).y}, O(5),
@@ -32,8 +27,11 @@ Reale AreaSolette(const GeometriaSezione& g) {
 
   const Punto superiore[] = {O(1), O(13), O(12), O(11), O(10), O(9), O(8), O(7), C(8),
                              C(7), C(6),  C(5),  C(4),  C(3),  C(2), O(4), O(3), O(2)};
-  // Bounded by verticals through the ends of the soffit: the lean of the webs is left out.
-  const Punto inferiore[] = {{O(5).z, yR}, C(1), C(11), C(10), C(9), {O(6).z, yR}, O(6), O(5)};
+  // Bounded by verticals through the ends of the soffit: the lean of the webs is left out. The points
+  // left at (0, 0) are a detour that cancels on paper but not always in the last digit of a double, and
+  // the section file is to hold the digit with it.
+  const Punto inferiore[18] = {{O(5).z, yR}, C(1), C(11), C(10),       C(9),
+                               {O(6).z, yR}, O(6), O(5),  {O(5).z, yR}};
   return AreaPoligono(superiore) + AreaPoligono(inferiore);
 }
 

@@ -5,16 +5,13 @@
 #include "base/errore.h"
 #include "model/tabella_sezioni.h"
 #include "properties/aree_taglio.h"
-#include "properties/integrali.h"
+#include "properties/copia_lavoro.h"
 #include "properties/utilita.h"
 #include "sheartorsion/tau_punti.h"
 #include "sheartorsion/torsione.h"
 
 namespace tarvel {
 namespace {
-
-constexpr int kVerticiSuperiore = 18;
-constexpr int kVerticiInferiore = 6;
 
 struct Sommatori {
   Reale MomStaticoYTot;  // ∫ z dA
@@ -23,30 +20,29 @@ struct Sommatori {
 
 // `segno`: -1 for the whole section (counter-clockwise outline), +1 for the clockwise parts.
 // Vertical edges contribute nothing, not even to the area.
-void SommaAreaStatici(RecordSezione& r, int poligono, int n, int segno, Sommatori& somme) {
-  const auto vertice = [&](int v) { return Estremo(r.Vertice(poligono, v)); };
-  PerOgniLato(n, vertice, [&](const Estremo& da, const Estremo& a) {
+void SommaAreaStatici(const Poligono& poligono, int segno, Reale& An, Sommatori& somme) {
+  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
     const auto s = SegmentoDi(da, a);
     if (!s) return;
-    r.An += segno * AreaTrapezio(da.p, a.p);
+    An += segno * AreaTrapezio(da, a);
     somme.MomStaticoYTot += segno * MomStaticoY(*s);
     somme.MomStaticoZTot += segno * MomStaticoZ(*s);
   });
 }
 
-// Second moments of the outline of `g`, added to those of `r`; Jt takes the product moment.
-void SommaInerzie(const GeometriaSezione& g, RecordSezione& r, int poligono, int n, int segno) {
-  const auto vertice = [&](int v) { return EstremoQuarto(g.Vertice(poligono, v)); };
-  PerOgniLato(n, vertice, [&](const EstremoQuarto& da, const EstremoQuarto& a) {
+void SommaInerzie(const Poligono& poligono, int segno, Reale& Jyg, Reale& Jzg, Reale& Jyz) {
+  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
     const auto s = SegmentoDi(da, a);
     if (!s) return;
-    r.Jyg += segno * MomInerziaY(*s);
-    r.Jzg += segno * MomInerziaZ(*s);
-    r.Jt += segno * MomCentrifugo(*s);
+    Jyg += segno * MomInerziaY(*s);
+    Jzg += segno * MomInerziaZ(*s);
+    Jyz += segno * MomCentrifugo(*s);
   });
 }
 
-void ImpostaBaricentro(RecordSezione& r, const Sommatori& somme) {
+// `r`: the section or a part of it.
+template <class Record>
+void ImpostaBaricentro(Record& r, const Sommatori& somme) {
   const bool nulla = Assoluto(r.An) <= kTolleranza;
   r.YG = nulla ? Reale(0) : somme.MomStaticoZTot / r.An;
   r.ZG = nulla ? Reale(0) : somme.MomStaticoYTot / r.An;
@@ -59,84 +55,84 @@ void Ingombri(RecordSezione& r) {
   r.BaseTotale = Massimo(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
 }
 
-void CopiaBaricentrica(const RecordSezione& r, RecordSezione& copia) {
-  for (const int p : {1, 2})
-    for (int v = 1; v <= VerticiPoligono[p]; ++v) copia.ImpostaVertice(p, v, r.Vertice(p, v));
-  copia.ZG = r.ZG;
-  copia.YG = r.YG;
-  TraslaBaricentro(copia, 2, VerticiPoligono);
+void Copia(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {
+  for (int v = 1; v <= vertici[1]; ++v) copia.poligono1.Aggiungi(g.O(v));
+  for (int v = 1; v <= vertici[2]; ++v) copia.poligono2.Aggiungi(g.C(v));
 }
 
 // Top slab, cantilevers and webs, the cell opened at the bottom.
-void EstraiSuperiore(const RecordSezione& r, RecordSezione& parte) {
-  int n = 0;
-  for (const int v : {1, 13, 12, 11, 10, 9, 8, 7}) parte.ImpostaVertice(1, ++n, r.O(v));
-  for (const int v : {8, 7, 6, 5, 4, 3, 2}) parte.ImpostaVertice(1, ++n, r.C(v));
-  for (const int v : {4, 3, 2}) parte.ImpostaVertice(1, ++n, r.O(v));
+void EstraiSuperiore(const CopiaLavoro& intera, Poligono& parte) {
+  for (const int v : {1, 13, 12, 11, 10, 9, 8, 7}) parte.Aggiungi(intera.O(v));
+  for (const int v : {8, 7, 6, 5, 4, 3, 2}) parte.Aggiungi(intera.C(v));
+  for (const int v : {4, 3, 2}) parte.Aggiungi(intera.O(v));
 }
 
 // The bottom slab below the cell.
-void EstraiInferiore(const RecordSezione& r, RecordSezione& parte) {
-  int n = 0;
-  for (const int v : {1, 11, 10, 9}) parte.ImpostaVertice(1, ++n, r.C(v));
-  for (const int v : {6, 5}) parte.ImpostaVertice(1, ++n, r.O(v));
+void EstraiInferiore(const CopiaLavoro& intera, Poligono& parte) {
+  for (const int v : {1, 11, 10, 9}) parte.Aggiungi(intera.C(v));
+  for (const int v : {6, 5}) parte.Aggiungi(intera.O(v));
 }
 
 }  // namespace
 
 void CalcolaCaratteristiche(RecordSezione& sezione) {
-  RecordSezione SezioneBaricentrica, ParteSuperiore, ParteInferiore;
+  CalcolaCaratteristiche(sezione, ParametriSezione, VerticiPoligono);
+}
+
+void CalcolaCaratteristiche(RecordSezione& sezione, const VettoreParametri& p,
+                            const ConteggiVertici& vertici) {
+  CopieLavoro copie;
+  auto& [SezioneBaricentrica, ParteSuperiore, ParteInferiore] = copie;
 
   Durante("ingombri", [&] { Ingombri(sezione); });
 
   sezione.An = sezione.Jt = sezione.Jzg = sezione.Jyg = 0;
   Durante("area e baricentro", [&] {
+    Copia(sezione, vertici, SezioneBaricentrica);
+    EstraiSuperiore(SezioneBaricentrica, ParteSuperiore.poligono1);
+    EstraiInferiore(SezioneBaricentrica, ParteInferiore.poligono1);
     Sommatori somme;
-    for (const int p : {1, 2}) SommaAreaStatici(sezione, p, VerticiPoligono[p], -1, somme);
+    SommaAreaStatici(SezioneBaricentrica.poligono1, -1, sezione.An, somme);
+    SommaAreaStatici(SezioneBaricentrica.poligono2, -1, sezione.An, somme);
     ImpostaBaricentro(sezione, somme);
   });
 
   Durante("momenti d'inerzia", [&] {
-    CopiaBaricentrica(sezione, SezioneBaricentrica);
-    for (const int p : {1, 2}) SommaInerzie(SezioneBaricentrica, sezione, p, VerticiPoligono[p], -1);
+    SezioneBaricentrica.ZG = sezione.ZG;
+    SezioneBaricentrica.YG = sezione.YG;
+    TraslaBaricentro(SezioneBaricentrica);
+    // Jt holds the product moment until torsion replaces it.
+    SommaInerzie(SezioneBaricentrica.poligono1, -1, sezione.Jyg, sezione.Jzg, sezione.Jt);
+    SommaInerzie(SezioneBaricentrica.poligono2, -1, sezione.Jyg, sezione.Jzg, sezione.Jt);
     SezioneBaricentrica.Jyg = sezione.Jyg;
     SezioneBaricentrica.Jzg = sezione.Jzg;
-    SezioneBaricentrica.Jt = sezione.Jt;
+    SezioneBaricentrica.Jyz = sezione.Jt;
   });
 
   Reale qT;
   Durante("costante di torsione", [&] {
-    Reale omega;
-    CalcolaTorsione(sezione, omega, sezione.Jt);
+    const Reale omega = CalcolaTorsione(sezione, p, sezione.Jt);
     qT = Reale(1) / 2 / omega;
   });
 
   Durante("aree a taglio", [&] {
-    sezione.Aty = AreaAnime(sezione);
+    sezione.Aty = AreaAnime(sezione, p);
     sezione.Atz = AreaSolette(sezione);
   });
 
   Durante("parti superiore e inferiore", [&] {
-    EstraiSuperiore(sezione, ParteSuperiore);
-    EstraiInferiore(sezione, ParteInferiore);
-    struct {
-      RecordSezione& record;
-      int n;
-    } const parti[] = {{ParteSuperiore, kVerticiSuperiore}, {ParteInferiore, kVerticiInferiore}};
-    for (const auto& parte : parti) {
+    for (CopiaLavoro* parte : {&ParteSuperiore, &ParteInferiore}) {
       Sommatori somme;
-      SommaAreaStatici(parte.record, 1, parte.n, +1, somme);
-      ImpostaBaricentro(parte.record, somme);
+      SommaAreaStatici(parte->poligono1, +1, parte->An, somme);
+      ImpostaBaricentro(*parte, somme);
     }
-    for (const auto& parte : parti) {
-      const int conteggio[] = {0, parte.n};
-      TraslaBaricentro(parte.record, 1, conteggio);
-      SommaInerzie(parte.record, parte.record, 1, parte.n, +1);
+    for (CopiaLavoro* parte : {&ParteSuperiore, &ParteInferiore}) {
+      TraslaBaricentro(*parte);
+      SommaInerzie(parte->poligono1, +1, parte->Jyg, parte->Jzg, parte->Jyz);
     }
   });
 
-  Durante("tensioni nei punti caratteristici",
-          [&] { CalcolaTauPunti(sezione, SezioneBaricentrica, ParteSuperiore, ParteInferiore, qT); });
+  Durante("tensioni nei punti caratteristici", [&] { CalcolaTauPunti(sezione, copie, p, qT); });
 
   sezione.Sigla = "A";
   sezione.ValoreSigla = 0;

@@ -3,6 +3,7 @@
 // positive value, over a counter-clockwise one the negative; units are those of the coordinates.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 
@@ -10,59 +11,102 @@
 
 namespace tarvel {
 
-/// A vertex with the powers of its abscissa, which the integrals over both its edges share.
-struct Estremo {
-  explicit Estremo(Punto v) : p(v), z2(Potenza(v.z, 2)), z3(Potenza(v.z, 3)) {}
-  Punto p;
-  Reale z2, z3;
+/// A vertex that keeps the powers of its abscissa: the integrals over both its edges need them, and so
+/// does every cut that passes through it. They are not checked, as not every integral reads them all: an
+/// outline too large for fourth powers still has an area.
+struct Estremo : Punto {
+  Estremo() = default;
+  Estremo(Reale ascissa, Reale ordinata)
+      : Punto{ascissa, ordinata},
+        potenze{ascissa.Valore(), Potenza(ascissa.Valore(), 2), Potenza(ascissa.Valore(), 3),
+                Potenza(ascissa.Valore(), 4)} {}
+  Estremo(Punto p) : Estremo(p.z, p.y) {}
+
+  std::array<double, 4> potenze{};  // z, z², z³, z⁴
 };
 
-/// An edge that is not vertical: its line y = m z + q and the differences z2^n - z1^n of its abscissas.
+/// An edge that is not vertical, on its line y = PendenzaSegmento z + TermineNotoSegmento.
 struct Segmento {
+  const Estremo& da;
+  const Estremo& a;
   Reale PendenzaSegmento, TermineNotoSegmento;
-  Reale d1, d2, d3;
+
+  /// The value of formula(d, m, q), where d(n) is z2^n - z1^n. It is evaluated in plain doubles, with one
+  /// check at the end: sums, products and powers never turn finite again what is not. Only after a fault
+  /// it is gone through once more in checked numbers, for the very operation that failed to report it.
+  /// So a formula neither compares nor divides by anything but constants.
+  template <class Formula>
+  Reale Integra(const Formula& formula) const {
+    const auto d = [this](int n) {
+      const auto i = static_cast<std::size_t>(n - 1);
+      return a.potenze[i] - da.potenze[i];
+    };
+    const double valore = formula(d, PendenzaSegmento.Valore(), TermineNotoSegmento.Valore());
+    if (Finito(valore)) [[likely]]
+      return valore;
+    return formula([this](int n) { return Potenza(a.z, n) - Potenza(da.z, n); }, PendenzaSegmento,
+                   TermineNotoSegmento);
+  }
 };
 
 /// Nothing for an edge with |z1 - z2| within the tolerance: it contributes to no integral.
-std::optional<Segmento> SegmentoDi(const Estremo& da, const Estremo& a);
+inline std::optional<Segmento> SegmentoDi(const Estremo& da, const Estremo& a) {
+  const Reale corsa = a.z - da.z;
+  if (Assoluto(corsa) <= kTolleranza) return std::nullopt;
+  const Reale m = (a.y - da.y) / corsa;
+  return Segmento{da, a, m, da.y - m * da.z};
+}
 
 /// Integral of dA by the trapezoid, also for vertical edges.
 inline Reale AreaTrapezio(Punto da, Punto a) {
   return (da.y + a.y) * (a.z - da.z) / 2;
 }
 
-Reale MomStaticoY(const Segmento& s);  ///< integral of z dA
-Reale MomStaticoZ(const Segmento& s);  ///< integral of y dA
+/// Integral of z dA.
+inline Reale MomStaticoY(const Segmento& s) {
+  return s.Integra([](auto d, auto m, auto q) { return d(2) * q / 2 + d(3) * m / 3; });
+}
 
-/// Second moments need the fourth powers too; an outline too large for them still has an area.
-struct EstremoQuarto : Estremo {
-  explicit EstremoQuarto(Punto v) : Estremo(v), z4(Potenza(v.z, 4)) {}
-  Reale z4;
-};
-struct SegmentoQuarto : Segmento {
-  Reale d4;
-};
-std::optional<SegmentoQuarto> SegmentoDi(const EstremoQuarto& da, const EstremoQuarto& a);
+/// Integral of y dA.
+inline Reale MomStaticoZ(const Segmento& s) {
+  return s.Integra([](auto d, auto m, auto q) {
+    return (Potenza(m, 2) * d(3) / 3 + m * q * d(2) + Potenza(q, 2) * d(1)) / 2;
+  });
+}
 
-Reale MomInerziaY(const SegmentoQuarto& s);    ///< integral of z² dA
-Reale MomInerziaZ(const SegmentoQuarto& s);    ///< integral of y² dA
-Reale MomCentrifugo(const SegmentoQuarto& s);  ///< integral of z·y dA
+/// Integral of z² dA.
+inline Reale MomInerziaY(const Segmento& s) {
+  return s.Integra([](auto d, auto m, auto q) { return d(3) * q / 3 + d(4) * m / 4; });
+}
 
-/// Calls lavoro(from, to) for each edge of a closed polygon of n vertices, the closing one last;
-/// vertice(v) is asked once for each.
+/// Integral of y² dA.
+inline Reale MomInerziaZ(const Segmento& s) {
+  return s.Integra([](auto d, auto m, auto q) {
+    return (Potenza(m, 3) * d(4) / 4 + Potenza(m, 2) * q * d(3) + 3 * m * Potenza(q, 2) * d(2) / 2 +
+            Potenza(q, 3) * d(1)) /
+           3;
+  });
+}
+
+/// Integral of z·y dA.
+inline Reale MomCentrifugo(const Segmento& s) {
+  return s.Integra([](auto d, auto m, auto q) {
+    return (Potenza(m, 2) * d(4) / 4 + 2 * m * q * d(3) / 3 + Potenza(q, 2) * d(2) / 2) / 2;
+  });
+}
+
+/// Calls lavoro(from, to) for each edge of a closed polygon, the closing one last.
 template <class Vertice, class Lavoro>
-void PerOgniLato(int n, Vertice vertice, Lavoro lavoro) {
-  const auto primo = vertice(1);
-  auto da = primo;
-  for (int v = 2; v <= n; ++v) {
-    const auto a = vertice(v);
-    lavoro(da, a);
-    da = a;
-  }
-  lavoro(da, primo);
+void PerOgniLato(std::span<const Vertice> vertici, const Lavoro& lavoro) {
+  const std::size_t n = vertici.size();
+  for (std::size_t v = 0; v < n; ++v) lavoro(vertici[v], vertici[v + 1 < n ? v + 1 : 0]);
 }
 
 /// Sum of AreaTrapezio over a closed polygon.
-Reale AreaPoligono(std::span<const Punto> vertici);
+inline Reale AreaPoligono(std::span<const Punto> vertici) {
+  Reale area;
+  PerOgniLato<Punto>(vertici, [&](Punto da, Punto a) { area += AreaTrapezio(da, a); });
+  return area;
+}
 
 }  // namespace tarvel

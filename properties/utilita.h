@@ -29,14 +29,4 @@ inline Reale Distanza(Punto a, Punto b) {
   return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
 }
 
-/// Shifts the first `numPoligoni` polygons so that the record's centroid becomes the origin.
-template <class Conteggi>
-void TraslaBaricentro(RecordSezione& sezione, int numPoligoni, const Conteggi& numVertici) {
-  for (int p = 1; p <= numPoligoni; ++p)
-    for (int v = 1; v <= numVertici[p]; ++v) {
-      sezione.VerticeZ(p, v) -= sezione.ZG;
-      sezione.VerticeY(p, v) -= sezione.YG;
-    }
-}
-
 }  // namespace tarvel

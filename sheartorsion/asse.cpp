@@ -21,8 +21,8 @@ int Cerca(const auto& attraversato) {
   return 0;
 }
 
-// On horizontal edges the choice of the end compares an abscissa with an ordinate. That is how the
-// values of existing section files came about, and it is to stay so.
+// On horizontal edges the choice of the end compares an abscissa with an ordinate. As geometry it means
+// nothing, but the stored stresses of point 14 depend on it.
 Reale AscissaEsterna(Punto a, Punto b, Reale y) {
   if (Orizzontale(a, b)) return b.z >= a.y ? b.z : a.z;
   return Interpola(a, b, y);

@@ -1,9 +1,10 @@
-// The cut-off parts of the section, whose static moments give the shear flows.
+// The cut-off parts of the section, whose static moments give the shear flows (Jourawski).
 #pragma once
 
 #include <span>
 
-#include "model/sezione.h"
+#include "model/parametri.h"
+#include "properties/copia_lavoro.h"
 #include "sheartorsion/asse.h"
 
 namespace tarvel {
@@ -15,18 +16,32 @@ struct MomentiStatici {
 
 /// Static moments of a closed polygon times the sign k, by the edge integrals; vertical edges
 /// contribute nothing.
-MomentiStatici MomentiStaticiPoligono(std::span<const Punto> vertici, int k);
+[[nodiscard]] MomentiStatici MomentiStaticiPoligono(std::span<const Estremo> vertici, int k);
 
-/// The part cut off at a characteristic point for shear along y; all from the centroidal copy of
-/// the whole section. Points 2, 6, 8, 9, 10, 11 and 13.
-MomentiStatici TaglioVy(const RecordSezione& baricentrica, int punto);
+/// What the cuts are made on.
+struct Tagliabile {
+  const CopieLavoro& copie;
+  const VettoreParametri& p;
+  const AsseBaricentrico& asse;
+};
 
-/// The same at point 14, from the crossings of the centroidal axis. Crossings that need more than
-/// 13 points are a fatal index error.
-MomentiStatici TaglioAsse(const RecordSezione& baricentrica, const AsseBaricentrico& asse);
+struct CoefficientiVy {
+  Reale CoeffVy1, CoeffVy2;  // of ∫y dA / Jzg and of ∫z dA / Jyg
+};
+struct CoefficientiVz {
+  Reale CoeffVz1, CoeffVz2;  // of ∫z dA / Jyg and of ∫y dA / Jzg
+};
 
-/// The part cut off for shear along z, from the working copy that the point belongs to: the upper
-/// part for 2, 3, 4, 8 and 11, the lower one for 10 and 12, the whole section for 13.
-MomentiStatici TaglioVz(const RecordSezione& copia, int punto);
+CoefficientiVy CoefficientiDi(const CopiaLavoro& SezioneBaricentrica);
+/// `quota`: the part's share of the area of both parts.
+CoefficientiVz CoefficientiDi(const CopiaLavoro& parte, Reale quota);
+
+/// The flow of a unit shear along y at points 2, 6, 8, 9, 10, 11, 13 and 14. At point 14 the crossings of
+/// the centroidal axis bound the part; crossings that need more than 13 corners are a fatal index error.
+[[nodiscard]] Reale FlussoVy(const Tagliabile& s, int punto, const CoefficientiVy& c);
+
+/// The flow of a unit shear along z, on the upper part at points 2, 3, 4, 8 and 11, on the lower one at 10
+/// and 12, on the whole section at 13.
+[[nodiscard]] Reale FlussoVz(const Tagliabile& s, int punto, const CoefficientiVz& c);
 
 }  // namespace tarvel

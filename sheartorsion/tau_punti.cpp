@@ -1,16 +1,118 @@
 // Points first, then torsion with the labels, then the two shear directions: the order in which the
-// fields are written.
+// fields are written. One table for each, one row a point, in the order in which they are written too.
 #include "sheartorsion/tau_punti.h"
 
 #include "base/numeri.h"
-#include "model/parametri.h"
-#include "properties/integrali.h"
+#include "model/geometria.h"
 #include "properties/utilita.h"
 #include "sheartorsion/asse.h"
+#include "sheartorsion/larghezze.h"
 #include "sheartorsion/tagli.h"
 
 namespace tarvel {
 namespace {
+
+using namespace larghezza;  // for the tables
+
+enum class TensioneT {
+  Zero,
+  Piu,           // qT by the width
+  Meno,          // -qT by the width
+  Del2,          // that of point 2
+  Del10,         // that of point 10
+  MinoreDi9e10,  // the smaller magnitude, negative
+};
+
+struct RigaTorsione {
+  int punto;
+  int tag;              // of the label; -1: none is written here
+  Larghezza larghezza;  // in the label, and of the wall
+  TensioneT tensione;
+  int indicatore;
+};
+
+enum class TensioneVy {
+  Zero,
+  Intero,  // the flow by the width
+  Meta,    // half of it: it parts to both sides
+  OppostoDel2,
+  OppostoDel6,
+};
+
+struct RigaVy {
+  int punto;
+  Larghezza larghezza;
+  TensioneVy tensione;
+  int indicatore;
+};
+
+struct RigaVz {
+  int punto;
+  Larghezza larghezza;
+  int segno;  // of the flow; 0: no stress
+  int indicatore;
+};
+
+// clang-format off
+
+constexpr RigaTorsione kTorsione[] = {
+    // point, TAG, width, stress, indicator
+    { 1,  2, Nulla,                  TensioneT::Zero,         2},
+    { 2,  0, SolettaAlColmoSinistro, TensioneT::Piu,          2},
+    { 3,  2, SolettaInMezzeria,      TensioneT::Piu,          2},
+    { 4,  0, SolettaAlColmoDestro,   TensioneT::Del2,         2},
+    { 5,  2, Nulla,                  TensioneT::Zero,         2},
+    { 8,  0, AnimaPerTorsione,       TensioneT::Meno,         1},
+    { 9,  0, AnimaPerTorsione,       TensioneT::Meno,         1},
+    {10,  2, SolettaInferiore,       TensioneT::Meno,         2},
+    { 6, -1, Nulla,                  TensioneT::MinoreDi9e10, 2},
+    { 7, -1, Nulla,                  TensioneT::MinoreDi9e10, 2},
+    {11,  2, SolettaAlRaccordo,      TensioneT::Piu,          2},
+    {12,  2, Fondo,                  TensioneT::Del10,        2},
+    {13,  1, AttaccoSbalzo,          TensioneT::Zero,         1},
+    {14,  1, AnimaSullAsse,          TensioneT::Piu,          1},
+};
+
+constexpr RigaVy kTaglioVy[] = {
+    // point, width, stress, indicator
+    { 1, Nulla,                          TensioneVy::Zero,        2},
+    { 5, Nulla,                          TensioneVy::Zero,        2},
+    { 8, Anima,                          TensioneVy::Intero,      1},
+    { 9, Anima,                          TensioneVy::Intero,      1},
+    {10, SolettaInferiore,               TensioneVy::Meta,        2},
+    {12, Nulla,                          TensioneVy::Zero,        2},
+    { 6, Piede,                          TensioneVy::Meta,        2},
+    { 7, Piede,                          TensioneVy::OppostoDel6, 2},
+    { 2, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta,        2},
+    { 4, Nulla,                          TensioneVy::OppostoDel2, 2},
+    { 3, Nulla,                          TensioneVy::Zero,        2},
+    {11, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta,        2},  // the width of point 2, not its own
+    {13, AttaccoSbalzo,                  TensioneVy::Intero,      2},
+    {14, Modulo<AnimaSullAsse>,          TensioneVy::Intero,      1},
+};
+
+constexpr RigaVz kTaglioVzSuperiore[] = {
+    // point, width, sign, indicator
+    { 1, Nulla,                           0, 1},
+    { 5, Nulla,                           0, 1},
+    { 2, Modulo<SolettaAlColmoSinistro>, -1, 2},
+    {11, Modulo<SolettaAlRaccordo>,      +1, 2},
+    { 3, Modulo<SolettaInMezzeria>,      -1, 2},
+    { 4, Modulo<SolettaAlColmoDestro>,   -1, 2},
+    { 8, SommitaAnima,                   +1, 2},
+    {13, AttaccoSbalzo,                  +1, 2},  // cut from the whole section, with this part's coefficients
+    {14, Nulla,                           0, 1},
+};
+
+constexpr RigaVz kTaglioVzInferiore[] = {
+    { 9, Nulla,          0, 1},
+    { 6, Nulla,          0, 1},
+    { 7, Nulla,          0, 1},
+    {10, Modulo<Fondo>, +1, 2},
+    {12, Modulo<Fondo>, +1, 2},
+};
+
+// clang-format on
 
 Reale Tensione(Reale flusso, Reale larghezza) {
   return larghezza > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
@@ -21,188 +123,110 @@ Reale TensioneConSegno(Reale flusso, Reale larghezza) {
   return Assoluto(larghezza) > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
 }
 
-Reale InclinazioneAnime() {
-  return ParametriSezione[20] / 100;
-}
-
-// Height of the line of slope p16 through the top of the left tip.
-Reale Tetto(Reale z) {
-  return ParametriSezione[16] * z / 100;
-}
-
 void ScriviEtichetta(RecordSezione& r, int punto, int tag, Reale larghezza) {
-  r.EtichettaPunto[punto] = "NODO " + std::to_string(punto) + " TAG" + std::to_string(tag) + "_" +
-                            FormatoNumero(Tronca(larghezza, 1));
+  r.EtichettaPunto[punto].Componi({"NODO ", std::to_string(punto), " TAG", std::to_string(tag), "_",
+                                   FormatoNumero(Tronca(larghezza, 1))});
 }
 
-void ScriviPunti(RecordSezione& r) {
-  const int daContorno[][2] = {{1, 1}, {2, 13}, {3, 12}, {4, 11}, {5, 10}, {6, 5}, {7, 6}, {8, 4}};
+void ScriviPunti(RecordSezione& r, const VettoreParametri& p) {
+  constexpr int daContorno[][2] = {{1, 1}, {2, 13}, {3, 12}, {4, 11}, {5, 10}, {6, 5}, {7, 6}, {8, 4}};
   for (const auto& [punto, v] : daContorno) r.ImpostaPunto(punto, r.O(v));
+  const auto sulTetto = [&](Reale z) { return Punto{z, TettoSinistro(p, z)}; };
   const Reale d = r.C(2).z - r.O(4).z;
-  r.ImpostaPunto(9, {r.C(1).z - d, r.C(1).y - d * ParametriSezione[20] / 100});
+  r.ImpostaPunto(9, {r.C(1).z - d, r.C(1).y - d * p[kInclinazioneAnime] / 100});
   r.ImpostaPunto(10, {r.C(11).z, r.O(5).y});
-  r.ImpostaPunto(11, {r.C(3).z, Tetto(r.C(3).z)});
+  r.ImpostaPunto(11, sulTetto(r.C(3).z));
   r.ImpostaPunto(12, {(r.O(5).z + r.O(6).z) / 2, r.O(5).y});
-  r.ImpostaPunto(13, {r.O(3).z, Tetto(r.O(3).z)});
+  r.ImpostaPunto(13, sulTetto(r.O(3).z));
 }
 
-void Torsione(RecordSezione& r, const AsseBaricentrico& asse, Reale qT) {
-  const auto etichetta = [&](int punto, int tag, Reale larghezza) {
-    ScriviEtichetta(r, punto, tag, larghezza);
+void Torsione(RecordSezione& r, const Pareti& pareti, bool TrovatoAsse, Reale qT) {
+  const auto tensione = [&](TensioneT quale, Reale larghezza) -> Reale {
+    switch (quale) {
+      case TensioneT::Zero:
+        return 0;
+      case TensioneT::Piu:
+        return TensioneConSegno(qT, larghezza);
+      case TensioneT::Meno:
+        return TensioneConSegno(-qT, larghezza);
+      case TensioneT::Del2:
+        return r.TauT[2];
+      case TensioneT::Del10:
+        return r.TauT[10];
+      case TensioneT::MinoreDi9e10:
+        break;
+    }
+    return -Minimo(Assoluto(r.TauT[9]), Assoluto(r.TauT[10]));
   };
-  const auto tau = [&](int punto, Reale valore, int indicatore) {
-    r.TauT[punto] = valore;
-    r.IndicatoreTauT[punto] = indicatore;
-  };
-
-  etichetta(1, 2, 0);
-  tau(1, 0, 2);
-  const Reale w2 = r.O(13).y - r.C(4).y;
-  etichetta(2, 0, w2);
-  tau(2, TensioneConSegno(qT, w2), 2);
-  const Reale w3 = r.O(12).y - r.C(5).y;
-  etichetta(3, 2, w3);
-  tau(3, TensioneConSegno(qT, w3), 2);
-  etichetta(4, 0, r.O(11).y - r.C(6).y);
-  tau(4, r.TauT[2], 2);
-  etichetta(5, 2, 0);
-  tau(5, 0, 2);
-
-  // No square root here, unlike the width that shear divides by: both are wanted so.
-  const Reale b8T = Assoluto((1 + Potenza(InclinazioneAnime(), 2)) * (r.C(2).z - r.O(4).z));
-  for (const int punto : {8, 9}) {
-    etichetta(punto, 0, b8T);
-    tau(punto, TensioneConSegno(-qT, b8T), 1);
+  for (const auto& riga : kTorsione) {
+    if (riga.punto == 14 && !TrovatoAsse) continue;
+    const Reale larghezza = riga.larghezza(pareti);
+    if (riga.tag >= 0) ScriviEtichetta(r, riga.punto, riga.tag, larghezza);
+    r.TauT[riga.punto] = tensione(riga.tensione, larghezza);
+    r.IndicatoreTauT[riga.punto] = riga.indicatore;
   }
-  etichetta(10, 2, ParametriSezione[1]);
-  tau(10, TensioneConSegno(-qT, ParametriSezione[1]), 2);
-  const Reale piede = -Minimo(Assoluto(r.TauT[9]), Assoluto(r.TauT[10]));
-  tau(6, piede, 2);
-  tau(7, piede, 2);
+  r.NumPunti = TrovatoAsse ? 14 : 13;
+}
 
-  const Reale w11 = r.P(11).y - r.C(3).y;
-  etichetta(11, 2, w11);
-  tau(11, TensioneConSegno(qT, w11), 2);
-  etichetta(12, 2, r.C(11).y - r.O(5).y);
-  tau(12, r.TauT[10], 2);
-  etichetta(13, 1, Assoluto(r.P(13).y - r.O(3).y));
-  tau(13, 0, 1);
-  if (asse.Trovato) {
-    const Reale w14 = r.P(15).z - r.P(14).z;
-    etichetta(14, 1, w14);
-    tau(14, TensioneConSegno(qT, w14), 1);
+void TaglioLungoY(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
+  const CoefficientiVy c = CoefficientiDi(s.copie.SezioneBaricentrica);
+  const auto tensione = [&](TensioneVy quale, int punto, Reale larghezza) -> Reale {
+    switch (quale) {
+      case TensioneVy::Zero:
+        return 0;
+      case TensioneVy::Intero:
+        return Tensione(FlussoVy(s, punto, c), larghezza);
+      case TensioneVy::Meta:
+        return Tensione(FlussoVy(s, punto, c) / 2, larghezza);
+      case TensioneVy::OppostoDel2:
+        return -r.TauVy[2];
+      case TensioneVy::OppostoDel6:
+        break;
+    }
+    return -r.TauVy[6];
+  };
+  for (const auto& riga : kTaglioVy) {
+    if (riga.punto == 14 && !s.asse.TrovatoAsse) continue;
+    const Reale larghezza = riga.larghezza(pareti);
+    r.TauVy[riga.punto] = tensione(riga.tensione, riga.punto, larghezza);
+    r.IndicatoreTauVy[riga.punto] = riga.indicatore;
+    // Points 6 and 7 have no width of torsion to show.
+    if (riga.larghezza == &Piede) ScriviEtichetta(r, riga.punto, 2, larghezza);
   }
-  r.NumPunti = asse.Trovato ? 14 : 13;
 }
 
-// Multipliers of ∫y dA / Jzg and ∫z dA / Jyg.
-struct Coefficienti {
-  Reale z, y;
-};
-
-Reale Determinante(const RecordSezione& s) {
-  return 1 - Potenza(s.Jt, 2) / s.Jzg / s.Jyg;
-}
-
-Coefficienti CoefficientiVy(const RecordSezione& s) {
-  const Reale D = Determinante(s);
-  return {1 / D, (-s.Jt / s.Jzg) / D};
-}
-
-// r: the part's share of the area.
-Coefficienti CoefficientiVz(const RecordSezione& parte, Reale r) {
-  const Reale D = Determinante(parte);
-  return {(-r * parte.Jt / parte.Jyg) / D, r / D};
-}
-
-Reale Flusso(const Coefficienti& c, const RecordSezione& s, const MomentiStatici& m) {
-  return -(c.y / s.Jyg * m.MomStaticoParteY + c.z / s.Jzg * m.MomStaticoParteZ);
-}
-
-// Thickness of the left end of the bottom slab across its fillet; the fillet's own length where it
-// has no area.
-Reale LarghezzaPiede(const RecordSezione& s) {
-  const Punto triangolo[] = {s.O(5), s.C(1), s.C(11)};
-  const Reale A = Assoluto(AreaPoligono(triangolo));
-  return A > kTolleranza ? 2 * A / Distanza(s.C(1), s.C(11)) : Distanza(s.C(1), s.O(5));
-}
-
-void TaglioLungoY(RecordSezione& r, const RecordSezione& s, const AsseBaricentrico& asse) {
-  const Coefficienti c = CoefficientiVy(s);
-  const auto flusso = [&](int punto) { return Flusso(c, s, TaglioVy(s, punto)); };
-  const auto tau = [&](int punto, Reale valore, int indicatore) {
-    r.TauVy[punto] = valore;
-    r.IndicatoreTauVy[punto] = indicatore;
-  };
-
-  tau(1, 0, 2);
-  tau(5, 0, 2);
-  const Reale b8 = Assoluto((r.C(2).z - r.O(4).z) * Radice(1 + Potenza(InclinazioneAnime(), 2)));
-  tau(8, Tensione(flusso(8), b8), 1);
-  tau(9, Tensione(flusso(9), b8), 1);
-  tau(10, Tensione(flusso(10) / 2, ParametriSezione[1]), 2);
-  tau(12, 0, 2);
-
-  const Reale b6 = LarghezzaPiede(s);
-  tau(6, Tensione(flusso(6) / 2, b6), 2);
-  ScriviEtichetta(r, 6, 2, b6);
-  ScriviEtichetta(r, 7, 2, b6);
-  tau(7, -r.TauVy[6], 2);
-
-  const Reale b2 = Assoluto(r.O(13).y - r.C(4).y);
-  tau(2, Tensione(flusso(2) / 2, b2), 2);
-  tau(4, -r.TauVy[2], 2);
-  tau(3, 0, 2);
-  tau(11, Tensione(flusso(11) / 2, b2), 2);  // the width of point 2, not its own: wanted
-  tau(13, Tensione(flusso(13), Assoluto(r.P(13).y - r.O(3).y)), 2);
-  if (asse.Trovato) tau(14, Tensione(Flusso(c, s, TaglioAsse(s, asse)), Assoluto(r.P(15).z - r.P(14).z)), 1);
-}
-
-void TaglioLungoZ(RecordSezione& r, const RecordSezione& s, const RecordSezione& superiore,
-                  const RecordSezione& inferiore) {
-  const auto tau = [&](int punto, Reale valore, int indicatore) {
-    r.TauVz[punto] = valore;
-    r.IndicatoreTauVz[punto] = indicatore;
-  };
+void TaglioLungoZ(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
+  const auto& [intera, superiore, inferiore] = s.copie;
   const Reale area = inferiore.An + superiore.An;
   if (Assoluto(area) <= kTolleranza) {
-    for (const int punto : {1, 5, 6, 7, 9}) tau(punto, 0, 1);
-    for (const int punto : {2, 3, 4, 8, 10, 11, 12, 13, 14}) tau(punto, 0, 2);
+    for (int punto = 1; punto <= 14; ++punto) r.TauVz[punto] = 0;
+    for (const int punto : {1, 5, 6, 7, 9}) r.IndicatoreTauVz[punto] = 1;
+    for (const int punto : {2, 3, 4, 8, 10, 11, 12, 13, 14}) r.IndicatoreTauVz[punto] = 2;
     return;
   }
-
-  Coefficienti c = CoefficientiVz(superiore, superiore.An / area);
-  const auto flusso = [&](const RecordSezione& copia, int punto) {
-    return Flusso(c, copia, TaglioVz(copia, punto));
+  const auto scrivi = [&](std::span<const RigaVz> righe, const CoefficientiVz& c) {
+    for (const auto& [punto, larghezza, segno, indicatore] : righe) {
+      r.TauVz[punto] = segno == 0 ? Reale(0) : Tensione(segno * FlussoVz(s, punto, c), larghezza(pareti));
+      r.IndicatoreTauVz[punto] = indicatore;
+    }
   };
-  tau(1, 0, 1);
-  tau(5, 0, 1);
-  tau(2, Tensione(-flusso(superiore, 2), Assoluto(r.O(13).y - r.C(4).y)), 2);
-  tau(11, Tensione(flusso(superiore, 11), Assoluto(Tetto(r.C(3).z) - r.C(3).y)), 2);
-  tau(3, Tensione(-flusso(superiore, 3), Assoluto(r.O(12).y - r.C(5).y)), 2);
-  tau(4, Tensione(-flusso(superiore, 4), Assoluto(r.O(11).y - r.C(6).y)), 2);
-  tau(8, Tensione(flusso(superiore, 8), Assoluto(Tetto(r.O(4).z) - r.O(4).y)), 2);
-  // Whole section's moments with the upper part's coefficients: this mixture is wanted.
-  tau(13, Tensione(flusso(s, 13), Assoluto(r.P(13).y - r.O(3).y)), 2);
-  tau(14, 0, 1);
-
-  c = CoefficientiVz(inferiore, inferiore.An / area);
-  for (const int punto : {9, 6, 7}) tau(punto, 0, 1);
-  const Reale fondo = Assoluto(r.C(11).y - r.O(5).y);
-  for (const int punto : {10, 12}) tau(punto, Tensione(flusso(inferiore, punto), fondo), 2);
+  scrivi(kTaglioVzSuperiore, CoefficientiDi(superiore, superiore.An / area));
+  scrivi(kTaglioVzInferiore, CoefficientiDi(inferiore, inferiore.An / area));
 }
 
 }  // namespace
 
-void CalcolaTauPunti(RecordSezione& r, RecordSezione& baricentrica, const RecordSezione& superiore,
-                     const RecordSezione& inferiore, Reale qT) {
-  ScriviPunti(r);
+void CalcolaTauPunti(RecordSezione& r, CopieLavoro& copie, const VettoreParametri& p, Reale qT) {
+  CopiaLavoro& intera = copie.SezioneBaricentrica;
+  ScriviPunti(r, p);
   const AsseBaricentrico asse = CercaAsseBaricentrico(r);
-  for (const int punto : {9, 13, 14, 15})
-    baricentrica.ImpostaPunto(punto, {r.P(punto).z - r.ZG, r.P(punto).y - r.YG});
-  Torsione(r, asse, qT);
-  TaglioLungoY(r, baricentrica, asse);
-  TaglioLungoZ(r, baricentrica, superiore, inferiore);
+  for (const int punto : {9, 13, 14, 15}) intera.punti[punto] = {r.P(punto).z - r.ZG, r.P(punto).y - r.YG};
+
+  const Pareti pareti{r, intera, p};
+  const Tagliabile tagliabile{copie, p, asse};
+  Torsione(r, pareti, asse.TrovatoAsse, qT);
+  TaglioLungoY(r, pareti, tagliabile);
+  TaglioLungoZ(r, pareti, tagliabile);
 }
 
 }  // namespace tarvel

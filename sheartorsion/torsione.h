@@ -1,17 +1,19 @@
 // Torsion of the single closed cell (Bredt).
 #pragma once
 
+#include <optional>
+
+#include "model/parametri.h"
 #include "model/sezione.h"
 
 namespace tarvel {
 
-/// Jt = 4 Ω² / ∮ds/t, 0 where a wall has no thickness. Ω is the area enclosed by the median line of
-/// the walls, with its sign. Reads the outline and the thicknesses p5, p6, p7 of ParametriSezione.
-void CalcolaTorsione(const GeometriaSezione& g, Reale& omega, Reale& Jt);
+/// Returns Ω, the area enclosed by the median line of the walls, with its sign. Jt becomes 4 Ω² / ∮ds/t,
+/// 0 where a wall has no thickness; a fault in that last step leaves ∮ds/t in it.
+[[nodiscard]] Reale CalcolaTorsione(const GeometriaSezione& g, const VettoreParametri& p, Reale& Jt);
 
-/// Adds ∫ds/t of a wall of length s whose thickness varies linearly from t1 to t2:
-/// s/(t2-t1)·ln(t2/t1), or s/t for an even wall. A wall of no thickness sets somma to 0 and
-/// returns false; a segment of no length adds nothing.
-bool TrattoSpessoreVariabile(Reale t1, Reale t2, Reale s, Reale& somma);
+/// ∫ds/t of a wall of length s whose thickness varies linearly from t1 to t2: s/(t2-t1)·ln(t2/t1), or
+/// s/t where it is even; 0 without a length. Nothing for a wall of no thickness.
+[[nodiscard]] std::optional<Reale> TrattoSpessoreVariabile(Reale t1, Reale t2, Reale s);
 
 }  // namespace tarvel

@@ -118,6 +118,28 @@ TEST(Numeri, ConversioneRegionale) {
   }
 }
 
+// Cubes and fourth powers that plain products, or the C library, round to the next double.
+TEST(Numeri, PotenzeArrotondateUnaVolta) {
+  const struct {
+    double x;
+    int n;
+    double atteso;
+  } casi[] = {
+      {588.62, 2, 0x1.525a604816f01p+18},
+      {15.34, 3, 0x1.c337b8c32a8c9p+11},
+      {-403.01, 3, -0x1.f36329b2090b3p+25},
+      {964.02, 3, 0x1.ab327077559f6p+29},
+      {589.76, 4, 0x1.c2ac3e89ebd19p+36},
+      {1397.21, 4, 0x1.bbaab040a0e84p+41},
+      {5.6e102, 3, 0x1.f42bc4b9b49e4p+1023},
+      {1.15e77, 4, 0x1.f2222e087f762p+1023},
+      {10, 22, 1e+22},
+      {10, 0, 1},
+      {10, -2, 0.01},
+  };
+  for (const auto& c : casi) EXPECT_EQ(Potenza(Reale(c.x), c.n), c.atteso) << c.x << " alla " << c.n;
+}
+
 TipoErrore ErroreDi(const std::function<void()>& f) {
   try {
     f();

@@ -17,7 +17,7 @@ TEST(Geometria, PendenzeOpposteDannoSimmetria) {
   for (int n = 0; n < 50; ++n) {
     const VettoreParametri p = prove::Casuale(caso, true);
     const RecordSezione r = Costruita(p);
-    const double L = p[15].Valore();
+    const double L = p[kLarghezzaTotale].Valore();
     for (const auto& [a, b] : {std::pair{1, 10}, {2, 9}, {3, 8}, {4, 7}, {5, 6}, {13, 11}, {12, 12}}) {
       EXPECT_NEAR(r.O(a).z.Valore() + r.O(b).z.Valore(), L, 1e-9) << "caso " << n << " O" << a;
       EXPECT_NEAR(r.O(a).y.Valore(), r.O(b).y.Valore(), 1e-9) << "caso " << n << " O" << a;
@@ -31,9 +31,9 @@ TEST(Geometria, PendenzeOpposteDannoSimmetria) {
 TEST(Geometria, AnimaSenzaAltezza) {
   for (const auto& [altezza, inclinata] : {std::pair{0.00009, false}, {0.00011, true}}) {
     VettoreParametri p = Esempio();
-    p[16] = 0;
-    p[4] = 185 - altezza;  // top end of the web just above the soffit, at -185
-    p[17] = 30;
+    p[kPendenzaSinistra] = 0;
+    p[kSommitaEsternaAnime] = 185 - altezza;  // top end of the web just above the soffit, at -185
+    p[kPendenzaColmoSinistra] = 30;
     const RecordSezione r = Costruita(p);
     EXPECT_EQ(r.C(1).z != r.C(2).z, inclinata) << altezza;
   }
@@ -57,13 +57,13 @@ TEST(Geometria, PendenzeTagliateInGiu) {
   r.ImpostaVertice(1, 13, {100, 12.345});
   r.ImpostaVertice(1, 12, {200, 11.095});
   ASSERT_TRUE(VerificaSezione(r));
-  EXPECT_NEAR(ParametriSezione[16].Valore(), 12.3, 1e-9);
-  EXPECT_NEAR(ParametriSezione[17].Valore(), -1.3, 1e-9);
+  EXPECT_NEAR(ParametriSezione[kPendenzaSinistra].Valore(), 12.3, 1e-9);
+  EXPECT_NEAR(ParametriSezione[kPendenzaColmoSinistra].Valore(), -1.3, 1e-9);
 
   r.ImpostaVertice(1, 13, {0.0001, 50});  // within the tolerance: no slope
   ASSERT_TRUE(VerificaSezione(r));
-  EXPECT_EQ(ParametriSezione[16], 0);
-  EXPECT_EQ(ParametriSezione[3], -r.O(3).y);
+  EXPECT_EQ(ParametriSezione[kPendenzaSinistra], 0);
+  EXPECT_EQ(ParametriSezione[kAttaccoSbalzi], -r.O(3).y);
 }
 
 }  // namespace

@@ -1,12 +1,16 @@
 // Properties in rungs: closed forms, the worked example, an independent second method, invariances.
 #include <gtest/gtest.h>
 
+#include <latch>
+#include <thread>
 #include <vector>
 
 #include "aiuti.h"
 #include "base/errore.h"
+#include "base/numeri.h"
 #include "properties/caratteristiche.h"
 #include "properties/integrali.h"
+#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {
@@ -52,13 +56,12 @@ std::vector<Punto> Poligono(const RecordSezione& r, int p) {
 
 TEST(Integrali, RettangoloInFormaChiusa) {
   const double b = 3, h = 2, y0 = -1.5;  // the axis y = 0 above it; lower edge at y0 - h
-  const Punto rettangolo[] = {{0, y0 - h}, {b, y0 - h}, {b, y0}, {0, y0}};
+  const Estremo rettangolo[] = {{0, y0 - h}, {b, y0 - h}, {b, y0}, {0, y0}};
   Reale A, Sy, Sz, Iy, Iz, Izy;
-  const auto vertice = [&](int v) { return EstremoQuarto(rettangolo[v - 1]); };
-  PerOgniLato(4, vertice, [&](const EstremoQuarto& da, const EstremoQuarto& a) {
+  PerOgniLato<Estremo>(rettangolo, [&](const Estremo& da, const Estremo& a) {
     const auto s = SegmentoDi(da, a);
     if (!s) return;
-    A -= AreaTrapezio(da.p, a.p);
+    A -= AreaTrapezio(da, a);
     Sy -= MomStaticoY(*s);
     Sz -= MomStaticoZ(*s);
     Iy -= MomInerziaY(*s);
@@ -75,9 +78,7 @@ TEST(Integrali, RettangoloInFormaChiusa) {
 }
 
 TEST(Integrali, TolleranzaDelLatoVerticale) {
-  const auto contribuisce = [](double z1, double z2) {
-    return SegmentoDi(Estremo({z1, 0}), Estremo({z2, 5})).has_value();
-  };
+  const auto contribuisce = [](double z1, double z2) { return SegmentoDi({z1, 0}, {z2, 5}).has_value(); };
   EXPECT_FALSE(contribuisce(1, 1.0000999));
   EXPECT_TRUE(contribuisce(1, 1.0001001));
   EXPECT_TRUE(contribuisce(1.0001001, 1));
@@ -96,6 +97,12 @@ TEST(Caratteristiche, Esempio) {
   EXPECT_NEAR(r.Atz.Valore(), 52633, 1e-9);
   EXPECT_EQ(r.NumPunti, 14);
   EXPECT_EQ(r.Sigla, "A");
+
+  // On the edge of a hundredth: the last digit of the double decides.
+  const RecordSezione sulFilo =
+      Calcolata(prove::Vettore({299, 26,    15.2,  36.1, 76,  59,  35,   21.6, 23,  93.8, 24.9,
+                                11,  28.78, 35.26, 19,   521, 1.3, 4.53, 1,    .16, 0}));
+  EXPECT_EQ(FormatoNumero(Tronca(sulFilo.Atz, 2)), "31683.57");
 }
 
 // Relative tolerance: on a web of slope m = 50 the edge formula of Jzg subtracts terms of m³ z⁴, up to
@@ -118,7 +125,7 @@ TEST(Caratteristiche, SecondoMetodoSuCentoSezioni) {
     vicini(r.YG, yG, "YG");
     vicini(r.Jyg, baricentrici.Izz, "Jyg");
     vicini(r.Jzg, baricentrici.Iyy, "Jzg");
-    if (n % 2 == 0) vicini(r.ZG, p[15].Valore() / 2, "ZG di una sezione simmetrica");
+    if (n % 2 == 0) vicini(r.ZG, p[kLarghezzaTotale].Valore() / 2, "ZG di una sezione simmetrica");
   }
 }
 
@@ -140,8 +147,9 @@ TEST(Caratteristiche, TensioniPerSecondoMetodo) {
     };
     const auto O = [&](int v) { return r.O(v); };
     const auto C = [&](int v) { return r.C(v); };
-    const double p1 = p[1].Valore(), b2 = std::fabs((O(13).y - C(4).y).Valore());
-    const double b8 = std::fabs((C(2).z - O(4).z).Valore()) * std::hypot(1, p[20].Valore() / 100);
+    const double p1 = p[kSolettaInferiore].Valore(), b2 = std::fabs((O(13).y - C(4).y).Valore());
+    const double b8 =
+        std::fabs((C(2).z - O(4).z).Valore()) * std::hypot(1, p[kInclinazioneAnime].Valore() / 100);
     const double tau10 = flusso({C(11), C(10), {C(10).z, O(5).y}, {C(11).z, O(5).y}}) / 2 / p1;
     const double tau2 = flusso({O(13), O(12), O(11), C(6), C(5), C(4)}) / 2 / b2;
     const double tau8 = flusso({O(4), C(2), C(1), C(11), {O(12).z, C(11).y}, {O(12).z, O(5).y}, O(5)}) / b8;
@@ -154,24 +162,57 @@ TEST(Caratteristiche, TensioniPerSecondoMetodo) {
   }
 }
 
-// A second moment beyond a double is fatal and says where; what came before it stays.
+// Beyond a double is fatal and says where; what came before it stays, to the last edge.
 TEST(Caratteristiche, OverflowLasciaICampiPrecedenti) {
-  VettoreParametri p = Esempio();
-  for (int i = 0; i <= 15; ++i) p[i] = p[i] * 1e77;
-  RecordSezione r = Costruita(p);
-  r.Sigla = "prima";
-  r.Aty = -7;
-  try {
-    CalcolaCaratteristiche(r);
-    FAIL() << "nessun errore";
-  } catch (const ErroreFatale& e) {
-    EXPECT_EQ(e.tipo, TipoErrore::Overflow);
-    EXPECT_NE(e.dove.find("momenti d'inerzia"), Testo::npos) << e.dove;
+  const struct {
+    double scala, An;
+    const char* dove;
+  } casi[] = {{1e77, 60917.2, "momenti d'inerzia"}, {1e110, (20 + 28.75) / 2 * 250, "area e baricentro"}};
+  for (const auto& c : casi) {
+    VettoreParametri p = Esempio();
+    for (int i = 0; i <= kLarghezzaTotale; ++i) p[i] = p[i] * c.scala;
+    RecordSezione r = Costruita(p);
+    r.Sigla = "prima";
+    r.Aty = -7;
+    try {
+      CalcolaCaratteristiche(r);
+      FAIL() << "nessun errore";
+    } catch (const ErroreFatale& e) {
+      EXPECT_EQ(e.tipo, TipoErrore::Overflow);
+      EXPECT_EQ(e.dove, c.dove);
+    }
+    EXPECT_NEAR((r.BaseTotale / c.scala).Valore(), 1200, 1e-9);
+    EXPECT_NEAR((r.An / c.scala / c.scala).Valore(), c.An, 1e-6);
+    EXPECT_EQ(r.Aty, -7);
+    EXPECT_EQ(r.Sigla, "prima");
   }
-  EXPECT_NEAR(r.BaseTotale.Valore(), 1200e77, 1e68);
-  EXPECT_NEAR((r.An / 1e154).Valore(), 60917.2, 1e-6);
-  EXPECT_EQ(r.Aty, -7);
-  EXPECT_EQ(r.Sigla, "prima");
+}
+
+// Two threads on two sections, while the program's own state is of neither.
+TEST(Caratteristiche, DiQualunqueSezioneDaOgniThread) {
+  std::mt19937 caso(11);
+  const auto riassunto = [](const RecordSezione& r) {
+    return std::vector<Reale>{r.Jyg,     r.Jzg,       r.Jt,       r.Aty,      r.Atz,
+                              r.TauT[9], r.TauVy[11], r.TauVz[8], r.PuntoY[9]};
+  };
+  std::latch insieme(2);
+  const auto lavoro = [&](const VettoreParametri& p, const RecordSezione& attesa, int& diversi) {
+    insieme.arrive_and_wait();
+    for (int n = 0; n < 5000; ++n) {
+      RecordSezione r = attesa;
+      CalcolaCaratteristiche(r, p, attesa.NumVertici);
+      diversi += riassunto(r) != riassunto(attesa);
+    }
+  };
+  const VettoreParametri p1 = Casuale(caso, false), p2 = Casuale(caso, false);
+  const RecordSezione r1 = Calcolata(p1), r2 = Calcolata(p2);
+  ParametriSezione = {};
+  VerticiPoligono = {};
+  int diversi1 = 0, diversi2 = 0;
+  std::thread altro([&] { lavoro(p2, r2, diversi2); });
+  lavoro(p1, r1, diversi1);
+  altro.join();
+  EXPECT_EQ(diversi1 + diversi2, 0);
 }
 
 }  // namespace
