@@ -10,7 +10,8 @@
 // Focus. One control of the desktop has the focus: the first of a form when the form is shown,
 // then whichever the user goes to by mouse or Tab, on any form that can be used. When it changes
 // hands, `fuocoPerso` of the control that had it fires first, before any event of the new one
-// (a button's `click` finds the value of the box just left already stored). The close box of the
+// (a button's `click` finds the value of the box just left already stored; where that handler shows
+// a message the click, on whichever form, counts once it is answered). The close box of the
 // form that holds the focus makes its control lose it before Form_Unload, so that a value just
 // typed is not lost. A message box does not move the focus. Labels never have the focus.
 // A form shown by a handler takes the focus at once, but the control that had it hears of that only
@@ -19,8 +20,9 @@
 // without an event; whenever one goes, the focus returns, without an event, to the control that
 // had it last on the form that is then in front.
 //
-// Modality. While a modal form is shown only it, and what its handlers show, can be used. While a
-// message box is open nothing else can be used.
+// Modality. While a modal form is shown only it, and what its handlers show, can be used. It belongs
+// to the form in front of which it was shown: it stays above that one, is minimised and comes back
+// with it, never alone. While a message box is open nothing else can be used.
 #pragma once
 
 #include "base/errore.h"
@@ -37,7 +39,8 @@ Testo RigaComando();
 
 /// Form_Load, unless the form is loaded already. Shows nothing.
 void CaricaForm(Form& form);
-/// Loads the form where needed and shows it, not modally; a visible form comes to the front.
+/// Loads the form where needed and shows it, not modally; a visible form comes to the front, also
+/// one that its user has minimised. The first form shown stands whole on the screen if it fits there.
 void MostraForm(Form& form);
 /// Loads and shows the form and returns when it has been unloaded or hidden.
 void MostraFormModale(Form& form);
@@ -71,7 +74,10 @@ enum class Icona { Nessuna, Stop, Esclamazione, Informazione };
 enum class Bottoni { Ok, SiNo };
 enum class Risposta { Ok, Si, No };
 
-/// The close box and Esc answer Ok to a note and No to a question.
+/// A note is also closed by its close box and by Esc. A question is answered by its buttons and
+/// their keys only (Enter, Space, the arrows, Tab, S and N): its close box and Esc do nothing, so
+/// that no work is dropped by a key pressed once too often. While a box is open the pointer is the
+/// default one, whatever is set.
 Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, Bottoni bottoni = Bottoni::Ok);
 
 // --- Pointer and timers.

@@ -15,13 +15,16 @@ namespace tarvel {
 std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t stile);
 
 /// Brings the main window of a task to the front and gives it the keyboard; waits for it where the
-/// task has only just been started. False when the id was never given (0 included), the task has
-/// ended, or it shows no window.
+/// task has only just been started. False when the id was never given (0 included) or the task has
+/// ended. A task that lives counts as running: where it shows no window, or the host lets no program
+/// see another's, the answer is true all the same.
 bool AttivaProgramma(std::int32_t id);
 
-/// Sends keys to the active window, whatever it is: '%' is Alt held for the key, or the
-/// parenthesised group, that follows; "{F4}" a function key; letters stand for their keys. Waits
-/// for an activation asked just before to take effect. Where keys cannot be sent, nothing happens.
+/// Sends keys to the main window of the task activated last, once it is the active one: '%' is Alt
+/// held for the key, or the parenthesised group, that follows; "{F4}" a function key; letters stand
+/// for their keys. Waits for the activation to take effect. The keys are dropped where they cannot be
+/// sent: the activation failed, the task has no window, or another window has the keyboard, a dialog
+/// of the same task included.
 void InviaTasti(const Testo& sequenza);
 
 }  // namespace tarvel

@@ -8,8 +8,8 @@
 
 namespace ostrel {
 
-/// More than the fullest drawing takes.
-inline constexpr long long kMassimoFile = 16LL << 20;
+/// More than the fullest drawing takes, a few texts as long as a line may be among them.
+inline constexpr long long kMassimoFile = 64LL << 20;
 
 /// A file being written is tried again this often before it is refused.
 inline constexpr int kTentativi = 40;

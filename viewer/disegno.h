@@ -44,8 +44,11 @@ struct Disegno {
   std::vector<Linea> linee;
   std::vector<Scritta> scritte;
   std::vector<Arco> archi;
-  /// Lines whose first point found no room in the table of the program that drew them.
-  int lineeSaltate = 0;
+  /// Lines and arcs one of whose points found no room in the table of the program that drew them.
+  int saltati = 0;
+  /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers
+  /// would leave a double's range; then a power of two.
+  double unita = 1;
 };
 
 }  // namespace ostrel

@@ -1,10 +1,12 @@
 // Group by group: a code line and a value line.
 #include "viewer/dxf.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
 #include <string_view>
+#include <utility>
 
 #include "base/numeri.h"
 #include "viewer/livelli.h"
@@ -26,28 +28,39 @@ struct NomeLivello {
 };
 constexpr std::array<NomeLivello, 3> kLivelli = {{{"CONTORNO", 1}, {"QUOTE", 7}, {"TESTI", 6}}};
 
-void Gruppo(Testo& dxf, int codice, std::string_view valore) {
-  ((dxf += std::to_string(codice)) += "\r\n").append(valore) += "\r\n";
+struct Dxf {
+  Testo testo;
+  double unita;
+  bool finito = true;  // every length so far is a number
+};
+
+void Gruppo(Dxf& dxf, int codice, std::string_view valore) {
+  ((dxf.testo += std::to_string(codice)) += "\r\n").append(valore) += "\r\n";
 }
 
-void GruppoIntero(Testo& dxf, int codice, int valore) {
+void GruppoIntero(Dxf& dxf, int codice, int valore) {
   Gruppo(dxf, codice, std::to_string(valore));
 }
 
-void GruppoReale(Testo& dxf, int codice, double valore) {
+void GruppoReale(Dxf& dxf, int codice, double valore) {
+  dxf.finito = dxf.finito && std::isfinite(valore);
   Testo testo;
-  tarvel::AccodaNumero(testo, valore, '.', true);
+  if (dxf.finito) tarvel::AccodaNumero(testo, valore, '.', true);
   Gruppo(dxf, codice, testo);
 }
 
+void GruppoLunghezza(Dxf& dxf, int codice, double valore) {
+  GruppoReale(dxf, codice, valore * dxf.unita);
+}
+
 // X, Y and Z of a point have codes ten apart.
-void GruppoPunto(Testo& dxf, int codice, double x, double y) {
-  GruppoReale(dxf, codice, x);
-  GruppoReale(dxf, codice + 10, y);
+void GruppoPunto(Dxf& dxf, int codice, double x, double y) {
+  GruppoLunghezza(dxf, codice, x);
+  GruppoLunghezza(dxf, codice + 10, y);
   GruppoReale(dxf, codice + 20, 0);
 }
 
-void Elemento(Testo& dxf, std::string_view genere, Livello livello, int colore) {
+void Elemento(Dxf& dxf, std::string_view genere, Livello livello, int colore) {
   Gruppo(dxf, 0, genere);
   Gruppo(dxf, 8, kLivelli[static_cast<std::size_t>(livello)].nome);
   GruppoIntero(dxf, 62, kColoriDxf[IndiceColore(colore)]);
@@ -69,7 +82,7 @@ Testo TestoDxf(std::string_view testo) {
   return esito;
 }
 
-void ScriviTestata(Testo& dxf, const Riquadro& tutto) {
+void ScriviTestata(Dxf& dxf, const Riquadro& tutto) {
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "HEADER");
   Gruppo(dxf, 9, "$ACADVER");
@@ -85,7 +98,7 @@ void ScriviTestata(Testo& dxf, const Riquadro& tutto) {
   Gruppo(dxf, 0, "ENDSEC");
 }
 
-void ScriviTipiLinea(Testo& dxf, double passo) {
+void ScriviTipiLinea(Dxf& dxf, double passo) {
   Gruppo(dxf, 0, "TABLE");
   Gruppo(dxf, 2, "LTYPE");
   GruppoIntero(dxf, 70, static_cast<int>(kTipiLinea.size()));
@@ -98,14 +111,14 @@ void ScriviTipiLinea(Testo& dxf, double passo) {
     Gruppo(dxf, 3, tipo.nome);
     GruppoIntero(dxf, 72, 'A');
     GruppoIntero(dxf, 73, static_cast<int>(tipo.quante));
-    GruppoReale(dxf, 40, lunghezza);
+    GruppoLunghezza(dxf, 40, lunghezza);
     for (std::size_t i = 0; i < tipo.quante; ++i)
-      GruppoReale(dxf, 49, (i % 2 == 0 ? passo : -passo) * tipo.misure[i]);
+      GruppoLunghezza(dxf, 49, (i % 2 == 0 ? passo : -passo) * tipo.misure[i]);
   }
   Gruppo(dxf, 0, "ENDTAB");
 }
 
-void ScriviTabelle(Testo& dxf, const Riquadro& tutto) {
+void ScriviTabelle(Dxf& dxf, const Riquadro& tutto) {
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "TABLES");
   ScriviTipiLinea(dxf, tutto.Vuoto() ? 1 : std::hypot(tutto.Larghezza(), tutto.Altezza()) * kPassoTratto);
@@ -124,7 +137,7 @@ void ScriviTabelle(Testo& dxf, const Riquadro& tutto) {
   Gruppo(dxf, 0, "ENDSEC");
 }
 
-void ScriviLinea(Testo& dxf, const Disegno& disegno, const Linea& linea, Livello livello) {
+void ScriviLinea(Dxf& dxf, const Disegno& disegno, const Linea& linea, Livello livello) {
   const Coordinata da = Posto(disegno, linea.inizio), a = Posto(disegno, linea.fine);
   Elemento(dxf, "LINE", livello, linea.colore);
   Gruppo(dxf, 6, kTipiLinea[IndiceTipo(linea.tipo)].nome);
@@ -132,7 +145,7 @@ void ScriviLinea(Testo& dxf, const Disegno& disegno, const Linea& linea, Livello
   GruppoPunto(dxf, 11, a.x, a.y);
 }
 
-void ScriviArco(Testo& dxf, const Disegno& disegno, const Arco& arco) {
+void ScriviArco(Dxf& dxf, const Disegno& disegno, const Arco& arco) {
   const ArcoPolare p = Polare(disegno, arco);
   Elemento(dxf,
            p.raggio <= 0 ? "POINT"
@@ -141,31 +154,50 @@ void ScriviArco(Testo& dxf, const Disegno& disegno, const Arco& arco) {
            LivelloArco(disegno, arco), arco.colore);
   GruppoPunto(dxf, 10, p.x, p.y);
   if (p.raggio <= 0) return;
-  GruppoReale(dxf, 40, p.raggio);
+  GruppoLunghezza(dxf, 40, p.raggio);
   if (p.cerchio) return;
   const auto gradi = [](double radianti) { return std::fmod(radianti * kGradi + 360, 360); };
   GruppoReale(dxf, 50, gradi(p.inizio));
   GruppoReale(dxf, 51, gradi(p.inizio + p.ampiezza));
 }
 
-// Fitted between two points of its baseline, so that any font fills the text's cells.
-void ScriviScritta(Testo& dxf, const Disegno& disegno, const Scritta& scritta) {
+// Fitted between two points of its baseline, so that any font fills the text's cells. One longer
+// than a DXF string may be goes on in another text, where its next cell is.
+void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
   constexpr int kAdattato = 5;
+  constexpr std::size_t kMassimaStringa = 255;
+  constexpr std::size_t kSempreEntro = kMassimaStringa / 3;  // each character as three
   const auto angoli = Angoli(disegno, scritta);
-  Elemento(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
-  GruppoPunto(dxf, 10, angoli[0].x, angoli[0].y);
-  GruppoReale(dxf, 40, scritta.altezza);
-  Gruppo(dxf, 1, TestoDxf(scritta.testo));
-  GruppoReale(dxf, 41, scritta.base / scritta.altezza);
-  GruppoIntero(dxf, 50, scritta.angolo);
-  GruppoIntero(dxf, 72, kAdattato);
-  GruppoPunto(dxf, 11, angoli[1].x, angoli[1].y);
+  const Coordinata da = angoli[0], a = angoli[1];
+  const std::size_t quanti = scritta.testo.size();
+  const auto posto = [&](std::size_t i) {
+    const double parte = quanti == 0 ? 0 : static_cast<double>(i) / static_cast<double>(quanti);
+    return Coordinata{da.x + (a.x - da.x) * parte, da.y + (a.y - da.y) * parte};
+  };
+  std::size_t inizio = 0;
+  do {
+    std::size_t fine = std::min(quanti, inizio + kMassimaStringa);
+    Testo stringa = TestoDxf(std::string_view(scritta.testo).substr(inizio, fine - inizio));
+    if (stringa.size() > kMassimaStringa) {
+      fine = inizio + kSempreEntro;
+      stringa = TestoDxf(std::string_view(scritta.testo).substr(inizio, kSempreEntro));
+    }
+    Elemento(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
+    GruppoPunto(dxf, 10, posto(inizio).x, posto(inizio).y);
+    GruppoLunghezza(dxf, 40, scritta.altezza);
+    Gruppo(dxf, 1, stringa);
+    GruppoReale(dxf, 41, scritta.base / scritta.altezza);
+    GruppoIntero(dxf, 50, scritta.angolo);
+    GruppoIntero(dxf, 72, kAdattato);
+    GruppoPunto(dxf, 11, posto(fine).x, posto(fine).y);
+    inizio = fine;
+  } while (inizio < quanti);
 }
 
 }  // namespace
 
-Testo ScriviDxf(const Disegno& disegno) {
-  Testo dxf;
+std::optional<Testo> ScriviDxf(const Disegno& disegno) {
+  Dxf dxf{{}, disegno.unita};
   const Riquadro tutto = Ingombro(disegno);
   ScriviTestata(dxf, tutto);
   ScriviTabelle(dxf, tutto);
@@ -183,7 +215,8 @@ Testo ScriviDxf(const Disegno& disegno) {
   }
   Gruppo(dxf, 0, "ENDSEC");
   Gruppo(dxf, 0, "EOF");
-  return dxf;
+  if (!dxf.finito) return std::nullopt;
+  return std::move(dxf.testo);
 }
 
 }  // namespace ostrel

@@ -1,6 +1,8 @@
 // The drawing for other CAD programs, in the plain R12 form of a DXF file.
 #pragma once
 
+#include <optional>
+
 #include "base/testo.h"
 #include "viewer/disegno.h"
 
@@ -8,7 +10,7 @@ namespace ostrel {
 
 /// The whole file, 8-bit text in code page 1252, units as drawn: one LINE, ARC or CIRCLE, TEXT or
 /// POINT for each element of the drawing, in its file's order, on the layers CONTORNO, QUOTE and
-/// TESTI.
-tarvel::Testo ScriviDxf(const Disegno& disegno);
+/// TESTI. Nothing where a length, as a radius or an extent, is more than the largest number.
+std::optional<tarvel::Testo> ScriviDxf(const Disegno& disegno);
 
 }  // namespace ostrel

@@ -2,6 +2,7 @@
 #include "viewer/esporta.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -12,6 +13,9 @@
 #include <QSvgGenerator>
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
 
 #include "viewer/dxf.h"
 #include "viewer/misure.h"
@@ -45,17 +49,25 @@ void DipingiSuCarta(QPainter& pittore, const Disegno& disegno, const QRectF& fog
   Dipingi(pittore, disegno, VistaIntera(Ingombro(disegno), foglio), foglio, FondoCarta(spessore));
 }
 
-bool ScriviPng(const Disegno& disegno, QIODevice& uscita) {
+// Each kind gives its bytes to the buffer, or the reason why it cannot.
+using Motivo = std::optional<QString>;
+constexpr char kSenzaMemoria[] = "memoria insufficiente";
+
+Motivo SeManca(bool riuscito) {
+  return riuscito ? Motivo() : kSenzaMemoria;
+}
+
+Motivo ScriviPng(const Disegno& disegno, QIODevice& uscita) {
   constexpr double kSpessore = 2;
   QImage immagine(Formato(Ingombro(disegno), kLatoPng), QImage::Format_RGB32);
   immagine.fill(Qt::white);
   QPainter pittore(&immagine);
   DipingiSuCarta(pittore, disegno, immagine.rect(), kSpessore);
   pittore.end();
-  return immagine.save(&uscita, "PNG");
+  return SeManca(!immagine.isNull() && immagine.save(&uscita, "PNG"));
 }
 
-bool ScriviSvg(const Disegno& disegno, QIODevice& uscita) {
+Motivo ScriviSvg(const Disegno& disegno, QIODevice& uscita) {
   const QSize formato = Formato(Ingombro(disegno), kLatoSvg);
   QSvgGenerator svg;
   svg.setOutputDevice(&uscita);
@@ -63,10 +75,10 @@ bool ScriviSvg(const Disegno& disegno, QIODevice& uscita) {
   svg.setViewBox(QRect({0, 0}, formato));
   svg.setTitle(kCreatore);
   QPainter pittore;
-  if (!pittore.begin(&svg)) return false;
+  if (!pittore.begin(&svg)) return kSenzaMemoria;
   pittore.fillRect(QRect({0, 0}, formato), Qt::white);
   DipingiSuCarta(pittore, disegno, QRectF({0, 0}, formato), 1);
-  return pittore.end();
+  return SeManca(pittore.end());
 }
 
 // Any device that counts in pages: a PDF file or a printer.
@@ -82,24 +94,26 @@ QPageLayout::Orientation Orientamento(const Disegno& disegno) {
   return Orizzontale(Ingombro(disegno)) ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
-bool ScriviPdf(const Disegno& disegno, QIODevice& uscita) {
+Motivo ScriviPdf(const Disegno& disegno, QIODevice& uscita) {
   constexpr double m = kMargineCarta;
   QPdfWriter pdf(&uscita);
   pdf.setCreator(kCreatore);
   pdf.setResolution(kRisoluzionePdf);
   pdf.setPageLayout({QPageSize(QPageSize::A4), Orientamento(disegno), {m, m, m, m}, QPageLayout::Millimeter});
-  return DipingiPagina(disegno, pdf, kRisoluzionePdf);
+  return SeManca(DipingiPagina(disegno, pdf, kRisoluzionePdf));
 }
 
-bool ScriviDxfSu(const Disegno& disegno, QIODevice& uscita) {
-  const tarvel::Testo dxf = ScriviDxf(disegno);
-  return uscita.write(dxf.data(), static_cast<qint64>(dxf.size())) == static_cast<qint64>(dxf.size());
+Motivo ScriviDxfSu(const Disegno& disegno, QIODevice& uscita) {
+  const auto dxf = ScriviDxf(disegno);
+  if (!dxf) return "il disegno ha misure che superano il massimo numero rappresentabile";
+  return SeManca(uscita.write(dxf->data(), static_cast<qint64>(dxf->size())) ==
+                 static_cast<qint64>(dxf->size()));
 }
 
 struct Genere {
   const char* finale;
   const char* nome;
-  bool (*scrivi)(const Disegno&, QIODevice&);
+  Motivo (*scrivi)(const Disegno&, QIODevice&);
 };
 constexpr std::array<Genere, 4> kGeneri = {{
     {"png", "Immagine PNG", ScriviPng},
@@ -108,15 +122,56 @@ constexpr std::array<Genere, 4> kGeneri = {{
     {"dxf", "Disegno DXF", ScriviDxfSu},
 }};
 
-// A device is written to as it is; a file is replaced only once its successor is whole.
+// What the host said last. Where it speaks otherwise, only that there was a fault.
+QString MotivoHost(int errore) {
+  switch (errore) {
+    case ENOENT:
+      return "la cartella non accetta file nuovi";
+    case EACCES:
+    case EPERM:
+      return "manca il permesso di scrivere nella cartella o sul file";
+    case EROFS:
+      return "il disco è in sola lettura";
+    case ENOSPC:
+      return "il disco è pieno";
+    case EFBIG:
+      return "il file supera la grandezza consentita";
+    case ENAMETOOLONG:
+      return "il nome è troppo lungo";
+    case EIO:
+      return "guasto del disco";
+    default:
+      return "la scrittura non è riuscita";
+  }
+}
+
+// A device is written to as it is, a pipe might never be read; a file is replaced only once its successor is
+// whole.
 template <class File>
-QString ScriviSu(File& file, const QByteArray& byte) {
-  bool riuscito = file.open(QIODevice::WriteOnly) && file.write(byte) == byte.size() && file.flush();
+Motivo ScriviSu(File&& file, const QByteArray& byte) {
+  errno = 0;
+  if (!file.open(QIODevice::WriteOnly) || file.write(byte) != byte.size() || !file.flush())
+    return MotivoHost(errno);
   if constexpr (requires { file.commit(); })
-    riuscito = riuscito && file.commit();
-  else
-    file.close();
-  return riuscito ? QString() : file.errorString();
+    if (!file.commit()) return MotivoHost(errno);
+  return std::nullopt;
+}
+
+Motivo ScriviFile(const QString& percorso, const QByteArray& byte) {
+  const QFileInfo destinazione(percorso);
+  if (destinazione.isDir()) return "è una cartella";
+  if (!destinazione.dir().exists()) return "la cartella non esiste";
+  std::error_code errore;
+  switch (std::filesystem::status(destinazione.filesystemFilePath(), errore).type()) {
+    case std::filesystem::file_type::character:
+      return ScriviSu(QFile(percorso), byte);
+    case std::filesystem::file_type::fifo:
+    case std::filesystem::file_type::socket:
+    case std::filesystem::file_type::block:
+      return "non è un file";
+    default:
+      return ScriviSu(QSaveFile(percorso), byte);
+  }
 }
 
 }  // namespace
@@ -136,18 +191,11 @@ std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso) 
 
   QBuffer byte;
   byte.open(QIODevice::WriteOnly);
-  QString motivo = "memoria insufficiente";
-  if (genere->scrivi(disegno, byte)) {
-    if (!destinazione.exists() || destinazione.isFile()) {
-      QSaveFile file(percorso);
-      motivo = ScriviSu(file, byte.data());
-    } else {
-      QFile file(percorso);
-      motivo = ScriviSu(file, byte.data());
-    }
-    if (motivo.isEmpty()) return std::nullopt;
-  }
-  return QString("Problemi con la scrittura del file %1: %2").arg(percorso, motivo);
+  Motivo motivo = "non c'è niente da disegnare";
+  if (!Ingombro(disegno).Vuoto()) motivo = genere->scrivi(disegno, byte);
+  if (!motivo) motivo = ScriviFile(percorso, byte.data());
+  if (!motivo) return std::nullopt;
+  return QString("Problemi con la scrittura del file %1: %2").arg(percorso, *motivo);
 }
 
 bool Stampa(const Disegno& disegno, QPrinter& stampante) {

@@ -10,12 +10,24 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStatusBar>
+#include <cmath>
 
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
 #include "viewer/tela.h"
 
 namespace ostrel {
+namespace {
+
+constexpr int kMassimoTitolo = 80;
+
+// Hundredths as far as they can be read at a glance.
+QString Lunghezza(double v) {
+  constexpr double kMassimaDistesa = 1e10;
+  return std::fabs(v) < kMassimaDistesa ? QString::number(v, 'f', 2) : QString::number(v, 'g', 6);
+}
+
+}  // namespace
 
 Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   auto* interno = new QWidget(this);
@@ -42,7 +54,8 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   statusBar()->addWidget(coordinate_, 1);
   statusBar()->addPermanentWidget(conteggio_);
   connect(tela_, &Tela::Puntato, this, [this](double x, double y) {
-    coordinate_->setText(QString("X = %1   Y = %2").arg(x, 0, 'f', 2).arg(y, 0, 'f', 2));
+    const double unita = tela_->Mostrato().unita;
+    coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x * unita), Lunghezza(y * unita)));
   });
 
   CreaMenu();
@@ -116,13 +129,14 @@ void Finestra::Avvisa(const QString& testo) {
 void Finestra::Intitola() {
   const Disegno& d = tela_->Mostrato();
   QStringList parti;
-  if (!d.scritte.empty()) parti << QString::fromStdString(tarvel::InUtf8(d.scritte.front().testo));
+  if (!d.scritte.empty())
+    parti << QString::fromStdString(tarvel::InUtf8(d.scritte.front().testo.substr(0, kMassimoTitolo)));
   if (!percorso_.isEmpty()) parti << QFileInfo(percorso_).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
   QString conteggio =
       QString("%1 linee, %2 archi, %3 testi").arg(d.linee.size()).arg(d.archi.size()).arg(d.scritte.size());
-  if (d.lineeSaltate > 0) conteggio += QString(", %1 linee senza inizio saltate").arg(d.lineeSaltate);
+  if (d.saltati > 0) conteggio += QString(", %1 linee o archi senza un punto saltati").arg(d.saltati);
   conteggio_->setText(conteggio);
 }
 

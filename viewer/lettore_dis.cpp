@@ -4,21 +4,18 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <cstdint>
 #include <limits>
 
 #include "base/numeri.h"
+#include "viewer/misure.h"
 
 namespace ostrel {
 namespace {
 
 using tarvel::Testo;
 
-// Beyond this the squares that distances need would no longer be finite.
-constexpr double kMassimaGrandezza = 1e100;
-constexpr double kMinimoCarattere = 1e-100;
-constexpr std::size_t kMassimaScritta = 255;
+constexpr std::size_t kMassimaRiga = 1 << 20;
 constexpr std::size_t kMassimaCitazione = 40;
 
 constexpr int kMin16 = std::numeric_limits<std::int16_t>::min();
@@ -56,6 +53,7 @@ class Lettore {
     riga_ = resto_.substr(0, fine);
     resto_ = ultima_ ? std::string_view() : resto_.substr(fine + 1);
     if (!riga_.empty() && riga_.back() == '\r') riga_.remove_suffix(1);
+    if (riga_.size() > kMassimaRiga) Rifiuta(tarvel::DaUtf8("la riga è più lunga di 1 MB"));
     return riga_;
   }
 
@@ -73,9 +71,14 @@ class Lettore {
   }
 
   double Numero(std::string_view voce) const {
-    const auto valore = tarvel::NumeroRegionale(voce, ',', ' ');
-    if (!valore || std::fabs(valore->Valore()) > kMassimaGrandezza) Rifiuta();
-    return valore->Valore();
+    if (const auto valore = tarvel::NumeroRegionale(voce, ',', ' ')) return valore->Valore();
+    // With 15 digits the largest double is printed as more than itself.
+    constexpr double kMassimo = std::numeric_limits<double>::max();
+    const bool negativo = voce.starts_with('-');
+    Testo cifre(voce.substr(negativo ? 1 : 0));
+    std::replace(cifre.begin(), cifre.end(), ',', '.');
+    if (cifre != tarvel::FormatoNumero(kMassimo)) Rifiuta();
+    return negativo ? -kMassimo : kMassimo;
   }
 
   int Intero(std::string_view voce, int minimo, int massimo) const {
@@ -110,10 +113,15 @@ class Lettore {
     Rifiuta("trovato: \"" + Visibile(riga_.substr(0, kMassimaCitazione)) + (lunga ? "...\"" : "\""));
   }
 
+  // What has no sign of its own: controls, holes of the code page, and the hyphen that only shows at
+  // the end of a line.
   static Testo Visibile(std::string_view testo) {
+    constexpr std::string_view kSenzaSegno = "\x7F\x81\x8D\x8F\x90\x9D";
     Testo esito(testo);
-    for (char& c : esito)
-      if (static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = ' ';
+    for (char& c : esito) {
+      if (static_cast<unsigned char>(c) < ' ' || kSenzaSegno.find(c) != std::string_view::npos) c = '?';
+      if (c == '\xAD') c = '-';
+    }
     return esito;
   }
 
@@ -156,6 +164,9 @@ Disegno LeggiTutto(Lettore& file) {
     return file.Intero(voce, 0, ultimo);
   };
 
+  // -1: the table of coordinates was full when the element was drawn.
+  const auto oMancante = [&](std::string_view voce) { return voce == "-1" ? -1 : indice(voce); };
+
   d.punti = LeggiSezione<Punto>(file, kPunti, [&](auto& punti) {
     const auto [posizione, b, a] = file.Voci<3>("un punto (indice della coordinata e due attributi)");
     file.Intero16(b);
@@ -166,10 +177,9 @@ Disegno LeggiTutto(Lettore& file) {
   d.linee = LeggiSezione<Linea>(file, kLinee, [&](auto& linee) {
     const auto [inizio, fine, colore, tipo] =
         file.Voci<4>("una linea (indici del primo e del secondo punto, colore e tipo di linea)");
-    const Linea linea{inizio == "-1" ? -1 : indice(inizio), indice(fine), file.Intero16(colore),
-                      file.Intero16(tipo)};
+    const Linea linea{oMancante(inizio), indice(fine), file.Intero16(colore), file.Intero16(tipo)};
     if (linea.inizio < 0)
-      ++d.lineeSaltate;
+      ++d.saltati;
     else
       linee.push_back(linea);
   });
@@ -181,31 +191,31 @@ Disegno LeggiTutto(Lettore& file) {
     scritta.posizione = indice(posizione);
     file.Intero16(uno);
     scritta.angolo = file.Intero16(angolo);
-    const auto [base, altezza, colore] =
-        file.Voci<3>("base e altezza del testo, maggiori di zero, e il suo colore");
+    const auto [base, altezza, colore] = file.Voci<3>("base e altezza del testo e il suo colore");
     scritta.base = file.Numero(base);
     scritta.altezza = file.Numero(altezza);
-    if (scritta.base < kMinimoCarattere || scritta.altezza < kMinimoCarattere) file.Rifiuta();
     scritta.colore = file.Intero16(colore);
-    const std::string_view testo = file.Riga("il testo, al massimo 255 caratteri");
-    if (testo.size() > kMassimaScritta) file.Rifiuta();
-    scritta.testo = Lettore::Visibile(testo);
-    scritte.push_back(std::move(scritta));
+    scritta.testo = Lettore::Visibile(file.Riga("il testo"));
+    if (scritta.base > 0 && scritta.altezza > 0) scritte.push_back(std::move(scritta));
   });
 
   d.archi = LeggiSezione<Arco>(file, kArchi, [&](auto& archi) {
     const auto [centro, inizio, ancora, fine] =
         file.Voci<4>("un arco (indici del centro, del primo punto, ancora del centro e dell'ultimo punto)");
-    Arco arco{indice(centro), indice(inizio), indice(fine), 0};
-    if (indice(ancora) != arco.centro) file.Rifiuta();
+    Arco arco{oMancante(centro), oMancante(inizio), oMancante(fine), 0};
+    if (oMancante(ancora) != arco.centro) file.Rifiuta();
     const auto [colore, genere] = file.Voci<2>("colore e genere dell'arco");
     arco.colore = file.Intero16(colore);
     file.Intero16(genere);
-    archi.push_back(arco);
+    if (std::min({arco.centro, arco.inizio, arco.fine}) < 0)
+      ++d.saltati;
+    else
+      archi.push_back(arco);
   });
 
   while (!file.Finito())
     if (!tarvel::SenzaBlanchi(file.Riga("la fine del disegno")).empty()) file.Rifiuta();
+  Riduci(d);
   return d;
 }
 

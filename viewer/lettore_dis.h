@@ -17,10 +17,11 @@ struct ErroreDis {
 };
 
 /// Numbers with '.' or ',' as the decimal separator; lines end with CR LF or LF. Anything else than
-/// a whole drawing is refused, and so are tables larger than the drawing program's own and texts of
-/// more than 255 characters. Memory stays in proportion to the bytes, whatever counts they claim.
-/// A line element whose first index is -1 is passed over and counted; every other index must be
-/// within the table. Control characters in texts become blanks.
+/// a whole drawing is refused, and so are tables larger than the drawing program's own and lines of
+/// more than 1 MB. Memory stays in proportion to the bytes, whatever counts they claim. A line whose
+/// first index is -1, or an arc with such an index, is passed over and counted; every other index must
+/// be within the table. Control characters and codes that the code page does not define become '?'.
+/// A text without breadth or height is left out. Every finite number is read: see Disegno::unita.
 std::variant<Disegno, ErroreDis> LeggiDis(std::string_view byte);
 
 }  // namespace ostrel

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "platform/comune/scala.h"
+#include "platform/qt/schermo.h"
 #include "viewer/avvio.h"
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
@@ -69,7 +70,7 @@ int Esegui(int argc, char** argv) {
     return std::strncmp(argomento, "--esporta", std::strlen("--esporta")) == 0;
   });
   if (esporta) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication applicazione(argc, argv);
+  const auto applicazione = tarvel::ApreSchermo(argc, argv);
 
   QCommandLineParser riga;
   riga.addOptions(

@@ -4,15 +4,15 @@
 
 #include <QFont>
 #include <QFontMetricsF>
-#include <QPainterPath>
-#include <QPen>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
 #include <vector>
 
+#include "viewer/archi.h"
 #include "viewer/tavolozza.h"
+#include "viewer/tratti.h"
 
 namespace ostrel {
 namespace {
@@ -20,7 +20,8 @@ namespace {
 constexpr double kMargine = 0.025;
 constexpr double kContrastoCarta = 3;
 constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
-constexpr double kMassimoRaggioIntero = 4000;
+// Sides of a drawing this much smaller than its coordinates are their rounding.
+constexpr double kArrotondamento = 1e-12;
 constexpr double kMezzaCroce = 3;  // of a marked point, in pen widths
 // With more lines than this on the screen smoothing would cost more than it shows.
 constexpr std::size_t kMassimeLineeLisce = 20000;
@@ -30,56 +31,11 @@ double Luminanza(const QColor& c) {
   return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF());
 }
 
-// The part of a segment within a rectangle (Liang-Barsky), as fractions of its length.
-struct Parte {
-  double da = 0, a = 1;
-};
-bool Ritaglia(const QPointF& p, const QPointF& q, const QRectF& r, Parte& parte) {
-  const auto bordo = [&](double verso, double distanza) {
-    if (verso == 0) return distanza >= 0;
-    const double t = distanza / verso;
-    if (verso < 0)
-      parte.da = std::max(parte.da, t);
-    else
-      parte.a = std::min(parte.a, t);
-    return parte.da <= parte.a;
-  };
-  const double dx = q.x() - p.x(), dy = q.y() - p.y();
-  return bordo(-dx, p.x() - r.left()) && bordo(dx, r.right() - p.x()) && bordo(-dy, p.y() - r.top()) &&
-         bordo(dy, r.bottom() - p.y());
-}
-
-QPen Penna(const Fondo& fondo, int colore) {
-  return {ColoreSu(fondo, colore), fondo.spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
-}
-
-// The place nearest to v where a line covers whole pixels.
-double SuPixel(double v, const Fondo& fondo) {
-  const bool dispari = std::lround(fondo.spessore / fondo.pixel) % 2 != 0;
-  return (dispari ? std::floor(v / fondo.pixel) + 0.5 : std::round(v / fondo.pixel)) * fondo.pixel;
-}
-
-QLineF Segmento(QPointF p, QPointF q, const Parte& parte, const Fondo& fondo) {
-  QLineF s(p + (q - p) * parte.da, p + (q - p) * parte.a);
-  if (fondo.pixel > 0 && p.x() == q.x()) {
-    const double x = SuPixel(p.x(), fondo);
-    s.setLine(x, s.y1(), x, s.y2());
-  } else if (fondo.pixel > 0 && p.y() == q.y()) {
-    const double y = SuPixel(p.y(), fondo);
-    s.setLine(s.x1(), y, s.x2(), y);
-  }
-  return s;
-}
-
 class Pittura {
  public:
   Pittura(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
           const Fondo& fondo)
-      : p_(pittore),
-        d_(disegno),
-        vista_(vista),
-        fondo_(fondo),
-        campo_(visibile.marginsAdded(QMarginsF(8, 8, 8, 8) * fondo.spessore)) {}
+      : p_(pittore), d_(disegno), vista_(vista), fondo_(fondo), campo_(Campo(visibile, fondo)) {}
 
   void Linee() {
     std::array<std::vector<QLineF>, kColori.size()> continue_;
@@ -96,24 +52,6 @@ class Pittura {
     for (std::size_t colore = 0; colore < continue_.size(); ++colore) {
       p_.setPen(Penna(fondo_, static_cast<int>(colore)));
       p_.drawLines(continue_[colore].data(), static_cast<int>(continue_[colore].size()));
-    }
-  }
-
-  void Archi() {
-    p_.setBrush(Qt::NoBrush);
-    for (const Arco& arco : d_.archi) {
-      const ArcoPolare polare = Polare(d_, arco);
-      const double r = polare.raggio * vista_.scala;
-      const QPointF centro = vista_.Verso(polare.x, polare.y);
-      const QRectF quadro(centro.x() - r, centro.y() - r, 2 * r, 2 * r);
-      if (!quadro.intersects(campo_) && r > 0) continue;
-      p_.setPen(Penna(fondo_, arco.colore));
-      if (r > kMassimoRaggioIntero)
-        ArcoGrande(polare);
-      else if (polare.cerchio)
-        p_.drawEllipse(quadro);
-      else
-        ArcoPiccolo(quadro, polare);
     }
   }
 
@@ -158,33 +96,6 @@ class Pittura {
     p_.drawLine(segmento);
   }
 
-  void ArcoPiccolo(const QRectF& quadro, const ArcoPolare& polare) {
-    constexpr double kGradi = 180 / std::numbers::pi;
-    QPainterPath tracciato;
-    tracciato.arcMoveTo(quadro, polare.inizio * kGradi);
-    tracciato.arcTo(quadro, polare.inizio * kGradi, polare.ampiezza * kGradi);
-    p_.drawPath(tracciato);
-  }
-
-  // Much larger than the window: chords that stay within a tenth of a pixel, where they are seen.
-  void ArcoGrande(const ArcoPolare& polare) {
-    const double r = polare.raggio * vista_.scala;
-    const int corde = static_cast<int>(std::ceil(polare.ampiezza * std::sqrt(std::min(r, 1e8) / 0.8)));
-    std::vector<QLineF> visti;
-    const auto punto = [&](int i) {
-      const double a = polare.inizio + polare.ampiezza * i / corde;
-      return vista_.Verso(polare.x + polare.raggio * std::cos(a), polare.y + polare.raggio * std::sin(a));
-    };
-    QPointF prima = punto(0);
-    for (int i = 1; i <= corde; ++i) {
-      const QPointF dopo = punto(i);
-      if (Parte parte; Ritaglia(prima, dopo, campo_, parte))
-        visti.push_back(Segmento(prima, dopo, parte, fondo_));
-      prima = dopo;
-    }
-    p_.drawLines(visti.data(), static_cast<int>(visti.size()));
-  }
-
   void Scrivi(const Scritta& scritta, const QFontMetricsF& misure) {
     if (scritta.testo.empty()) return;
     QPolygonF riquadro;
@@ -194,12 +105,13 @@ class Pittura {
     if (!riquadro.boundingRect().marginsAdded({altezza, altezza, altezza, altezza}).intersects(campo_))
       return;
     p_.setPen(Penna(fondo_, scritta.colore));
-    if (altezza < kMinimaAltezzaScritta * fondo_.spessore) {
-      p_.drawLine(riquadro[0], riquadro[1]);
+    const double largo = scritta.base * static_cast<double>(scritta.testo.size()) * vista_.scala;
+    const double minimo = kMinimaAltezzaScritta * fondo_.spessore;
+    if (altezza < minimo || largo < minimo) {
+      p_.drawLine(riquadro[0], riquadro[altezza < minimo ? 1 : 3]);
       return;
     }
     const QString testo = QString::fromStdString(tarvel::InUtf8(scritta.testo));
-    const double largo = scritta.base * static_cast<double>(scritta.testo.size()) * vista_.scala;
     p_.save();
     p_.translate(riquadro[0]);
     p_.rotate(-scritta.angolo);
@@ -212,7 +124,7 @@ class Pittura {
   const Disegno& d_;
   const Vista& vista_;
   const Fondo& fondo_;
-  QRectF campo_;  // what is visible, and enough around it that no pen's edge is cut
+  QRectF campo_;
 };
 
 }  // namespace
@@ -229,8 +141,10 @@ Vista VistaIntera(const Riquadro& tutto, QRectF area) {
   area.adjust(margine, margine, -margine, -margine);
   const Riquadro r = tutto.Vuoto() ? Riquadro{0, 0, 1, 1} : tutto;
   // A drawing without breadth or height is fitted by its other side, a single point at scale 1.
-  const double x = r.Larghezza() > 0 ? area.width() / r.Larghezza() : HUGE_VAL;
-  const double y = r.Altezza() > 0 ? area.height() / r.Altezza() : HUGE_VAL;
+  const double minimo =
+      kArrotondamento * std::max({std::fabs(r.x0), std::fabs(r.x1), std::fabs(r.y0), std::fabs(r.y1)});
+  const double x = r.Larghezza() > minimo ? area.width() / r.Larghezza() : HUGE_VAL;
+  const double y = r.Altezza() > minimo ? area.height() / r.Altezza() : HUGE_VAL;
   const double scala = std::isfinite(std::min(x, y)) ? std::min(x, y) : 1;
   const QPointF centro = area.center();
   return {scala, (r.x0 + r.x1) / 2 - centro.x() / scala, (r.y0 + r.y1) / 2 + centro.y() / scala};
@@ -262,7 +176,7 @@ void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, cons
   pittore.setRenderHint(QPainter::Antialiasing, liscia);
   pittura.Linee();
   pittore.setRenderHint(QPainter::Antialiasing, true);
-  pittura.Archi();
+  DipingiArchi(pittore, disegno, vista, visibile, fondo);
   pittura.Punti();
   pittura.Scritte();
 }

@@ -22,7 +22,7 @@ class Tela : public QWidget {
   const Vista& VistaCorrente() const { return vista_; }
 
  signals:
-  /// The pointer is over this point of the drawing.
+  /// The pointer is over this point of the drawing, in its units.
   void Puntato(double x, double y);
 
  protected:

@@ -14,6 +14,7 @@ namespace {
 
 std::int32_t gUltimo = 0;
 std::set<std::int32_t> gAttivi;
+std::int32_t gAttivato = 0;  // the task that keys go to
 
 }  // namespace
 
@@ -22,7 +23,7 @@ bool TerminaCompito(std::int32_t id) {
 }
 
 void AzzeraCompiti() {
-  gUltimo = 0;
+  gUltimo = gAttivato = 0;
   gAttivi.clear();
 }
 
@@ -43,12 +44,13 @@ std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t s
 
 bool AttivaProgramma(std::int32_t id) {
   const bool attivo = gAttivi.count(id) != 0;
+  gAttivato = attivo ? id : 0;
   Annota("activate " + std::to_string(id) + (attivo ? " -> done" : " -> failed"));
   return attivo;
 }
 
 void InviaTasti(const Testo& sequenza) {
-  Annota("keys " + TraVirgolette(sequenza));
+  if (gAttivi.count(gAttivato) != 0) Annota("keys " + TraVirgolette(sequenza));
 }
 
 }  // namespace tarvel

@@ -13,6 +13,7 @@
 #include "platform/desktop.h"
 #include "platform/qt/gestori.h"
 #include "platform/qt/scala.h"
+#include "platform/qt/schermo.h"
 #include "platform/qt/testo_qt.h"
 
 namespace tarvel {
@@ -49,7 +50,7 @@ void PreparaDesktop(int argc, char** argv, const Form& principale) {
   // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,
   // and so does the application object, which the process's end takes away.
   static int solo = 1;
-  new QApplication(solo, argv);
+  ApreSchermo(solo, argv).release();
   std::setlocale(LC_NUMERIC, "C");
 
   QApplication::setQuitOnLastWindowClosed(false);

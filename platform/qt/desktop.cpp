@@ -48,6 +48,13 @@ void Centra(Finestra& finestra, const Finestra& su) {
   finestra.move(std::max(posto.left(), schermo.left()), std::max(posto.top(), schermo.top()));
 }
 
+// The wanted corner, as far as the window, with its frame, then stands whole on the screen.
+QPoint Angolo(const Finestra& finestra) {
+  const QRect schermo = finestra.screen()->availableGeometry();
+  const int resto = std::max(0, schermo.width() - finestra.width());
+  return schermo.topLeft() + QPoint(std::min(int(Pixel(kSinistra)), resto / 2), 0);
+}
+
 // The control that the user sees with the keyboard is the one that has the focus, whenever the
 // window manager gets round to making the window the active one.
 void Mostra(Caricata& caricata, bool modale) {
@@ -55,17 +62,21 @@ void Mostra(Caricata& caricata, bool modale) {
   Finestra& finestra = *caricata.finestra;
   finestra.livello = LivelloModale();
   if (!finestra.isVisible()) {
+    // Window managers let only a dialog belong to its owner.
+    finestra.setWindowFlags((finestra.windowFlags() & ~Qt::WindowType_Mask) |
+                            (modale ? Qt::Dialog : Qt::Window));
     finestra.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
     finestra.VaiAlPrimo();
     if (modale && FinestraAttiva() != nullptr)
       Centra(finestra, *FinestraAttiva());
     else if (FinestraAttiva() == nullptr)
-      finestra.move(finestra.screen()->availableGeometry().topLeft() + QPoint(int(Pixel(kSinistra)), 0));
+      finestra.move(Angolo(finestra));
   }
   // While a modal form is shown, what its handlers show has to belong to it to be usable.
   finestra.winId();
   if (LivelloModale() > 0 && FinestraAttiva() != nullptr && FinestraAttiva() != &finestra)
     finestra.windowHandle()->setTransientParent(FinestraAttiva()->windowHandle());
+  finestra.setWindowState(finestra.windowState() & ~Qt::WindowMinimized);
   finestra.show();
   finestra.raise();
   finestra.activateWindow();

@@ -33,10 +33,14 @@ class Vedetta : public QObject {
     if (finestra_.form == nullptr) return false;
     const auto tipo = evento->type();
     if (tipo != QEvent::FocusIn && tipo != QEvent::KeyPress && tipo != QEvent::MouseButtonPress) return false;
-    const bool colMouse =
-        tipo == QEvent::MouseButtonPress ||
-        (tipo == QEvent::FocusIn && static_cast<QFocusEvent*>(evento)->reason() == Qt::MouseFocusReason);
+    const auto ragione =
+        tipo == QEvent::FocusIn ? static_cast<QFocusEvent*>(evento)->reason() : Qt::OtherFocusReason;
+    const bool colMouse = tipo == QEvent::MouseButtonPress || ragione == Qt::MouseFocusReason;
     if (tipo == QEvent::FocusIn) clickInterrotto_ = false;
+    if (ragione == Qt::ActiveWindowFocusReason) {
+      AttivaFinestra(finestra_);
+      return false;
+    }
     const int prima = LoopAperti();
     RaggiungeControllo(finestra_, &controllo_);
     if (LoopAperti() != prima) clickInterrotto_ = colMouse;
@@ -125,6 +129,7 @@ void Finestra::paintEvent(QPaintEvent*) {
 
 void Finestra::closeEvent(QCloseEvent* evento) {
   evento->ignore();  // the window goes when the form is unloaded
+  FinisceAttivazione();
   if (form == nullptr || !Usabile(*this)) return;
   EseguiGestore([this] {
     LasciaControllo(*this);

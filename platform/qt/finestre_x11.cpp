@@ -85,6 +85,11 @@ bool Principale(FinestraX finestra) {
          std::find(tipi.begin(), tipi.end(), Nome("_NET_WM_WINDOW_TYPE_NORMAL")) != tipi.end();
 }
 
+bool DellaSessione(FinestraX finestra, int sessione) {
+  const auto processo = Proprieta(finestra, "_NET_WM_PID", XA_CARDINAL);
+  return !processo.empty() && getsid(static_cast<pid_t>(processo[0])) == sessione;
+}
+
 int IgnoraErrore(Display*, XErrorEvent*) {
   return 0;
 }
@@ -99,11 +104,6 @@ Display* ConnessioneX() {
   // Windows that come and go and change hands, with and without a window manager.
   XSelectInput(display, Radice(), PropertyChangeMask | SubstructureNotifyMask);
   return display;
-}
-
-bool DellaSessione(FinestraX finestra, int sessione) {
-  const auto processo = Proprieta(finestra, "_NET_WM_PID", XA_CARDINAL);
-  return !processo.empty() && getsid(static_cast<pid_t>(processo[0])) == sessione;
 }
 
 std::optional<FinestraX> FinestraPrincipale(int sessione) {
@@ -129,6 +129,24 @@ FinestraX FinestraColFuoco() {
   while (fuoco > PointerRoot && Proprieta(fuoco, "_NET_WM_PID", XA_CARDINAL).empty())
     fuoco = Parenti(fuoco).padre;
   return fuoco > PointerRoot ? fuoco : None;
+}
+
+bool Bloccata(FinestraX finestra) {
+  const auto aperte = FinestreAperte();
+  return std::any_of(aperte.begin(), aperte.end(), [&](FinestraX dialogo) {
+    const auto stati = Proprieta(dialogo, "_NET_WM_STATE", XA_ATOM);
+    return Proprieta(dialogo, "WM_TRANSIENT_FOR", XA_WINDOW) == std::vector{finestra} &&
+           std::find(stati.begin(), stati.end(), Nome("_NET_WM_STATE_MODAL")) != stati.end();
+  });
+}
+
+ServerFermo::ServerFermo() {
+  XGrabServer(display);
+}
+
+ServerFermo::~ServerFermo() {
+  XUngrabServer(display);
+  XSync(display, False);
 }
 
 void ChiediAttivazione(FinestraX finestra) {

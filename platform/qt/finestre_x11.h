@@ -19,13 +19,21 @@ using Orologio = std::chrono::steady_clock;
 /// with nothing.
 Display* ConnessioneX();
 
-/// The window belongs to this session of processes.
-bool DellaSessione(FinestraX finestra, int sessione);
 /// The main window of a session of processes: one the user sees as a program, no dialog or menu;
 /// the oldest of several.
 std::optional<FinestraX> FinestraPrincipale(int sessione);
 /// The window the user's keys go to.
 FinestraX FinestraColFuoco();
+/// A modal dialog keeps the user from this window.
+bool Bloccata(FinestraX finestra);
+/// While this lives no other program can change anything at the server.
+class ServerFermo {
+ public:
+  ServerFermo();
+  ~ServerFermo();
+  ServerFermo(const ServerFermo&) = delete;
+  ServerFermo& operator=(const ServerFermo&) = delete;
+};
 /// Asks for the window to come to the front and get the keyboard.
 void ChiediAttivazione(FinestraX finestra);
 

@@ -1,7 +1,10 @@
 // Which control of the desktop has the focus, as the forms see it.
 #include "platform/qt/fuoco.h"
 
+#include <QPointer>
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 #include <vector>
 
@@ -14,6 +17,7 @@ int messaggi = 0;
 int loopAperti = 0;
 int livelloModale = 0;
 Controllo* colFuoco = nullptr;
+QPointer<Finestra> attivata;    // whose control is not reached yet
 std::vector<Finestra*> ordine;  // the windows on the screen, the last used one at the end
 
 bool SulloSchermo(const Controllo* controllo) {
@@ -30,6 +34,7 @@ bool Usabile(const Finestra& finestra) {
 void RaggiungeControllo(Finestra& finestra, Controllo* controllo) {
   // The window manager may make a window active for a moment that cannot be used.
   if (!Usabile(finestra)) return;
+  attivata.clear();
   std::erase(ordine, &finestra);
   ordine.push_back(&finestra);
   if (colFuoco == controllo) return;
@@ -37,6 +42,17 @@ void RaggiungeControllo(Finestra& finestra, Controllo* controllo) {
     QuandoLibero([lasciato] {
       if (SulloSchermo(lasciato)) EseguiGestore(lasciato->fuocoPerso);
     });
+}
+
+void AttivaFinestra(Finestra& finestra) {
+  constexpr std::chrono::milliseconds kAttesaClick{150};
+  attivata = &finestra;
+  QTimer::singleShot(kAttesaClick, &finestra, FinisceAttivazione);
+}
+
+void FinisceAttivazione() {
+  const QPointer<Finestra> finestra = std::exchange(attivata, nullptr);
+  if (finestra != nullptr && finestra->form != nullptr) RaggiungeControllo(*finestra, finestra->ColFuoco());
 }
 
 void LasciaControllo(const Finestra& finestra) {

@@ -12,6 +12,12 @@ bool Usabile(const Finestra& finestra);
 /// The user, or the showing of a form, has reached this control (nullptr: a form that has none to
 /// reach): the one left loses the focus. Nothing when the window cannot be used.
 void RaggiungeControllo(Finestra& finestra, Controllo* controllo);
+/// The window has become the active one. If by a click, the click comes next, and it has to find its
+/// control before a message of the one left takes the mouse: the control that has the keyboard here
+/// counts as reached only when nothing has come for a moment.
+void AttivaFinestra(Finestra& finestra);
+/// It counts as reached now.
+void FinisceAttivazione();
 /// The close box of a form that holds the focus: its control loses it.
 void LasciaControllo(const Finestra& finestra);
 /// The form goes: the focus returns, without an event, to the control that had it before.

@@ -1,5 +1,6 @@
 // Message boxes.
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -37,9 +38,10 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
     riquadro.setObjectName("messaggio");
     QPushButton* si = nullptr;
     if (bottoni == Bottoni::SiNo) {
-      si = riquadro.addButton(QStringLiteral("&Sì"), QMessageBox::YesRole);
+      si = riquadro.addButton(QStringLiteral("&Sì"), QMessageBox::AcceptRole);
       riquadro.setDefaultButton(si);
-      riquadro.setEscapeButton(riquadro.addButton(QStringLiteral("&No"), QMessageBox::NoRole));
+      // In the role of a No, Esc and the close box would press it.
+      riquadro.addButton(QStringLiteral("&No"), QMessageBox::DestructiveRole);
     } else {
       riquadro.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     }
@@ -47,7 +49,10 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
     const int titoloIntero = riquadro.fontMetrics().horizontalAdvance(riquadro.windowTitle()) * 5 / 4 + 160;
     auto& griglia = static_cast<QGridLayout&>(*riquadro.layout());
     griglia.addItem(new QSpacerItem(titoloIntero, 0), griglia.rowCount(), 0, 1, griglia.columnCount());
+    const bool clessidra = QGuiApplication::overrideCursor() != nullptr;
+    if (clessidra) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
     riquadro.exec();
+    if (clessidra) QGuiApplication::restoreOverrideCursor();
     if (si != nullptr) risposta = riquadro.clickedButton() == si ? Risposta::Si : Risposta::No;
   });
   return risposta;

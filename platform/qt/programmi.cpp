@@ -27,8 +27,8 @@ struct Compito {
   Orologio::time_point avvio = Orologio::now();
 };
 
-std::vector<Compito> compiti;  // task id - 1
-std::int32_t attivazione = 0;  // asked for, its effect not yet seen
+std::vector<Compito> compiti;       // task id - 1
+std::optional<FinestraX> attivata;  // the main window that keys are for
 
 bool Finito(const Compito& compito) {
   pollfd stato{compito.processo, POLLIN, 0};
@@ -52,34 +52,27 @@ std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t) 
 }
 
 bool AttivaProgramma(std::int32_t id) {
-  attivazione = 0;
-  if (id < 1 || std::size_t(id) > compiti.size() || ConnessioneX() == nullptr) return false;
+  attivata.reset();
+  if (id < 1 || std::size_t(id) > compiti.size()) return false;
   const Compito& compito = compiti[std::size_t(id) - 1];
-  std::optional<FinestraX> finestra;
+  if (Finito(compito) || ConnessioneX() == nullptr) return !Finito(compito);
   Aspetta(
       [&] {
-        if (Finito(compito)) return true;
-        finestra = FinestraPrincipale(compito.sessione);
-        return finestra.has_value();
+        if (!Finito(compito)) attivata = FinestraPrincipale(compito.sessione);
+        return attivata || Finito(compito);
       },
       compito.avvio + kAttesaFinestra, compito.processo);
-  if (!finestra) return false;
-  ChiediAttivazione(*finestra);
-  attivazione = id;
-  return true;
+  if (attivata) ChiediAttivazione(*attivata);
+  return !Finito(compito);
 }
 
 void InviaTasti(const Testo& sequenza) {
-  if (ConnessioneX() == nullptr) return;
-  // Keys meant for a program that did not come to the front are not for the one that is there.
-  if (const std::int32_t id = std::exchange(attivazione, 0)) {
-    const Compito& compito = compiti[std::size_t(id) - 1];
-    const auto attiva = [&] { return DellaSessione(FinestraColFuoco(), compito.sessione); };
-    Aspetta([&] { return Finito(compito) || attiva(); }, Orologio::now() + kAttesaAttivazione,
-            compito.processo);
-    if (!attiva()) return;
-  }
-  PremiTasti(ConnessioneX(), LeggiSequenza(sequenza));
+  if (!attivata) return;
+  const auto attiva = [] { return FinestraColFuoco() == *attivata; };
+  Aspetta([&] { return attiva() || Bloccata(*attivata); }, Orologio::now() + kAttesaAttivazione, -1);
+  // Between the look and the keys no other window may come to the front.
+  const ServerFermo fermo;
+  if (attiva()) PremiTasti(ConnessioneX(), LeggiSequenza(sequenza));
 }
 
 }  // namespace tarvel

@@ -107,6 +107,7 @@ TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
       {"  a b , c \n", {"  a b , c "}, {"a b ", "c "}},
       {"\"a, b\" , \"c\"\r\n\"d", {"\"a, b\" , \"c\"", "\"d"}, {"a, b", "c", "d"}},
       {",,x", {",,x"}, {"", "", "x"}},
+      {"\"a\",,b", {"\"a\",,b"}, {"a", "", "b"}},
       {"\r\n\"\"\r\nx\r\n", {"", "\"\"", "x"}, {"", "", "x"}},
       {"C:\\Lavori\r\n", {"C:\\Lavori"}, {"C:\\Lavori"}},
   };
@@ -163,8 +164,11 @@ TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFileAndAFullDiskIsSaid) {
   EXPECT_EQ(ScriviFile("\\dev\\full", "x"), EsitoScrittura::Incompleto);
 }
 
-TEST(ContrattoProgrammi, IdsAreNewAndOnlyOfProgramsThatStart) {
-  const Esito esito = Prova([](Utente& u) {
+// Where nothing tells of another program's windows, the one that lives is running all the same.
+TEST_F(ContrattoFile, TaskIdsAreNewAndOnlyOfProgramsThatStart) {
+  Metti("vivo", "#!/bin/sh\nfor i in $(seq 50); do [ -e \"$0\" ] && sleep 0.1; done\n");
+  fs::permissions(cartella_ / "vivo", fs::perms::owner_all);
+  const Esito esito = Prova([this](Utente& u) {
     FormDiario form(u, "F");
     form.alCaricamento = [&] {
       const auto uno = AvviaProgramma("\\bin\\TRUE", 1);
@@ -172,11 +176,14 @@ TEST(ContrattoProgrammi, IdsAreNewAndOnlyOfProgramsThatStart) {
       u.Annota(uno && due && *uno != 0 && *due != 0 && *uno != *due ? "diversi" : "guasto");
       for (const char* percorso : {"\\bin\\non c'e'", "\\bin", ""})
         u.Annota(AvviaProgramma(percorso, 1) ? "avviato" : "niente");
-      for (const std::int32_t id : {0, -1, 12345}) u.Annota(AttivaProgramma(id) ? "attivo" : "nessuno");
+      const std::int32_t vivo = AvviaProgramma(Percorso("vivo"), 1).value_or(0);
+      for (const std::int32_t id : {vivo, 0, -1, 12345}) u.Annota(AttivaProgramma(id) ? "attivo" : "nessuno");
+      InviaTasti("%(fg)");
     };
-    u.Esegui(form, {});
+    u.Esegui(form, {[this] { fs::remove(cartella_ / "vivo"); }});
   });
-  EXPECT_EQ(InRiga(esito.diario), "load F; diversi; niente; niente; niente; nessuno; nessuno; nessuno");
+  EXPECT_EQ(InRiga(esito.diario),
+            "load F; diversi; niente; niente; niente; attivo; nessuno; nessuno; nessuno");
 }
 
 }  // namespace

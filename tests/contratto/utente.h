@@ -51,8 +51,9 @@ class Utente {
   virtual void Chiudi(Form& form) = 0;
 
   /// The answer to the next message box that has none yet, given after it was open for `attesa`
-  /// milliseconds. A box without an answer is dismissed by its close box or Esc. May also be called
-  /// before Esegui. The platform notes each box in the diary once it is answered: RigaMessaggio.
+  /// milliseconds. Without an answer a note is dismissed by its close box; a question gets a No after
+  /// Esc and the close box have been tried in vain. May also be called before Esegui. The platform notes each
+  /// box in the diary once it is answered: RigaMessaggio.
   virtual void Rispondi(Risposta risposta, int attesa = 0) = 0;
 
   /// Lets time pass, the program waiting for its user, until the diary holds this line; gives up

@@ -80,7 +80,9 @@ class UtenteQt : public Utente {
 
   void Vai(Controllo& controllo) override {
     QWidget* const widget = Usabile(controllo);
-    if (widget == nullptr || widget->hasFocus()) return;
+    if (widget == nullptr) return;
+    if (widget->hasFocus())  // by the activation of its window, which counts a little later
+      return void(QTest::qWaitFor([&] { return FinestraAttiva() == widget->window(); }));
     QWindow* const finestra = widget->window()->windowHandle();
     if (controllo.tipo == TipoControllo::Casella) return Clic(widget, widget->rect().center());
     // A button pressed and left with the mouse held is no click.
@@ -195,7 +197,12 @@ class UtenteQt : public Utente {
       const auto icona = std::find(kIcone.begin(), kIcone.end(), riquadro->icon()) - kIcone.begin();
       Annota(RigaMessaggio(static_cast<Icona>(icona), domanda ? Bottoni::SiNo : Bottoni::Ok,
                            DaQt(riquadro->windowTitle()), DaQt(riquadro->text()), data.risposta));
-      if (!pronta) return void(riquadro->windowHandle()->close());
+      if (!pronta) {
+        if (domanda) QTest::keyClick(riquadro, Qt::Key_Escape);
+        riquadro->windowHandle()->close();
+        if (riquadro->isVisible() != domanda) Annota(domanda ? "sparita" : "rimasta");
+        if (!domanda) return;
+      }
       QAbstractButton* const bottone = riquadro->buttons()[data.risposta == Risposta::No ? 1 : 0];
       Clic(bottone, bottone->rect().center());
     });
@@ -222,6 +229,7 @@ Esito Prova(const std::function<void(Utente&)>& caso) {
   if (figlio == 0) {
     alarm(kTempoCaso);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    unsetenv("DISPLAY");
     UtenteQt utente(cartellaCapi + std::to_string(capi[1]));
     caso(utente);
     std::_Exit(99);  // a case runs the program to its end

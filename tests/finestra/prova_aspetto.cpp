@@ -10,7 +10,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 
 #include "app/form_sez.h"
@@ -122,6 +124,12 @@ TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
   Prepara(FormPrincipale(), ("offscreen:configfile=" + file).c_str());
   EXPECT_LE(Pixel(FormPrincipale().larghezza), std::max(629, larghezza * 2 / 3));
   EXPECT_LE(Pixel(FormPrincipale().altezza), std::max(319, altezza * 2 / 3));
+  Form vuota;
+  vuota.larghezza = FormPrincipale().larghezza;
+  vuota.altezza = FormPrincipale().altezza;
+  MostraForm(vuota);
+  EXPECT_TRUE(FinestraAttiva()->screen()->geometry().contains(FinestraAttiva()->geometry()));
+  ScaricaForm(vuota);
   FormSez elenco;
   FormSez2 multiplo;
   for (Form* form : {&FormPrincipale(), static_cast<Form*>(&FormOpt::Unica()), static_cast<Form*>(&elenco),
@@ -130,9 +138,21 @@ TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
-                         ::testing::Values(std::pair(640, 480), std::pair(1024, 600), std::pair(1366, 768),
-                                           std::pair(1440, 900), std::pair(1920, 1080),
+                         ::testing::Values(std::pair(640, 480), std::pair(683, 384), std::pair(1024, 600),
+                                           std::pair(1366, 768), std::pair(1440, 900), std::pair(1920, 1080),
                                            std::pair(3840, 2160)));
+
+TEST(Puntatore, TheHourglassMakesRoomForAMessage) {
+  Form form;
+  Prepara(form);
+  ImpostaPuntatore(Puntatore::Clessidra);
+  QTimer::singleShot(0, [] {
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+    QApplication::activeModalWidget()->close();
+  });
+  MostraMessaggio("testo", "titolo", Icona::Nessuna);
+  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+}
 
 TEST(Etichetta, ALongPathShowsBothEndsAndTheWholeAsAToolTip) {
   Prepara(FormPrincipale());

@@ -2,14 +2,11 @@
 """The program as a user meets it: started on a virtual screen, typed into, clicked, its windows
 watched. What it writes is what the scripted desktop writes for the same session.
 
-Usage: prova_finestra.py FOLDER [GROUP...], the folder that of the programs; exit status 77: left out.
+Usage: prova_finestra.py FOLDER [GROUP...], the folder that of the programs.
 A failure at the screen leaves its picture, guasto-GROUP.png, in the working folder.
 """
 import contextlib
 import os
-import re
-import select
-import shutil
 import signal
 import subprocess
 import sys
@@ -17,9 +14,10 @@ import tempfile
 import time
 from pathlib import Path
 
+from schermo import COL_CLICK, PAZIENZA, Schermo, attendi, finisce, programma
+
 QUI = Path(__file__).resolve().parent
 SESSIONE = QUI / "sessione.txt"
-PAZIENZA, RIPROVA = 30, 0.02  # seconds
 
 # The forms' widths and, in tab order, where their controls are clicked; twips. None: reached by Tab.
 ORDINE = [15, 16, 17, 18, 19, 9, 10, 11, 12, 13, 2, 3, 4, 5, 6, 7, 20, 14, 0, 8, 1]
@@ -34,107 +32,11 @@ FORME = {
     "FormSez2": (1725, {"Command1": (398, 210), "Command2": (1190, 210), "ListSez": (792, 556)}),
 }
 
-# The user's own settings stay out. Without a binding for clicks into windows the manager holds none
-# back, so that keys cannot overtake them.
-GESTORE = """<openbox_config xmlns="http://openbox.org/3.4/rc">
-<keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
-<mouse><context name="Close"><mousebind button="Left" action="Click"><action name="Close"/></mousebind>
-</context></mouse></openbox_config>"""
-
-
-def attendi(condizione, guasto):
-    """The condition's value as soon as it is true."""
-    fine = time.monotonic() + PAZIENZA
-    while not (esito := condizione()):
-        assert time.monotonic() < fine, guasto
-        time.sleep(RIPROVA)
-    return esito
-
-
-@contextlib.contextmanager
-def programma(*comando, **altro):
-    """A program that does not outlive its block, even when the test is killed."""
-    figlio = subprocess.Popen(["setpriv", "--pdeathsig", "TERM", *map(str, comando)], **altro)
-    try:
-        yield figlio
-    finally:
-        figlio.terminate()
-        figlio.wait(PAZIENZA)
-
-
-def finisce(figlio, atteso):
-    stato = figlio.wait(PAZIENZA)
-    assert stato == atteso, f"exit status {stato}, not {atteso}"
-
-
-class Schermo(contextlib.ExitStack):
-    """A virtual screen with a window manager, and the user's hands and eyes at it."""
-
-    def __init__(self, misure, cartella):
-        super().__init__()
-        legge, scrive = os.pipe()
-        # -noreset: a server that starts anew when its last client leaves would refuse the next one.
-        self.enter_context(programma("Xvfb", "-displayfd", scrive, "-screen", "0", misure + "x24",
-                                     "-nolisten", "tcp", "-noreset", pass_fds=[scrive], stderr=subprocess.DEVNULL))
-        os.close(scrive)
-        with os.fdopen(legge) as capo:
-            numero = select.select([capo], [], [], PAZIENZA)[0] and capo.readline().strip()
-        assert numero, "Xvfb does not start"
-        self.ambiente = os.environ | {"DISPLAY": ":" + numero, "QT_QPA_PLATFORM": "xcb"}
-        regole = cartella / "openbox.xml"
-        regole.write_text(GESTORE)
-        self.enter_context(programma("openbox", "--sm-disable", "--config-file", regole, env=self.ambiente))
-        attendi(lambda: self.finestre("_NET_SUPPORTING_WM_CHECK"), "openbox does not start")
-
-    def chiedi(self, *comando):
-        """What the command writes; nothing where the window has gone."""
-        return subprocess.run([*map(str, comando)], env=self.ambiente, timeout=PAZIENZA, text=True,
-                              errors="replace", stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
-
-    def mano(self, *azione):
-        subprocess.run(["xdotool", *map(str, azione)], env=self.ambiente, timeout=PAZIENZA, check=True)
-
-    def finestre(self, quali="_NET_CLIENT_LIST"):
-        return re.findall(r"0x\w+", self.chiedi("xprop", "-root", quali))
-
-    def nome(self, finestra):
-        """Its role (a form's name) or, where it has none of its own, its title."""
-        testo = self.chiedi("xprop", "-id", finestra, "WM_WINDOW_ROLE", "_NET_WM_NAME")
-        nomi = dict(re.findall(r'^(\w+)\(\w+\) = "(.*)"$', testo, re.M))
-        ruolo = nomi.get("WM_WINDOW_ROLE", "messaggio")
-        return nomi.get("_NET_WM_NAME") if ruolo == "messaggio" else ruolo
-
-    def trova(self, nome):
-        return attendi(lambda: next((f for f in self.finestre() if self.nome(f) == nome), None), f"no {nome}")
-
-    def davanti(self, nome):
-        """The window of this name, as soon as it has the keyboard."""
-        def cerca():
-            fuoco = hex(int(self.chiedi("xdotool", "getwindowfocus", "-f") or 0))
-            return [fuoco] == self.finestre("_NET_ACTIVE_WINDOW") and self.nome(fuoco) == nome and fuoco
-        return attendi(cerca, f"{nome} is not in front")
-
-    def posto(self, finestra):
-        """Left, top and width; left and top in its frame; pixels."""
-        testo = self.chiedi("xwininfo", "-id", finestra)
-        return [int(re.search(rf"{voce}: +(-?\d+)", testo)[1]) for voce in (
-            "Absolute upper-left X", "Absolute upper-left Y", "Width",
-            "Relative upper-left X", "Relative upper-left Y")]
-
-    def chiudi(self, nome):
-        """Clicks the close box, at the right end of the title bar."""
-        sinistra, alto, larghezza, bordo, barra = self.posto(self.trova(nome))
-        self.mano("mousemove", sinistra + larghezza + bordo - barra // 2, alto - barra // 2, "click", 1)
-        # Anything the manager does on request: once it is done, so is what was asked before.
-        scrivanie = int(self.chiedi("xdotool", "get_num_desktops")) + 1
-        self.mano("set_num_desktops", scrivanie)
-        attendi(lambda: int(self.chiedi("xdotool", "get_num_desktops")) == scrivanie, "openbox hangs")
-
-    def clicca(self, form, controllo, volte=1):
-        larghezza_form, controlli = FORME[form]
-        sinistra, alto, larghezza, *_ = self.posto(self.davanti(form))
-        x, y = (int(twip * larghezza / larghezza_form) for twip in controlli[controllo])
-        self.mano("mousemove", sinistra + x, alto + y, *["click", 1] * volte)
+def clicca(schermo, form, controllo, volte=1, sfondo=False):
+    larghezza_form, controlli = FORME[form]
+    sinistra, alto, larghezza, *_ = schermo.posto((schermo.trova if sfondo else schermo.davanti)(form))
+    x, y = (int(twip * larghezza / larghezza_form) for twip in controlli[controllo])
+    schermo.mano("mousemove", sinistra + x, alto + y, *["click", 1] * volte)
 
 
 def installa(radice, programmi, visore="normale"):
@@ -183,17 +85,27 @@ class Seduta:
                 self.schermo.davanti(nome)
                 self.form = nome if nome in FORME else self.form
             case ["viewer", riga]:
-                attendi(lambda: self.diario().endswith(riga + "\n"), f"the viewer's log: {self.diario()}")
+                attendi(lambda: self.diario().endswith(riga + "\n"), f"the viewer's {riga}", self.diario)
             case ["log", *atteso]:
-                attendi(lambda: self.diario().split() == atteso, f"the viewer's log: {self.diario()}")
+                attendi(lambda: self.diario().split() == atteso, f"the viewer's {atteso}", self.diario)
             case ["show"]:
                 self.schermo.chiedi("cp", "/dev/null", self.radice / "progra/mostra")
+            case ["minimize" | "restore" as verbo, nome]:
+                azione = {"minimize": "windowminimize", "restore": "windowactivate"}[verbo]
+                self.schermo.mano(azione, self.schermo.trova(nome))
+                self.schermo.giro()
+            case ["across", nome, controllo]:
+                clicca(self.schermo, nome, controllo, sfondo=True)
             case ["close", nome]:
                 self.schermo.chiudi(nome)
             case ["message", titolo, *risposta]:
                 riquadro = self.schermo.davanti(titolo)
-                self.schermo.mano("key", {"si": "alt+s", "no": "Escape"}.get("".join(risposta), "Return"))
-                attendi(lambda: riquadro not in self.schermo.finestre(), "it stays")
+                if risposta:  # nothing else answers a question
+                    self.schermo.mano("key", "Escape", "alt+F4")
+                    self.schermo.chiudi(titolo)
+                    self.schermo.davanti(titolo)
+                self.schermo.mano("key", {"si": "alt+s", "no": "n"}.get("".join(risposta), "Return"))
+                attendi(lambda: riquadro not in self.schermo.finestre(), "the message to go")
             case ["end", stato]:
                 finisce(self.figlio, int(stato))
             case ["absent", nome]:
@@ -208,19 +120,19 @@ class Seduta:
         self.schermo.davanti(self.form)
         match verbo:
             case "click" | "dblclick":
-                self.schermo.clicca(self.form, nome, ["click", "dblclick"].index(verbo) + 1)
+                clicca(self.schermo, self.form, nome, ["click", "dblclick"].index(verbo) + 1)
             case "enter":
                 self.schermo.mano("key", "Return")
             case "type":
                 # By Tab where that is the next control: the text is then selected.
                 if prima != self.ultimo:
-                    self.schermo.clicca(self.form, nome)
+                    clicca(self.schermo, self.form, nome)
                     self.schermo.mano("key", "ctrl+a")
                 elif prima:
                     self.schermo.mano("key", "Tab")
                 self.schermo.mano("type", "--", *resto)
             case "select":
-                self.schermo.clicca(self.form, nome)
+                clicca(self.schermo, self.form, nome)
                 for da, a in zip(map(int, resto), map(int, resto[1:])):
                     self.schermo.mano("key", *["ctrl+Down"] * (a - da), "ctrl+space")
             case _:
@@ -241,7 +153,7 @@ def confronta(radice, programmi, decimale):
 
 
 # The session's groups: screen, locale, its decimal separator.
-SESSIONI = {"sessione-piccola": ("1024x600", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
+SESSIONI = {"sessione-piccola": ("640x480", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
             "sessione-grande": ("1920x1080", "de_DE.UTF-8", ",")}
 RIGHE_SESSIONE = [*SESSIONE.read_text().splitlines(), "end 0", "log avviato normale Alt+f Alt+g chiusura"]
 INSERVIBILE = ["click Command4", "message ERRORE", "click Command5", "end 0"]
@@ -256,12 +168,24 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
     # It outlives the program.
     "visore-sordo": ("sordo", ["click Command4", "form ostrel", "activate tarvel1", "click Command5", "end 0",
                                "log avviato sordo chiusura", "form ostrel"]),
+    # Keys are for its main window or for none.
+    "visore-dialogo": ("dialogo", ["click Command4", "activate dialogo", "activate tarvel1", "click Command4",
+                                   "form dialogo", "activate tarvel1", "click Command5", "end 0",
+                                   "log avviato dialogo"]),
     "visore-non-programma": (0o700, INSERVIBILE),
     "visore-non-eseguibile": (0o400, INSERVIBILE),
     "chiusura": ("normale", ["type Text1(15) 7", "click Command1", "form ATTENZIONE", "close tarvel1",
                              "message ATTENZIONE", "form FormSez", "close tarvel1", "click Command1",
                              "form tarvel1", "close tarvel1", "message INFORMAZIONE no", "end 0",
                              "absent lavori/PR0042/sezio_ut", "absent custom/CapSezDe.txt"]),
+    "ridotte": ("normale", ["click Command6", "form FormOpt", "minimize FormOpt", "form tarvel1",
+                            "click Command6", "form FormOpt", "activate tarvel1", "click Command7",
+                            "form FormSez2", "minimize FormSez2", "form FormOpt", "restore tarvel1",
+                            "form FormSez2", "click Command1", "form tarvel1", "click Command5", "end 0"]),
+    # The box left has something to say first.
+    "altra-form": ("normale", ["click Command6", "form FormOpt", "click TextOpt(1)", "type TextOpt(2) x",
+                               "across tarvel1 Command7", "message ATTENZIONE", "form FormSez2",
+                               "click Command1", "form tarvel1", "click Command5", "end 0"]),
     "argomento": ("normale", ["message ERRORE", "end 1"]),
 }
 
@@ -274,12 +198,25 @@ def congeda(cartella):
                 os.kill(int(processo.name), signal.SIGKILL)
 
 
+def senza_schermo(programmi):
+    presente = {nome: valore for nome, valore in os.environ.items() if nome not in (
+        "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+    for altro in ({}, {"DISPLAY": ":9999"}, {"WAYLAND_DISPLAY": "nessuno"}):
+        for nome in ("tarvel1", "ostrel"):
+            fine = subprocess.run([programmi / nome], env=presente | altro, timeout=PAZIENZA, text=True,
+                                  stderr=subprocess.PIPE)
+            assert fine.returncode == 1 and fine.stderr.count("\n") == 1 and "DISPLAY" in fine.stderr, (
+                nome, altro, fine)
+
+
 def prova(gruppo, programmi, cartella):
+    if gruppo == "senza-schermo":
+        return senza_schermo(programmi)
     visore, righe = GRUPPI[gruppo]
     misure, regione, decimale = SESSIONI.get(gruppo, ("1024x600", "C", "."))
     radice = cartella / "impianto"
     argomento = installa(radice, programmi, visore)
-    with (Schermo(misure, cartella) as schermo,
+    with (Schermo(misure, cartella, COL_CLICK if gruppo == "altra-form" else "") as schermo,
           programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
                     env=schermo.ambiente | {"LC_ALL": regione}) as figlio):
         try:
@@ -293,12 +230,8 @@ def prova(gruppo, programmi, cartella):
 
 
 def main():
-    for comando in ("Xvfb", "openbox", "xdotool", "xprop", "xwininfo"):
-        if not shutil.which(comando):
-            print(f"{comando} is missing: left out")
-            return 77
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    programmi, gruppi, falliti = Path(sys.argv[1]).resolve(), sys.argv[2:] or [*GRUPPI], 0
+    programmi, gruppi, falliti = Path(sys.argv[1]).resolve(), sys.argv[2:] or [*GRUPPI, "senza-schermo"], 0
     for gruppo in gruppi:
         esito, inizio = "ok", time.monotonic()
         with tempfile.TemporaryDirectory(prefix="finestra") as cartella:

@@ -12,14 +12,14 @@ import subprocess
 import sys
 import tempfile
 
-from sezioni import installa, nomi
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
+from installazione import ESEMPIO, installa, nomi  # noqa: E402
 
 PROGRAMMA = sys.argv[1]
 PRIME = "type nome A\nclick Calcolo\nclick Command2\ntype nome B\nclick Calcolo\nclick Command2\n" \
         "click Command6\nclick Salva\nclick Chiudi\nclick Command5\n"
 SCENA = "type nome C\nclick Calcolo\nclick Command2\nclick Command4\n" \
         "type nome D\nclick Calcolo\nclick Command5\nanswer yes\ntick 10\n"
-PARAMETRI = "200 25 20 35 45 50 30 25 20 250 50 60 150 50 40 1200 2.5 2.5 -2.5 -2.5 20".split()
 PREVISTI = re.compile("|".join((
     "Calcolo eseguito", "File salvato", r"Sezione non salvata\. Salvare\?",
     r"Errore: file \S+impostazioni\\(dirlav|lavoro) errato o mancante",
@@ -39,7 +39,7 @@ def esamina(guasto, solo):
     with tempfile.TemporaryDirectory(prefix="Guasti_") as radice:
         lavoro = installa(radice)
         with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as file:
-            file.write("".join(p + "\r\n" for p in PARAMETRI))
+            file.write(ESEMPIO)
         assert gioca(radice, PRIME, "").returncode == 0
         # Found by a listing of its folder, which may fail too.
         os.rename(os.path.join(lavoro, "sezio_ut"), os.path.join(lavoro, "SEZIO_UT"))

@@ -12,14 +12,15 @@ import sys
 import tempfile
 import time
 
-from sezioni import installa, nomi
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
+from installazione import ESEMPIO, installa, nomi  # noqa: E402
 
 programma, volte = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 200
 with tempfile.TemporaryDirectory(prefix="Uccisioni_") as radice:
     file = os.path.join(installa(radice), "sezio_ut")
     argomenti = [programma, "--", f"|diroot={radice}|"]
     with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as d:
-        d.write("200 25 20 35 45 50 30 25 20 250 50 60 150 50 40 1200 2.5 2.5 -2.5 -2.5 20")
+        d.write(ESEMPIO)
     tutte = [f"S{n}" for n in range(1, 501)]
     subprocess.run(argomenti, input="".join(f"type nome {s}\nclick Calcolo\n" for s in tutte) + "click Command2\n",
                    encoding="utf-8", stdout=subprocess.DEVNULL, check=True)

@@ -4,7 +4,10 @@
 #include <QImage>
 #include <QPrinter>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <cmath>
 #include <map>
+#include <numbers>
 #include <sstream>
 
 #include "tests/viewer/aiuti_viewer.h"
@@ -40,17 +43,17 @@ TEST(Dxf, OgniElementoNelSuoLivello) {
   for (Linea& linea : d.linee) linea.colore = 1;
   const std::map<std::string, int> attesi = {
       {"LINE CONTORNO", 24}, {"LINE QUOTE", 78}, {"CIRCLE QUOTE", 43}, {"TEXT QUOTE", 26}, {"TEXT TESTI", 9}};
-  EXPECT_EQ(Elementi(ScriviDxf(d)), attesi);
+  EXPECT_EQ(Elementi(ScriviDxf(d).value()), attesi);
   // The outline open after all: what has the first line's colour.
   d = prove::Esempio();
   d.linee.erase(d.linee.begin());
-  EXPECT_EQ(Elementi(ScriviDxf(d))["LINE CONTORNO"], 23);
+  EXPECT_EQ(Elementi(ScriviDxf(d).value())["LINE CONTORNO"], 23);
 }
 
 TEST(Dxf, ValoriDegliElementi) {
   Disegno d = prove::Letto(prove::kUnoPerGenere);
   d.scritte[0].testo = "5%% a^b \xE8";
-  const std::string dxf = ScriviDxf(d);
+  const std::string dxf = ScriviDxf(d).value();
   const std::map<std::string, int> attesi = {
       {"LINE CONTORNO", 1}, {"LINE QUOTE", 1}, {"ARC CONTORNO", 1}, {"TEXT TESTI", 1}, {"POINT CONTORNO", 1}};
   EXPECT_EQ(Elementi(dxf), attesi);
@@ -98,15 +101,74 @@ TEST(Esporta, SvgPdfEStampa) {
 TEST(Esporta, DisegniEstremi) {
   const QTemporaryDir cartella;
   const std::string& uno = prove::kUnoPerGenere;
-  for (const std::string& byte :
-       {prove::Leggi(prove::kDati + "/vuoto.dis"), prove::ConRiga(uno, 7, " 1E+100 -1E+100  0 "),
-        prove::ConRiga(uno, 7, " 1E-300  0  0 "), prove::ConRiga(uno, 17, " 1E-90  1E+90  5 "),
-        prove::ConRiga(uno, 20, " 0  0  0  0 ")}) {
-    const Disegno disegno = prove::Letto(byte);
-    for (const char* nome : {"e.png", "e.svg", "e.pdf", "e.dxf"})
-      EXPECT_EQ(Esporta(disegno, cartella.filePath(nome)), std::nullopt) << nome << byte;
-    EXPECT_TRUE(QSvgRenderer(cartella.filePath("e.svg")).isValid()) << byte;
+  const std::string piccolo = prove::ConRiga(prove::ConRiga(uno, 7, " 1E-310  0  0 "), 8, " 0  1E-310  0 ");
+  const std::string esteso = prove::ConRiga(uno, 7, " 1.5E+308 -1.5E+308  0 ");
+  const struct {
+    const char* caso;
+    std::string byte;
+    bool inDxf = true;
+  } casi[] = {
+      {"a side longer than any number", prove::ConRiga(esteso, 8, "-1.5E+308  1.5E+308  0 "), false},
+      {"a diagonal longer than any number", esteso, false},
+      {"all of it below the normal numbers",
+       prove::ConRiga(prove::ConRiga(piccolo, 9, " 0 -1E-310  0 "), 17, " 1E-311  1E-312  5 ")},
+      {"a side lost beside its place",
+       prove::ConRiga(prove::ConRiga(piccolo, 6, " 0  5  0 "), 8, " 0  5  0 ")},
+      {"cells without likeness", prove::ConRiga(uno, 17, " 1E-90  1E+90  5 ")},
+      {"a text far too long", prove::ConRiga(uno, 18, std::string(70000, '%'))},
+      {"signs without a form", prove::ConRiga(uno, 18, "\x01\x1B\x7F<&\x81\x9D")},
+      {"a hyphen that no font shows", prove::ConRiga(uno, 18, "\xAD")},
+      {"an arc without a radius", prove::ConRiga(uno, 20, " 0  0  0  0 ")},
+  };
+  for (const auto& c : casi) {
+    SCOPED_TRACE(c.caso);
+    const Disegno disegno = prove::Letto(c.byte);
+    for (const char* nome : {"e.png", "e.svg", "e.pdf"})
+      EXPECT_EQ(Esporta(disegno, cartella.filePath(nome)), std::nullopt) << nome;
+    const std::string svg = prove::Leggi(cartella.filePath("e.svg").toStdString());
+    EXPECT_EQ(Quante(svg, "nan") + Quante(svg, "inf"), 0);
+    EXPECT_TRUE(QSvgRenderer(QByteArray::fromStdString(svg)).isValid());
+    const auto dxf = ScriviDxf(disegno);
+    ASSERT_EQ(dxf.has_value(), c.inDxf);
+    if (!dxf) continue;
+    std::istringstream righe(*dxf);
+    for (std::string riga; std::getline(righe, riga);) EXPECT_LE(riga.size(), 256u);
+    EXPECT_EQ(std::count_if(dxf->begin(), dxf->end(), [](char x) { return x >= 0 && x < ' '; }),
+              2 * std::count(dxf->begin(), dxf->end(), '\n'));
+    EXPECT_EQ(Quante(*dxf, "nan") + Quante(*dxf, "inf"), 0);
   }
+}
+
+TEST(Esporta, NienteDaDisegnare) {
+  const QTemporaryDir cartella;
+  const auto motivo =
+      Esporta(prove::Letto(prove::Leggi(prove::kDati + "/vuoto.dis")), cartella.filePath("v.svg"));
+  EXPECT_TRUE(motivo && motivo->endsWith("non c'è niente da disegnare"));
+  EXPECT_FALSE(QFile::exists(cartella.filePath("v.svg")));
+}
+
+// Thousands of arcs one over another go by whole pixels, which is what keeps them quick.
+TEST(Pittura, ArchiFitti) {
+  constexpr int kRaggio = 100;
+  Disegno d;
+  d.coordinate = {{0, 0}, {kRaggio, 0}, {-kRaggio, 0}};
+  d.archi.assign(5000, {0, 1, 2, 3});
+  QImage immagine(300, 300, QImage::Format_RGB32);
+  immagine.fill(Qt::white);
+  QPainter pittore(&immagine);
+  Dipingi(pittore, d, {1, -150, 150}, immagine.rect(), FondoCarta(2));
+  pittore.end();
+  std::map<QRgb, int> colori;
+  for (int y = 0; y < immagine.height(); ++y)
+    for (int x = 0; x < immagine.width(); ++x)
+      if (const QRgb colore = immagine.pixel(x, y); colore != qRgb(255, 255, 255)) {
+        ++colori[colore];
+        EXPECT_LE(y, 150) << "the upper half";
+        EXPECT_NEAR(std::hypot(x - 149.5, y - 149.5), kRaggio, 2);
+      }
+  EXPECT_EQ(colori.size(), 1u) << "no smoothing";
+  // Of two pixels' width, counted along the longer side.
+  EXPECT_NEAR(colori[qRgb(255, 0, 0)], 2 * kRaggio * 2 * std::numbers::sqrt2, 20);
 }
 
 TEST(Colori, SiVedonoSulFondo) {

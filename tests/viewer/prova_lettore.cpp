@@ -51,7 +51,14 @@ TEST(Lettore, FiniDiRigaELineeSenzaInizio) {
   for (const std::string& byte : {soloLf, uno.substr(0, uno.size() - 3), uno + "\r\n \r\n", senzaInizio}) {
     const Disegno d = prove::Letto(byte);
     EXPECT_EQ(d.linee.size(), byte == senzaInizio ? 1u : 2u) << byte;
-    EXPECT_EQ(d.lineeSaltate, byte == senzaInizio ? 1 : 0) << byte;
+    EXPECT_EQ(d.saltati, byte == senzaInizio ? 1 : 0) << byte;
+  }
+}
+
+TEST(Lettore, RigheFinoAUnMegabyte) {
+  for (const std::size_t lunga : {1u << 20, (1u << 20) + 1}) {
+    const auto letto = LeggiDis(prove::ConRiga(prove::kUnoPerGenere, 18, std::string(lunga, 'x')));
+    EXPECT_EQ(std::holds_alternative<Disegno>(letto), lunga == 1u << 20);
   }
 }
 

@@ -14,6 +14,10 @@
 namespace tarvel {
 namespace {
 
+// From the start of the program on, whoever writes: beyond a limit of the file size a write shall fail,
+// not end the program.
+[[maybe_unused]] const auto kSegnaleDiPrima = std::signal(SIGXFSZ, SIG_IGN);
+
 int Descrittore(Ospite::Maniglia file) {
   return static_cast<int>(file);
 }
@@ -51,9 +55,6 @@ std::optional<Ospite::Maniglia> ApriLettura(const std::string& percorso) {
 }
 
 std::optional<Ospite::Maniglia> ApriScrittura(const std::string& percorso) {
-  // Beyond a limit of the file size a write shall fail, not end the program.
-  static const bool ignorato = std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR;
-  static_cast<void>(ignorato);
   return Apri(percorso, O_WRONLY | O_CREAT | O_TRUNC, [](mode_t m) { return S_ISREG(m) || S_ISCHR(m); });
 }
 

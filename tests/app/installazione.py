@@ -1,12 +1,16 @@
 """A fresh installation, and the names of a section file that is whole."""
 import os
 
+# The worked example as a defaults file.
+ESEMPIO = "".join(p + "\r\n" for p in
+                  "200 25 20 35 45 50 30 25 20 250 50 60 150 50 40 1200 2.5 2.5 -2.5 -2.5 20".split())
+
 
 def installa(radice):
     for cartella in ("impostazioni", "custom", "progra", "driver", "Lavori/PR0001"):
         os.makedirs(os.path.join(radice, cartella))
     for nome, testo in (("impostazioni/dirlav", os.path.join(radice, "Lavori") + "\r\n"),
-                        ("impostazioni/lavoro", "PR0001\r\n"), ("progra/ostrel.exe", "")):
+                        ("impostazioni/lavoro", " PR0001 \r\n"), ("progra/ostrel.exe", "")):
         with open(os.path.join(radice, nome), "w", newline="") as file:
             file.write(testo)
     return os.path.join(radice, "Lavori", "PR0001")

@@ -1,0 +1,34 @@
+// The toolkit's start, for both programs that show windows: where no display answers, one line says so.
+#pragma once
+
+#include <QApplication>
+#include <QStringList>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+namespace tarvel {
+
+inline QStringList avvisiAvvio;
+
+/// Makes the application object. Only the toolkit knows which
+/// display systems it can reach; its way to say that there is none is to abort. In place of that and
+/// of the warnings that lead to it: one line on the standard error, exit status 1.
+inline std::unique_ptr<QApplication> ApreSchermo(int& argc, char** argv) {
+  const QtMessageHandler solito =
+      qInstallMessageHandler([](QtMsgType tipo, const QMessageLogContext&, const QString& testo) {
+        avvisiAvvio += testo;
+        if (tipo != QtFatalMsg) return;
+        std::fputs(
+            "Impossibile aprire una finestra: nessun ambiente grafico risponde (DISPLAY, WAYLAND_DISPLAY).\n",
+            stderr);
+        std::_Exit(1);
+      });
+  auto applicazione = std::make_unique<QApplication>(argc, argv);
+  qInstallMessageHandler(solito);
+  for (const QString& avviso : std::exchange(avvisiAvvio, {})) qWarning("%s", qPrintable(avviso));
+  return applicazione;
+}
+
+}  // namespace tarvel
