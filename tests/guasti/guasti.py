@@ -25,7 +25,7 @@ PREVISTI = re.compile("|".join((
     r"Errore: file \S+impostazioni\\(dirlav|lavoro) errato o mancante",
     r"Problemi nella scrittura del file \S+\\sezio_ut", r"Problemi con la scrittura del file \S+ostrel\.inp",
     r"Problemi con l'apertura dell'applicazione \S+ostrel\.exe", r"File \S+CapOpSez\.txt non valido.*",
-    "Errore irreversibile: .*")))
+    "Errore irreversibile: (?!fine del file inattesa).*")))  # whole files do not end early
 guasti = 0
 
 
