@@ -82,7 +82,9 @@ void CalcolaCaratteristiche(RecordSezione& sezione) {
 void CalcolaCaratteristiche(RecordSezione& sezione, const VettoreParametri& p,
                             const ConteggiVertici& vertici) {
   CopieLavoro copie;
-  auto& [SezioneBaricentrica, ParteSuperiore, ParteInferiore] = copie;
+  CopiaLavoro& SezioneBaricentrica = copie.SezioneBaricentrica;
+  CopiaLavoro& ParteSuperiore = copie.ParteSuperiore;
+  CopiaLavoro& ParteInferiore = copie.ParteInferiore;
 
   Durante("ingombri", [&] { Ingombri(sezione); });
 

@@ -196,7 +196,8 @@ void TaglioLungoY(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
 }
 
 void TaglioLungoZ(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
-  const auto& [intera, superiore, inferiore] = s.copie;
+  const CopiaLavoro& superiore = s.copie.ParteSuperiore;
+  const CopiaLavoro& inferiore = s.copie.ParteInferiore;
   const Reale area = inferiore.An + superiore.An;
   if (Assoluto(area) <= kTolleranza) {
     for (int punto = 1; punto <= 14; ++punto) r.TauVz[punto] = 0;
