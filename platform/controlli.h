@@ -18,7 +18,6 @@ struct Colore {
   friend constexpr bool operator==(Colore, Colore) = default;
 };
 inline constexpr Colore kNero{0, 0, 0};
-inline constexpr Colore kBianco{255, 255, 255};
 inline constexpr Colore kGrigioChiaro{192, 192, 192};
 
 struct Rettangolo {

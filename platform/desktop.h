@@ -49,7 +49,6 @@ void NascondiForm(Form& form);
 /// Form_Unload, then the window goes. Nothing for a form that is not loaded or is being unloaded
 /// already. The close box does the same. Other forms stay.
 void ScaricaForm(Form& form);
-bool FormCaricata(const Form& form);
 
 /// What the program does when a fatal error ends it, before the message is shown; the sentence that it
 /// returns is added to the message. A failure in it changes nothing: the message is that of the first

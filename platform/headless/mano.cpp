@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "platform/comune/smista.h"
-#include "platform/headless/scrivania.h"
+#include "platform/headless/desktop.h"
 
 namespace tarvel::headless {
 namespace {

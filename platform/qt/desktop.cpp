@@ -8,6 +8,7 @@
 #include <list>
 #include <utility>
 
+#include "platform/comune/descrizione.h"
 #include "platform/qt/finestra.h"
 #include "platform/qt/fuoco.h"
 #include "platform/qt/gestori.h"
@@ -22,6 +23,7 @@ constexpr int kSinistra = 1350;
 
 struct Caricata {
   Form* form;
+  Descrizione descritta;
   Finestra* finestra = nullptr;  // made when the form is first shown
   bool inScarico = false;
 };
@@ -93,8 +95,8 @@ void Togli(Finestra& finestra) {
 }  // namespace
 
 void CaricaForm(Form& form) {
-  if (FormCaricata(form)) return;
-  caricate.push_back({&form});
+  if (Cerca(form) != nullptr) return;
+  caricate.push_back({&form, Descritta(form)});
   EseguiGestore([&] { form.Form_Load(); });
 }
 
@@ -128,17 +130,15 @@ void ScaricaForm(Form& form) {
   if (caricata == nullptr || caricata->inScarico) return;
   caricata->inScarico = true;
   EseguiGestore([&] { form.Form_Unload(); });
-  Finestra* const finestra = caricata->finestra;
+  const Caricata scaricata = std::move(*caricata);
   caricate.remove_if([&](const Caricata& c) { return &c == caricata; });
-  if (finestra == nullptr) return;
-  Togli(*finestra);
-  finestra->Stacca();
-  // A handler of this form may be on the stack, or one that waits for it.
-  FinitiTutti([finestra] { finestra->deleteLater(); });
-}
-
-bool FormCaricata(const Form& form) {
-  return Cerca(form) != nullptr;
+  if (Finestra* const finestra = scaricata.finestra) {
+    Togli(*finestra);
+    finestra->Stacca();
+    // A handler of this form may be on the stack, or one that waits for it.
+    FinitiTutti([finestra] { finestra->deleteLater(); });
+  }
+  Ripristina(form, scaricata.descritta);
 }
 
 void ImpostaTesto(Controllo& controllo, const Testo& testo) {

@@ -3,10 +3,9 @@
 #include <deque>
 #include <utility>
 
-#include "platform/headless/contenuto.h"
+#include "platform/headless/desktop.h"
 #include "platform/headless/mano.h"
-#include "platform/headless/orologio.h"
-#include "platform/headless/scrivania.h"
+#include "platform/headless/timer.h"
 #include "tests/contratto/utente.h"
 
 namespace tarvel::contratto {

@@ -1,5 +1,5 @@
 // State of the desktop and the seam's calls on forms.
-#include "platform/headless/scrivania.h"
+#include "platform/headless/desktop.h"
 
 #include <algorithm>
 #include <deque>
@@ -10,7 +10,8 @@
 
 #include "platform/comune/smista.h"
 #include "platform/headless/contenuto.h"
-#include "platform/headless/orologio.h"
+#include "platform/headless/programmi.h"
+#include "platform/headless/timer.h"
 #include "platform/headless/verbale.h"
 
 namespace tarvel {
@@ -29,6 +30,7 @@ struct Finestra {
   bool mostrata = false;    // visible at least once since it was loaded
   std::size_t livello = 0;  // modal loops that ran when it was shown: later ones block it
   Controllo* fuoco = nullptr;
+  Descrizione descritta;
 };
 
 struct CicloModale {
@@ -68,8 +70,8 @@ void Gira(const bool& finito) {
 }
 
 void Sgombera() {
-  FermaOrologio();
-  DimenticaContenuti();
+  AzzeraTempo();
+  AzzeraProgrammi();
   gScrivania = {};
 }
 
@@ -93,7 +95,7 @@ void Presenta(Form& form, bool modale) {
   }
   PortaInPrimoPiano(form);
   Annota("show " + InUtf8(form.nome) + (modale ? " modal" : ""));
-  if (nuova) MostraContenuti(form);
+  if (nuova) MostraContenuti(form, finestra.descritta);
   if (prima != nullptr && prima != Fuoco()) gScrivania.fuochiPersi.push_back(prima);
 }
 
@@ -117,6 +119,11 @@ int Avvia(Form& principale, Attore attore) {
     Sgombera();
     throw;
   }
+}
+
+Risposta Chiede(const Messaggio& messaggio) {
+  if (gScrivania.attore.risponde) return gScrivania.attore.risponde(messaggio);
+  return messaggio.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
 }
 
 Form* FormAttiva() {
@@ -165,7 +172,7 @@ void CaricaForm(Form& form) {
   Finestra& finestra = Di(form);
   if (finestra.caricata) return;
   finestra.caricata = true;
-  RicordaProgetto(form);
+  finestra.descritta = Descritta(form);
   form.Form_Load();
 }
 
@@ -197,25 +204,12 @@ void ScaricaForm(Form& form) {
   form.Form_Unload();
   Togli(form);
   if (finestra.mostrata) Annota("unload " + InUtf8(form.nome));
+  Ripristina(form, std::move(finestra.descritta));
   finestra = {};
-}
-
-bool FormCaricata(const Form& form) {
-  return Di(form).caricata;
 }
 
 void TerminaProgramma(int stato) {
   throw FineProgramma{stato};
-}
-
-Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, Bottoni bottoni) {
-  static constexpr const char* kIcone[] = {"none", "stop", "exclamation", "information"};
-  static constexpr const char* kRisposte[] = {"ok", "yes", "no"};
-  Risposta risposta = bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
-  if (gScrivania.attore.risponde) risposta = gScrivania.attore.risponde({testo, titolo, icona, bottoni});
-  Annota(std::string("message ") + kIcone[static_cast<int>(icona)] + ' ' + TraVirgolette(titolo) + ' ' +
-         TraVirgolette(testo) + " -> " + kRisposte[static_cast<int>(risposta)]);
-  return risposta;
 }
 
 void ImpostaPuntatore(Puntatore puntatore) {

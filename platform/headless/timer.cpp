@@ -1,5 +1,5 @@
 // The enabled timers and their next firing.
-#include "platform/headless/orologio.h"
+#include "platform/headless/timer.h"
 
 #include <algorithm>
 #include <vector>
@@ -55,9 +55,10 @@ std::optional<Durata> AttesaProssimo() {
   return prossima->scadenza - gTraguardo;
 }
 
-void FermaOrologio() {
+void AzzeraTempo() {
   for (const Sveglia& s : gSveglie) s.timer->attivo = false;
   gSveglie.clear();
+  gAdesso = gTraguardo = 0;
 }
 
 }  // namespace headless

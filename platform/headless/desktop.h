@@ -22,8 +22,12 @@ struct Attore {
 };
 
 /// Runs the program: loads and shows the main form, then takes events until the program ends.
-/// Returns its exit status. Afterwards no form is loaded and no timer runs.
+/// Returns its exit status. Afterwards the desktop is as if nothing had run: no form loaded, no
+/// timer running, no program started.
 int Avvia(Form& principale, Attore attore);
+
+/// The answer of whoever plays the user; where nobody does, OK or No.
+Risposta Chiede(const Messaggio& messaggio);
 
 /// The form in front, nullptr when none is visible.
 Form* FormAttiva();

@@ -18,7 +18,7 @@ bool ScattaProssimo();
 /// How long until a timer falls due, nothing when all are stopped.
 std::optional<Durata> AttesaProssimo();
 
-/// Stops every timer.
-void FermaOrologio();
+/// Every timer stops, the clock stands at 0.
+void AzzeraTempo();
 
 }  // namespace tarvel::headless
