@@ -5,6 +5,7 @@
 // All positions and sizes are in twips (1/1440 inch), relative to the form's client area.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -34,7 +35,14 @@ struct Carattere {
 
 enum class TipoControllo { Bottone, Etichetta, Casella, Lista };
 
+// Codes of a box's key event that are no character's.
+constexpr int kTastoIndietro = 8;  // Backspace, and whatever else only removes text
 constexpr int kTastoInvio = 13;
+constexpr int kTastoIncolla = 22;  // text that arrives otherwise than by keys
+constexpr int kTastoEsc = 27;
+
+/// The longest text of a box, in characters.
+inline constexpr std::size_t kMassimoCasella = 32767;
 
 struct Controllo {
   // Description: fixed once the form is loaded.

@@ -38,8 +38,10 @@ std::string RigaContenuto(const Controllo& controllo) {
 using namespace headless;
 
 void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  if (controllo.testo == testo) return;
-  controllo.testo = testo;
+  ScegliTutto(controllo, false);
+  const Testo tenuto = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
+  if (controllo.testo == tenuto) return;
+  controllo.testo = tenuto;
   AnnotaSeVisibile(controllo);
 }
 

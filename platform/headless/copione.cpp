@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/headless/contenuto.h"
@@ -81,6 +82,22 @@ void EseguiType(const Evento& e) {
   e.Esigi(Digita(Trova(e), testo));
 }
 
+void EseguiPress(const Evento& e) {
+  static constexpr std::pair<std::string_view, int> kTasti[] = {{"backspace", kTastoIndietro},
+                                                                {"delete", kTastoCanc},
+                                                                {"enter", kTastoInvio},
+                                                                {"escape", kTastoEsc},
+                                                                {"tab", kTastoTab}};
+  for (const auto& [nome, tasto] : kTasti)
+    if (nome == e.argomenti.front()) return e.Esigi(Premi(tasto));
+  e.Errore("no such key " + Citazione(e.argomenti.front()));
+}
+
+void EseguiPaste(const Evento& e) {
+  Controllo& casella = Trova(e);
+  e.Esigi(Vai(casella) && Incolla(DaUtf8(e.testo)));
+}
+
 void EseguiSelect(const Evento& e) {
   Controllo& lista = TrovaLista(e);
   e.Esigi(Seleziona(lista, Voci(e, lista)));
@@ -114,11 +131,13 @@ struct Verbo {
 };
 constexpr std::size_t kQuanti = SIZE_MAX;
 
-constexpr std::array<Verbo, 10> kVerbi = {{
+constexpr std::array<Verbo, 12> kVerbi = {{
     {"type", 1, kQuanti, EseguiType},
     {"focus", 1, 1, [](const Evento& e) { e.Esigi(Vai(Trova(e))); }},
     {"enter", 1, 1, [](const Evento& e) { e.Esigi(Invio(Trova(e))); }},
     {"click", 1, 1, [](const Evento& e) { e.Esigi(Clicca(Trova(e))); }},
+    {"press", 1, 1, EseguiPress},
+    {"paste", 2, kQuanti, EseguiPaste},
     {"select", 1, kQuanti, EseguiSelect},
     {"dblclick", 2, 2, EseguiDblclick},
     {"close", 0, 1, EseguiClose},

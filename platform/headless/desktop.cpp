@@ -30,6 +30,7 @@ struct Finestra {
   bool mostrata = false;    // visible at least once since it was loaded
   std::size_t livello = 0;  // modal loops that ran when it was shown: later ones block it
   Controllo* fuoco = nullptr;
+  bool tuttoScelto = false;  // of the text of the box with the focus
   Descrizione descritta;
 };
 
@@ -39,6 +40,7 @@ struct CicloModale {
 };
 
 struct Scrivania {
+  bool messaggio = false;  // a message box is open
   Puntatore puntatore = Puntatore::Predefinito;
   Attore attore;
   std::map<const Form*, Finestra> finestre;
@@ -92,6 +94,7 @@ void Presenta(Form& form, bool modale) {
     const auto primo = std::find_if(form.controlli.begin(), form.controlli.end(),
                                     [](const Controllo* c) { return c->tipo != TipoControllo::Etichetta; });
     finestra.fuoco = primo == form.controlli.end() ? nullptr : *primo;
+    finestra.tuttoScelto = true;
   }
   PortaInPrimoPiano(form);
   Annota("show " + InUtf8(form.nome) + (modale ? " modal" : ""));
@@ -122,8 +125,16 @@ int Avvia(Form& principale, Attore attore) {
 }
 
 Risposta Chiede(const Messaggio& messaggio) {
-  if (gScrivania.attore.risponde) return gScrivania.attore.risponde(messaggio);
-  return messaggio.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+  if (!gScrivania.attore.risponde) return messaggio.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+  const PausaTimer pausa;
+  gScrivania.messaggio = true;
+  const Risposta risposta = gScrivania.attore.risponde(messaggio);
+  gScrivania.messaggio = false;
+  return risposta;
+}
+
+bool Clessidra() {
+  return gScrivania.puntatore == Puntatore::Clessidra && !gScrivania.messaggio;
 }
 
 Form* FormAttiva() {
@@ -147,6 +158,10 @@ Form* FormDi(const Controllo& controllo) {
   return trovata == gScrivania.fila.end() ? nullptr : *trovata;
 }
 
+bool Caricata(const Form& form) {
+  return Di(form).caricata;
+}
+
 bool Visibile(const Form& form) {
   return Di(form).visibile;
 }
@@ -162,6 +177,17 @@ Controllo* Fuoco() {
 void SpostaFuoco(Form& form, Controllo* controllo) {
   PortaInPrimoPiano(form);
   Di(form).fuoco = controllo;
+  Di(form).tuttoScelto = false;
+}
+
+bool TuttoScelto(const Controllo& controllo) {
+  const Form* form = FormDi(controllo);
+  return form != nullptr && Di(*form).fuoco == &controllo && Di(*form).tuttoScelto;
+}
+
+void ScegliTutto(const Controllo& controllo, bool scelto) {
+  if (const Form* form = FormDi(controllo); form != nullptr && Di(*form).fuoco == &controllo)
+    Di(*form).tuttoScelto = scelto;
 }
 
 }  // namespace headless

@@ -36,6 +36,12 @@ void LasciaPassare(Durata durata) {
   gTraguardo += durata;
 }
 
+PausaTimer::PausaTimer() : inizio_(gTraguardo) {}
+
+PausaTimer::~PausaTimer() {
+  gAdesso += gTraguardo - inizio_;
+}
+
 bool ScattaProssimo() {
   const auto prossima = Prossima();
   if (prossima == gSveglie.end() || prossima->scadenza > gTraguardo) {

@@ -63,13 +63,18 @@ void Mostra(Caricata& caricata, bool modale) {
   if (caricata.finestra == nullptr) caricata.finestra = new Finestra(*caricata.form);
   Finestra& finestra = *caricata.finestra;
   finestra.livello = LivelloModale();
-  if (!finestra.isVisible()) {
+  const bool nuova = !finestra.isVisible();
+  // One on the screen already goes for a moment, as its kind cannot change there.
+  if (nuova || (modale && !finestra.isModal())) {
+    const QPoint posto = finestra.pos();
     // Window managers let only a dialog belong to its owner.
     finestra.setWindowFlags((finestra.windowFlags() & ~Qt::WindowType_Mask) |
                             (modale ? Qt::Dialog : Qt::Window));
     finestra.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
-    finestra.VaiAlPrimo();
-    if (modale && FinestraAttiva() != nullptr)
+    if (nuova) finestra.VaiAlPrimo();
+    if (!nuova)
+      finestra.move(posto);
+    else if (modale && FinestraAttiva() != nullptr)
       Centra(finestra, *FinestraAttiva());
     else if (FinestraAttiva() == nullptr)
       finestra.move(Angolo(finestra));
@@ -113,10 +118,11 @@ void MostraFormModale(Form& form) {
   Mostra(*caricata, true);
   Finestra& finestra = *caricata->finestra;
   QEventLoop ciclo;
-  finestra.ciclo = &ciclo;
+  QEventLoop* const esterno = std::exchange(finestra.ciclo, &ciclo);
   const AttesaModale attesa;
   // The control left hears of it first, and its handler may have unloaded the form.
   if (finestra.ciclo == &ciclo) ciclo.exec();
+  if (esterno != nullptr) esterno->quit();
 }
 
 void NascondiForm(Form& form) {
@@ -142,7 +148,7 @@ void ScaricaForm(Form& form) {
 }
 
 void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  controllo.testo = testo;
+  controllo.testo = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
   if (QWidget* widget = WidgetDi(controllo)) AggiornaWidget(widget, controllo);
 }
 
