@@ -84,8 +84,8 @@ QWidget* CreaLista(Controllo& controllo, QWidget* padre) {
   QObject::connect(lista, &QListWidget::itemSelectionChanged, lista, [lista, &controllo] {
     for (int i = 0; i < lista->count(); ++i) controllo.scelte[std::size_t(i)] = lista->item(i)->isSelected();
   });
-  QObject::connect(lista, &QListWidget::itemDoubleClicked, lista, [&controllo](QListWidgetItem* voce) {
-    voce->setSelected(true);
+  QObject::connect(lista, &QListWidget::itemDoubleClicked, lista, [lista, &controllo](QListWidgetItem* voce) {
+    lista->setCurrentItem(voce, QItemSelectionModel::ClearAndSelect);
     EseguiGestore(controllo.doppioClick);
   });
   return lista;
