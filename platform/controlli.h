@@ -2,9 +2,22 @@
 // before it is loaded and gives them their handlers; a platform realises the description. Forms
 // never see a toolkit type, platforms never see a section.
 //
-// All positions and sizes are in twips (1/1440 inch), relative to the form's client area.
+// All positions and sizes are in twips (1/1440 inch), relative to the form's client area. A platform
+// turns them into pixels by one factor for the whole program, 1/15 or more; edges are rounded, not
+// sizes, so that neighbours in twips are neighbours in pixels.
+//
+// Keys of a box. `tasto` fires for every character typed ('?' for one that the code page lacks), for
+// Enter, Esc and Backspace, always; once, with a stand-in code, for any other change that the user
+// makes, so that no change goes unheard: kTastoIndietro where it only removes (Delete, cut),
+// kTastoIncolla where text arrives (paste, also of nothing; drop; undo). Arrows, Tab, Alt or Ctrl with
+// a letter (cut, paste and undo apart) and a Delete that has nothing to delete are no events. A key acts
+// on the text as its handler has left it, and is done before anything else fires: where the handler
+// has shown another form, the box loses the focus with the changed text. Text that the program sets is
+// not selected and has the caret at its end. Enter and Esc change no text, press no button and close
+// no form.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -18,7 +31,6 @@ struct Colore {
   friend constexpr bool operator==(Colore, Colore) = default;
 };
 inline constexpr Colore kNero{0, 0, 0};
-inline constexpr Colore kBianco{255, 255, 255};
 inline constexpr Colore kGrigioChiaro{192, 192, 192};
 
 struct Rettangolo {
@@ -26,19 +38,36 @@ struct Rettangolo {
 };
 
 /// A font by name and size; a host without the family falls back to a small clear sans-serif that
-/// fits the control.
+/// fits the control. A caption that does not fit is written smaller.
 struct Carattere {
   const char* famiglia = "Small Fonts";
   double punti = 6.75;
   bool grassetto = false;
 };
 
+/// Texts are shown as they are: an '&' is one, and makes no key of the letter after it.
+/// Bottone: Enter and Space press the one that has the focus; none is the form's default.
+/// Etichetta: opaque in the form's colour, its text from the upper left corner. One twice as tall as
+/// its font or more is a note, wrapped at blanks; any other is one line, shortened in the middle where
+/// even small letters do not fit, the whole text then shown on request (as a tool tip).
+/// Casella: white, one line, at most kMassimoCasella characters: what exceeds them is left out, whoever
+/// writes it. Reached by Tab or by its form's being shown its whole text is selected, by the mouse the
+/// caret stands where it was clicked.
+/// Lista: white. A click or an arrow selects one entry; with selezioneEstesa Shift and Ctrl select
+/// several. Reaching it selects nothing; Enter, Esc and a click beside the entries change nothing.
 enum class TipoControllo { Bottone, Etichetta, Casella, Lista };
 
+// Codes of a box's key event that are no character's.
+constexpr int kTastoIndietro = 8;  // Backspace, and whatever else only removes text
 constexpr int kTastoInvio = 13;
+constexpr int kTastoIncolla = 22;  // text that arrives otherwise than by keys
+constexpr int kTastoEsc = 27;
+
+/// The longest text of a box, in characters.
+inline constexpr std::size_t kMassimoCasella = 32767;
 
 struct Controllo {
-  // Description: fixed once the form is loaded.
+  // Description: fixed once Form_Load has returned.
   TipoControllo tipo = TipoControllo::Etichetta;
   Testo nome;  // as the user's script and the tests call it: "Calcolo", "Text1(3)"
   Rettangolo posto;
@@ -46,19 +75,20 @@ struct Controllo {
   Carattere carattere;
   bool selezioneEstesa = false;  // lists: several entries at once (click, Shift, Ctrl)
 
-  // State. The program changes it only through the calls of platform/desktop.h; the platform
-  // keeps it equal to what the user sees before it fires an event.
+  // State, at first part of the description. The program changes it only through the calls of
+  // platform/desktop.h; the platform keeps it equal to what the user sees before it fires an event.
   Testo testo;               // caption of a button or label, text of a box
   std::vector<Testo> voci;   // entries of a list
-  std::vector<bool> scelte;  // one flag an entry; at most one set without extended selection
+  std::vector<bool> scelte;  // one flag an entry, sized by the platform from the form's load on; at most
+                             // one set without extended selection
 
   // Events; an empty one is passed over. A handler may call anything of the seam, may show forms
   // and messages (nested loops), and may unload its own form: the form object stays alive until
   // the handler has returned.
   std::function<void()> click;        // buttons: mouse, Space, or Enter while focused
-  std::function<void()> doppioClick;  // lists: on an entry, which is selected by then
-  std::function<void(int)> tasto;     // boxes: 8-bit code of the character, 13 for Enter,
-                                      // before the text changes; `testo` is what the box holds
+  std::function<void()> doppioClick;  // lists: on an entry, by then the only one selected
+  std::function<void(int)> tasto;     // boxes: 8-bit code of the key, before the text changes; `testo`
+                                      // is what the box holds
   std::function<void()> fuocoPerso;   // the focus has gone to another control
 };
 
@@ -80,7 +110,8 @@ struct LineaForm {
   int spessore = 1;
 };
 
-/// A timer: disabled at first; while enabled it fires each time its interval has passed.
+/// A timer: disabled at first; while enabled it fires each time its interval has passed, and must not
+/// go away.
 struct Temporizzatore {
   Testo nome;
   int intervallo = 10;  // milliseconds
@@ -88,8 +119,11 @@ struct Temporizzatore {
   std::function<void()> scatto;
 };
 
-/// A window. Borders are fixed (not resizable), with a close box. The first control of `controlli`
-/// that can have the focus gets it when the form is shown; Tab follows their order.
+/// A window. Borders are fixed (not resizable), with a close box and no other; Alt+F4, and whatever
+/// else the host has for it, is the close box, Esc is not. A host may minimise it: that is no event and
+/// moves no focus. The first control of `controlli` that can have the focus gets it when the form is
+/// shown; Tab and Shift+Tab follow their order, round and round. Where controls overlap labels lie
+/// below, and of two others the later one is on top; the lines lie below all.
 class Form {
  public:
   Form() = default;
@@ -102,9 +136,10 @@ class Form {
   /// While the form is being unloaded, before its window goes. It cannot prevent it.
   virtual void Form_Unload() {}
 
-  Testo nome;    // "FormSez"
-  Testo titolo;  // text of the title bar, may be empty
-  int larghezza = 0, altezza = 0;
+  // Fixed once Form_Load has returned, until the form is unloaded.
+  Testo nome;                      // "FormSez"
+  Testo titolo;                    // text of the title bar, may be empty
+  int larghezza = 0, altezza = 0;  // of the client area
   Colore sfondo = kGrigioChiaro;
   std::vector<LineaForm> linee;
   std::vector<Controllo*> controlli;  // in tab order

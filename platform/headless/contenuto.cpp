@@ -1,29 +1,14 @@
 // Texts and entries of controls: the program's changes and what a user sees of them.
 #include "platform/headless/contenuto.h"
 
-#include <map>
 #include <utility>
-#include <vector>
 
-#include "platform/desktop.h"
-#include "platform/headless/scrivania.h"
+#include "platform/headless/desktop.h"
 #include "platform/headless/verbale.h"
 
 namespace tarvel {
 namespace headless {
 namespace {
-
-struct Contenuto {
-  Testo testo;
-  std::vector<Testo> voci;
-};
-
-std::map<const Controllo*, Contenuto> gProgetto;
-
-// A control may be changed before its form was ever loaded.
-Contenuto& Progetto(const Controllo& controllo) {
-  return gProgetto.try_emplace(&controllo, Contenuto{controllo.testo, controllo.voci}).first->second;
-}
 
 void AnnotaSeVisibile(const Controllo& controllo) {
   if (FormDi(controllo) != nullptr) Annota(RigaContenuto(controllo));
@@ -31,19 +16,11 @@ void AnnotaSeVisibile(const Controllo& controllo) {
 
 }  // namespace
 
-void RicordaProgetto(const Form& form) {
-  for (const Controllo* controllo : form.controlli) Progetto(*controllo);
-}
-
-void DimenticaContenuti() {
-  gProgetto.clear();
-}
-
-void MostraContenuti(const Form& form) {
-  for (const Controllo* controllo : form.controlli) {
-    const Contenuto& progetto = Progetto(*controllo);
-    const bool diverso = controllo->testo != progetto.testo || controllo->voci != progetto.voci;
-    if (controllo->tipo != TipoControllo::Bottone && diverso) Annota(RigaContenuto(*controllo));
+void MostraContenuti(const Form& form, const Descrizione& descritta) {
+  for (std::size_t i = 0; i < descritta.size(); ++i) {
+    const Controllo& controllo = *form.controlli[i];
+    const bool diverso = controllo.testo != descritta[i].testo || controllo.voci != descritta[i].voci;
+    if (controllo.tipo != TipoControllo::Bottone && diverso) Annota(RigaContenuto(controllo));
   }
 }
 
@@ -61,14 +38,14 @@ std::string RigaContenuto(const Controllo& controllo) {
 using namespace headless;
 
 void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  Progetto(controllo);
-  if (controllo.testo == testo) return;
-  controllo.testo = testo;
+  ScegliTutto(controllo, false);
+  const Testo tenuto = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
+  if (controllo.testo == tenuto) return;
+  controllo.testo = tenuto;
   AnnotaSeVisibile(controllo);
 }
 
 void ImpostaVoci(Controllo& lista, std::vector<Testo> voci) {
-  Progetto(lista);
   const bool diverse = lista.voci != voci;
   lista.voci = std::move(voci);
   lista.scelte.assign(lista.voci.size(), false);

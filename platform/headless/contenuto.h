@@ -3,17 +3,13 @@
 
 #include <string>
 
-#include "platform/controlli.h"
+#include "platform/comune/descrizione.h"
 
 namespace tarvel::headless {
 
-/// Remembers the content the form's controls were designed with; the first call counts.
-void RicordaProgetto(const Form& form);
-void DimenticaContenuti();
-
 /// A form has just been shown: a line for each box, label and list whose content is not the one it
-/// was designed with.
-void MostraContenuti(const Form& form);
+/// was described with.
+void MostraContenuti(const Form& form, const Descrizione& descritta);
 
 /// The line of a control: text C "TEXT" or list C "..." "..."; C is FORM.C on a visible form that
 /// is not in front.

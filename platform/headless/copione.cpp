@@ -6,16 +6,19 @@
 #include <charconv>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "platform/headless/compiti.h"
 #include "platform/headless/contenuto.h"
 #include "platform/headless/mano.h"
+#include "platform/headless/programmi.h"
 #include "platform/headless/verbale.h"
 
 namespace tarvel::headless {
 namespace {
 
+constexpr std::size_t kRigaMassima = 1 << 20;
+constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
 constexpr int kTickMassimo = 3'600'000;
 constexpr Durata kAttesaFinaleMassima = 60'000;
 
@@ -79,6 +82,22 @@ void EseguiType(const Evento& e) {
   e.Esigi(Digita(Trova(e), testo));
 }
 
+void EseguiPress(const Evento& e) {
+  static constexpr std::pair<std::string_view, int> kTasti[] = {{"backspace", kTastoIndietro},
+                                                                {"delete", kTastoCanc},
+                                                                {"enter", kTastoInvio},
+                                                                {"escape", kTastoEsc},
+                                                                {"tab", kTastoTab}};
+  for (const auto& [nome, tasto] : kTasti)
+    if (nome == e.argomenti.front()) return e.Esigi(Premi(tasto));
+  e.Errore("no such key " + Citazione(e.argomenti.front()));
+}
+
+void EseguiPaste(const Evento& e) {
+  Controllo& casella = Trova(e);
+  e.Esigi(Vai(casella) && Incolla(DaUtf8(e.testo)));
+}
+
 void EseguiSelect(const Evento& e) {
   Controllo& lista = TrovaLista(e);
   e.Esigi(Seleziona(lista, Voci(e, lista)));
@@ -112,11 +131,13 @@ struct Verbo {
 };
 constexpr std::size_t kQuanti = SIZE_MAX;
 
-constexpr std::array<Verbo, 10> kVerbi = {{
+constexpr std::array<Verbo, 12> kVerbi = {{
     {"type", 1, kQuanti, EseguiType},
     {"focus", 1, 1, [](const Evento& e) { e.Esigi(Vai(Trova(e))); }},
     {"enter", 1, 1, [](const Evento& e) { e.Esigi(Invio(Trova(e))); }},
     {"click", 1, 1, [](const Evento& e) { e.Esigi(Clicca(Trova(e))); }},
+    {"press", 1, 1, EseguiPress},
+    {"paste", 2, kQuanti, EseguiPaste},
     {"select", 1, kQuanti, EseguiSelect},
     {"dblclick", 2, 2, EseguiDblclick},
     {"close", 0, 1, EseguiClose},
@@ -144,13 +165,38 @@ std::string Descrizione(const Messaggio& m) {
 
 }  // namespace
 
+bool Copione::Leggi(std::string& riga) {
+  riga.clear();
+  ++numero_;
+  for (char c = 0; testo_.get(c);) {
+    if (c == '\n') return true;
+    if (c == '\0') throw ErroreCopione{numero_, "the line holds a NUL character"};
+    if (riga.size() == kRigaMassima) throw ErroreCopione{numero_, "the line is too long"};
+    riga += c;
+  }
+  if (!riga.empty()) return true;
+  --numero_;
+  return false;
+}
+
+// The next line that is neither blank nor a remark, without the blanks before it.
+std::optional<std::string> Copione::Prossima() {
+  for (std::string riga; Leggi(riga);) {
+    if (numero_ == 1 && riga.starts_with(kSegnoUtf8)) riga.erase(0, kSegnoUtf8.size());
+    if (riga.ends_with('\r')) riga.pop_back();
+    riga.erase(0, riga.find_first_not_of(" \t"));
+    if (!riga.empty() && riga.front() != '#') return riga;
+  }
+  return std::nullopt;
+}
+
 void Copione::Agisce() {
-  const std::optional<std::string> riga = righe_.Prossima();
+  const std::optional<std::string> riga = Prossima();
   if (!riga) {
     Congeda();
     return;
   }
-  Evento evento{righe_.Numero(), Parole(*riga), {}};
+  Evento evento{numero_, Parole(*riga), {}};
   const std::string verbo = evento.argomenti.front();
   evento.argomenti.erase(evento.argomenti.begin());
   if (!evento.argomenti.empty()) {
@@ -170,7 +216,7 @@ void Copione::Agisce() {
 }
 
 void Copione::PreparaRisposte(const std::vector<std::string>& risposte) {
-  const int riga = righe_.Numero();
+  const int riga = numero_;
   if (risposte.empty()) throw ErroreCopione{riga, "answer what?"};
   for (const std::string& parola : risposte) {
     if (parola == "ok")
@@ -188,7 +234,7 @@ Risposta Copione::Risponde(const Messaggio& messaggio) {
   const bool domanda = messaggio.bottoni == Bottoni::SiNo;
   if (risposte_.empty()) {
     if (domanda && !finito_)
-      throw ErroreCopione{righe_.Numero(), "a question without an answer: " + Descrizione(messaggio)};
+      throw ErroreCopione{numero_, "a question without an answer: " + Descrizione(messaggio)};
     return domanda ? Risposta::No : Risposta::Ok;
   }
   const RispostaPronta pronta = risposte_.front();
@@ -204,8 +250,7 @@ void Copione::ControllaRisposte() const {
 
 void Copione::ControllaResto() {
   ControllaRisposte();
-  if (!finito_ && righe_.Prossima())
-    throw ErroreCopione{righe_.Numero(), "an event after the program has ended"};
+  if (!finito_ && Prossima()) throw ErroreCopione{numero_, "an event after the program has ended"};
 }
 
 void Copione::Congeda() {
@@ -220,7 +265,7 @@ void Copione::Congeda() {
   if (!attesa) TerminaProgramma(0);
   attesaFinale_ += *attesa;
   if (attesaFinale_ > kAttesaFinaleMassima)
-    throw ErroreCopione{righe_.Numero(), "the program did not end after the script"};
+    throw ErroreCopione{numero_, "the program did not end after the script"};
   LasciaPassare(*attesa);
 }
 

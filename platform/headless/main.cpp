@@ -8,8 +8,9 @@
 #include <vector>
 
 #include "app/tarvel1.h"
-#include "platform/headless/ambiente.h"
-#include "platform/headless/recita.h"
+#include "platform/comune/argomenti.h"
+#include "platform/headless/avvio.h"
+#include "platform/headless/regione.h"
 
 namespace {
 
@@ -47,10 +48,7 @@ std::optional<Opzioni> LeggiArgomenti(const std::vector<std::string_view>& argom
       opzioni.decimale = decimale[0];
     }
   }
-  for (; a != argomenti.end(); ++a) {
-    if (!opzioni.rigaComando.empty()) opzioni.rigaComando += ' ';
-    opzioni.rigaComando += DaUtf8(*a);
-  }
+  opzioni.rigaComando = UnisciArgomenti({a, argomenti.end()});
   return opzioni;
 }
 
@@ -72,6 +70,7 @@ int main(int argc, char** argv) {
     }
     file.clear();  // an empty script is one too
   }
-  headless::ImpostaAmbiente(opzioni->rigaComando, opzioni->decimale);
+  headless::ImpostaRigaComando(opzioni->rigaComando);
+  headless::ImpostaDecimale(opzioni->decimale);
   return headless::Recita(FormPrincipale(), opzioni->copione ? file : std::cin, std::cout, std::cerr);
 }

@@ -4,21 +4,54 @@
 #include <algorithm>
 
 #include "platform/comune/smista.h"
-#include "platform/headless/scrivania.h"
+#include "platform/headless/desktop.h"
 
 namespace tarvel::headless {
 namespace {
-
-constexpr int kTastoCancella = 8;
 
 bool HaFuoco(const Controllo& controllo) {
   return Usabile(controllo) && Fuoco() == &controllo;
 }
 
-// False when the handler has taken the control away.
-bool Premi(const Controllo& controllo, int codice) {
-  if (controllo.tasto) Smista([&] { controllo.tasto(codice); });
-  return HaFuoco(controllo);
+// The key's event, then what the key does to the text as the event's handler has left it: `nuovo`
+// takes the place of the selected text, or of the last characters.
+bool Modifica(Controllo& casella, int codice, std::size_t via, const Testo& nuovo) {
+  const Form& form = *FormDi(casella);
+  if (casella.tasto) Smista([&] { casella.tasto(codice); });
+  if (!Caricata(form)) return false;
+  Testo& testo = casella.testo;
+  testo.resize(
+      TuttoScelto(casella) && (via > 0 || !nuovo.empty()) ? 0 : testo.size() - std::min(via, testo.size()));
+  testo += nuovo.substr(0, kMassimoCasella - testo.size());
+  if (via > 0 || !nuovo.empty()) ScegliTutto(casella, false);
+  return HaFuoco(casella);
+}
+
+bool PremiInCasella(Controllo& casella, int tasto) {
+  switch (tasto) {
+    case kTastoInvio:
+    case kTastoEsc:
+      return Modifica(casella, tasto, 0, {});
+    case kTastoIndietro:
+      return Modifica(casella, tasto, 1, {});
+    case kTastoCanc:
+      // After the end of the text there is nothing to delete.
+      return !TuttoScelto(casella) || casella.testo.empty() ||
+             Modifica(casella, kTastoIndietro, casella.testo.size(), {});
+    default:
+      return Modifica(casella, tasto, 0, Testo(1, static_cast<char>(tasto)));
+  }
+}
+
+bool VaiAlProssimo(const Controllo& da) {
+  const Form& form = *FormDi(da);
+  auto c = std::find(form.controlli.begin(), form.controlli.end(), &da);
+  do {
+    if (++c == form.controlli.end()) c = form.controlli.begin();
+  } while ((*c)->tipo == TipoControllo::Etichetta);
+  if (!Vai(**c)) return false;
+  ScegliTutto(**c, true);
+  return true;
 }
 
 bool ClickBottone(const Controllo& bottone) {
@@ -44,28 +77,38 @@ bool Vai(Controllo& controllo) {
 
 bool Clicca(Controllo& controllo) {
   if (controllo.tipo == TipoControllo::Lista || !Vai(controllo)) return false;
+  ScegliTutto(controllo, false);
   return controllo.tipo != TipoControllo::Bottone || ClickBottone(controllo);
 }
 
+bool Premi(int tasto) {
+  Controllo* const controllo = Fuoco();
+  if (controllo == nullptr || !Usabile(*controllo)) return false;
+  if (tasto == kTastoTab) return VaiAlProssimo(*controllo);
+  if (controllo->tipo == TipoControllo::Casella) return PremiInCasella(*controllo, tasto);
+  const bool preme = tasto == kTastoInvio || tasto == ' ';
+  return controllo->tipo != TipoControllo::Bottone || !preme || ClickBottone(*controllo);
+}
+
+bool Incolla(const Testo& testo) {
+  Controllo* const casella = Fuoco();
+  if (casella == nullptr || !Usabile(*casella) || casella->tipo != TipoControllo::Casella) return false;
+  Testo pulito = testo;
+  std::erase_if(pulito, [](char c) { return c >= 0 && c < ' '; });
+  return Modifica(*casella, kTastoIncolla, 0, pulito);
+}
+
 bool Invio(Controllo& controllo) {
-  if (!Vai(controllo)) return false;
-  if (controllo.tipo == TipoControllo::Bottone) return ClickBottone(controllo);
-  if (controllo.tipo == TipoControllo::Casella) Premi(controllo, kTastoInvio);
-  return true;
+  return Vai(controllo) && Premi(kTastoInvio);
 }
 
 bool Digita(Controllo& casella, const Testo& testo) {
   if (casella.tipo != TipoControllo::Casella || !Vai(casella)) return false;
-  if (testo.empty()) {
-    if (!Premi(casella, kTastoCancella)) return false;
-    casella.testo.clear();
-  }
-  for (std::size_t i = 0; i < testo.size(); ++i) {
-    if (!Premi(casella, static_cast<unsigned char>(testo[i]))) return false;
-    if (i == 0) casella.testo.clear();  // the first key replaces the selected text
-    casella.testo += testo[i];
-  }
-  return true;
+  ScegliTutto(casella, true);
+  if (testo.empty()) return Premi(kTastoIndietro);
+  return std::all_of(testo.begin(), testo.end(), [&](char c) {
+    return HaFuoco(casella) && PremiInCasella(casella, static_cast<unsigned char>(c));
+  });
 }
 
 bool Seleziona(Controllo& lista, const std::vector<int>& voci) {

@@ -12,8 +12,16 @@ namespace tarvel::headless {
 /// Its form is visible and not blocked, and it can have the focus (labels never have it).
 bool Usabile(const Controllo& controllo);
 
+/// By mouse: in a box at the end of its text, in a list beside its entries.
 bool Vai(Controllo& controllo);
 bool Clicca(Controllo& controllo);  // buttons and boxes
+
+constexpr int kTastoTab = 9;
+constexpr int kTastoCanc = 127;
+/// A key where the focus is: the code of its character, kTastoTab or kTastoCanc (Delete).
+bool Premi(int tasto);
+/// Where the focus is, in place of the selected text or at the end.
+bool Incolla(const Testo& testo);
 bool Invio(Controllo& controllo);
 /// Selects all and types key by key; an empty text is one Backspace.
 bool Digita(Controllo& casella, const Testo& testo);

@@ -10,11 +10,11 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/comune/argomenti.h"
 #include "platform/desktop.h"
 #include "platform/qt/gestori.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/schermo.h"
-#include "platform/qt/testo_qt.h"
 
 namespace tarvel {
 namespace {
@@ -38,10 +38,7 @@ Testo RigaComando() {
 }
 
 void PreparaDesktop(int argc, char** argv, const Form& principale) {
-  for (int i = 1; i < argc; ++i) {
-    if (i > 1) rigaComando += ' ';
-    rigaComando += DaUtf8(argv[i]);
-  }
+  rigaComando = UnisciArgomenti({argv + 1, argv + argc});
 
   // Keys for the viewer go through X11, natively or by the X server that Wayland desktops run.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))

@@ -14,9 +14,6 @@
 namespace tarvel {
 namespace {
 
-constexpr int kTastoCancella = 8;  // the code that stands for a deletion
-constexpr int kTastoIncolla = 22;  // and for text that arrives otherwise than by keys
-
 // What a box can hold: no control characters, and '?' for what the code page lacks.
 QString Ripulito(QString testo) {
   testo.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
@@ -26,6 +23,7 @@ QString Ripulito(QString testo) {
 }  // namespace
 
 Casella::Casella(Controllo& controllo, QWidget* padre) : QLineEdit(padre), controllo_(controllo) {
+  setMaxLength(int(kMassimoCasella));
   setFrame(false);  // the style's own frame leaves too little room in a small box
   setTextMargins(1, 0, 1, 0);
   connect(this, &QLineEdit::textEdited, this, &Casella::Modificato);
@@ -35,25 +33,32 @@ void Casella::keyPressEvent(QKeyEvent* evento) {
   const bool alt = evento->modifiers().testFlag(Qt::AltModifier);
   const bool ctrl = evento->modifiers().testFlag(Qt::ControlModifier);
   if (alt && !ctrl) return evento->ignore();  // Alt and a letter is no typing
-  const QScopedValueRollback<bool> cambio(annunciato_);
-  if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) return Annuncia(kTastoInvio);
-  const QString testo = evento->text();
-  const bool cancella = evento->key() == Qt::Key_Delete
-                            ? hasSelectedText() || cursorPosition() < text().size()
-                            : evento->key() == Qt::Key_Backspace || evento->matches(QKeySequence::Cut);
-  if (cancella)
-    Annuncia(kTastoCancella);
-  else if (evento->matches(QKeySequence::Paste))
-    Annuncia(kTastoIncolla);
-  else if (!testo.isEmpty() && testo[0].isPrint() && alt == ctrl)
-    Scrivi(testo);
-  QLineEdit::keyPressEvent(evento);
+  // The key is done before the control hears of anything else, of the loss of its focus for one.
+  EseguiGestore([&] {
+    const QScopedValueRollback<bool> cambio(annunciato_);
+    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) return Annuncia(kTastoInvio);
+    const QString testo = evento->text();
+    const bool cancella = evento->key() == Qt::Key_Delete
+                              ? hasSelectedText() || cursorPosition() < text().size()
+                              : evento->key() == Qt::Key_Backspace || evento->matches(QKeySequence::Cut);
+    if (cancella)
+      Annuncia(kTastoIndietro);
+    else if (evento->key() == Qt::Key_Escape)
+      Annuncia(kTastoEsc);
+    else if (evento->matches(QKeySequence::Paste))
+      Annuncia(kTastoIncolla);
+    else if (!testo.isEmpty() && testo[0].isPrint() && alt == ctrl)
+      Scrivi(testo);
+    QLineEdit::keyPressEvent(evento);
+  });
 }
 
 void Casella::inputMethodEvent(QInputMethodEvent* evento) {
-  const QScopedValueRollback<bool> cambio(annunciato_);
-  Scrivi(evento->commitString());
-  QLineEdit::inputMethodEvent(evento);
+  EseguiGestore([&] {
+    const QScopedValueRollback<bool> cambio(annunciato_);
+    Scrivi(evento->commitString());
+    QLineEdit::inputMethodEvent(evento);
+  });
 }
 
 void Casella::dropEvent(QDropEvent* evento) {
@@ -89,7 +94,7 @@ void Casella::Modificato(const QString& testo) {
   }
   const Testo nuovo = DaQt(pulito);
   const QScopedValueRollback<bool> cambio(annunciato_);
-  if (!annunciato_) Annuncia(nuovo.size() < controllo_.testo.size() ? kTastoCancella : kTastoIncolla);
+  if (!annunciato_) Annuncia(nuovo.size() < controllo_.testo.size() ? kTastoIndietro : kTastoIncolla);
   controllo_.testo = DaQt(text());
 }
 

@@ -8,6 +8,7 @@
 #include <list>
 #include <utility>
 
+#include "platform/comune/descrizione.h"
 #include "platform/qt/finestra.h"
 #include "platform/qt/fuoco.h"
 #include "platform/qt/gestori.h"
@@ -22,6 +23,7 @@ constexpr int kSinistra = 1350;
 
 struct Caricata {
   Form* form;
+  Descrizione descritta;
   Finestra* finestra = nullptr;  // made when the form is first shown
   bool inScarico = false;
 };
@@ -61,13 +63,18 @@ void Mostra(Caricata& caricata, bool modale) {
   if (caricata.finestra == nullptr) caricata.finestra = new Finestra(*caricata.form);
   Finestra& finestra = *caricata.finestra;
   finestra.livello = LivelloModale();
-  if (!finestra.isVisible()) {
+  const bool nuova = !finestra.isVisible();
+  // One on the screen already goes for a moment, as its kind cannot change there.
+  if (nuova || (modale && !finestra.isModal())) {
+    const QPoint posto = finestra.pos();
     // Window managers let only a dialog belong to its owner.
     finestra.setWindowFlags((finestra.windowFlags() & ~Qt::WindowType_Mask) |
                             (modale ? Qt::Dialog : Qt::Window));
     finestra.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
-    finestra.VaiAlPrimo();
-    if (modale && FinestraAttiva() != nullptr)
+    if (nuova) finestra.VaiAlPrimo();
+    if (!nuova)
+      finestra.move(posto);
+    else if (modale && FinestraAttiva() != nullptr)
       Centra(finestra, *FinestraAttiva());
     else if (FinestraAttiva() == nullptr)
       finestra.move(Angolo(finestra));
@@ -93,8 +100,8 @@ void Togli(Finestra& finestra) {
 }  // namespace
 
 void CaricaForm(Form& form) {
-  if (FormCaricata(form)) return;
-  caricate.push_back({&form});
+  if (Cerca(form) != nullptr) return;
+  caricate.push_back({&form, Descritta(form)});
   EseguiGestore([&] { form.Form_Load(); });
 }
 
@@ -111,10 +118,11 @@ void MostraFormModale(Form& form) {
   Mostra(*caricata, true);
   Finestra& finestra = *caricata->finestra;
   QEventLoop ciclo;
-  finestra.ciclo = &ciclo;
+  QEventLoop* const esterno = std::exchange(finestra.ciclo, &ciclo);
   const AttesaModale attesa;
   // The control left hears of it first, and its handler may have unloaded the form.
   if (finestra.ciclo == &ciclo) ciclo.exec();
+  if (esterno != nullptr) esterno->quit();
 }
 
 void NascondiForm(Form& form) {
@@ -128,21 +136,19 @@ void ScaricaForm(Form& form) {
   if (caricata == nullptr || caricata->inScarico) return;
   caricata->inScarico = true;
   EseguiGestore([&] { form.Form_Unload(); });
-  Finestra* const finestra = caricata->finestra;
+  const Caricata scaricata = std::move(*caricata);
   caricate.remove_if([&](const Caricata& c) { return &c == caricata; });
-  if (finestra == nullptr) return;
-  Togli(*finestra);
-  finestra->Stacca();
-  // A handler of this form may be on the stack, or one that waits for it.
-  FinitiTutti([finestra] { finestra->deleteLater(); });
-}
-
-bool FormCaricata(const Form& form) {
-  return Cerca(form) != nullptr;
+  if (Finestra* const finestra = scaricata.finestra) {
+    Togli(*finestra);
+    finestra->Stacca();
+    // A handler of this form may be on the stack, or one that waits for it.
+    FinitiTutti([finestra] { finestra->deleteLater(); });
+  }
+  Ripristina(form, scaricata.descritta);
 }
 
 void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  controllo.testo = testo;
+  controllo.testo = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
   if (QWidget* widget = WidgetDi(controllo)) AggiornaWidget(widget, controllo);
 }
 

@@ -21,7 +21,7 @@ constexpr double kMinimo = 0.5;
 constexpr double kMinimoRiga = 0.85;
 
 /// A list that a Windows user knows: reaching it selects nothing, the first arrow selects the
-/// first entry, and in a single list a click beside the entries or with Ctrl clears nothing.
+/// first entry, a click beside the entries changes nothing, nor does Ctrl in a single list.
 class Lista : public QListWidget {
  public:
   using QListWidget::QListWidget;
@@ -37,7 +37,9 @@ class Lista : public QListWidget {
 
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& indice,
                                                        const QEvent* evento) const override {
-    if (selectionMode() == ExtendedSelection) return QListWidget::selectionCommand(indice, evento);
+    const bool trascina = evento != nullptr && evento->type() == QEvent::MouseMove;
+    if (selectionMode() == ExtendedSelection && (indice.isValid() || trascina))
+      return QListWidget::selectionCommand(indice, evento);
     return indice.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
   }
 };
@@ -82,8 +84,8 @@ QWidget* CreaLista(Controllo& controllo, QWidget* padre) {
   QObject::connect(lista, &QListWidget::itemSelectionChanged, lista, [lista, &controllo] {
     for (int i = 0; i < lista->count(); ++i) controllo.scelte[std::size_t(i)] = lista->item(i)->isSelected();
   });
-  QObject::connect(lista, &QListWidget::itemDoubleClicked, lista, [&controllo](QListWidgetItem* voce) {
-    voce->setSelected(true);
+  QObject::connect(lista, &QListWidget::itemDoubleClicked, lista, [lista, &controllo](QListWidgetItem* voce) {
+    lista->setCurrentItem(voce, QItemSelectionModel::ClearAndSelect);
     EseguiGestore(controllo.doppioClick);
   });
   return lista;

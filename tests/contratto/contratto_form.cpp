@@ -10,9 +10,7 @@ namespace {
 struct Scena {
   explicit Scena(Utente& utente) : u(utente) {}
 
-  void Stato(const Form& form) {
-    u.Annota(form.nome + (FormCaricata(form) ? " caricata" : " scaricata") + (u.Vede(form) ? " vista" : ""));
-  }
+  void Stato(const Form& form) { u.Annota(form.nome + (u.Vede(form) ? " vista" : " via")); }
   void Apri(Form& form) {
     MostraFormModale(form);
     Stato(form);
@@ -61,9 +59,9 @@ TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksWhatWasThereBefore) {
                    [&] { u.Clicca(s.scaricaM); }, apreM, aspetta, premeL});
   });
   EXPECT_EQ(InRiga(esito.diario),
-            "load F; perso A ''; load M; load L; perso l '1'; click L; load N; unload N; N scaricata; "
-            "click L; unload M; M scaricata; click L; load M; unload M; M scaricata; M scaricata; load M; "
-            "unload M; scatto; M scaricata; click L");
+            "load F; perso A ''; load M; load L; perso l '1'; click L; load N; unload N; N via; "
+            "click L; unload M; M via; click L; load M; unload M; M via; M via; load M; "
+            "unload M; scatto; M via; click L");
   EXPECT_EQ(esito.stato, 0);
 }
 
@@ -86,8 +84,8 @@ TEST(ContrattoForm, AHiddenFormKeepsItsStateAndACloseBoxStoresWhatWasTyped) {
                    [&] { u.Chiudi(s.n); }, [&] { u.AspettaRiga("mai"); }});
   });
   EXPECT_EQ(InRiga(esito.diario),
-            "load F; perso A ''; load M; perso B ''; tasto m 50 '1'; perso m '2'; M caricata; perso B ''; "
-            "2; tasto m 13 '2'; perso m '2'; unload M; M scaricata; perso B ''; tasto A 55 ''; perso A '7'; "
+            "load F; perso A ''; load M; perso B ''; tasto m 50 '1'; perso m '2'; M via; perso B ''; "
+            "2; tasto m 13 '2'; perso m '2'; unload M; M via; perso B ''; tasto A 55 ''; perso A '7'; "
             "unload F; messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si; load N; unload N");
   EXPECT_EQ(esito.stato, 7);
 }
@@ -113,10 +111,10 @@ TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
                    [&] { u.Scrivi(s.testoL, "3"); }, [&] { u.Chiudi(s.l); }, guarda, [&] { u.Vai(s.b); }});
   });
   EXPECT_EQ(InRiga(esito.diario),
-            "load F; load L; L caricata; mostrata; perso A ''; L caricata vista; tasto l 50 '1'; "
-            "perso l '2'; mostrata; perso A ''; tasto l 13 '2'; perso l '2'; L caricata; mostrata; "
+            "load F; load L; L via; mostrata; perso A ''; L vista; tasto l 50 '1'; "
+            "perso l '2'; mostrata; perso A ''; tasto l 13 '2'; perso l '2'; L via; mostrata; "
             "perso A ''; perso l '2'; perso A ''; perso B ''; mostrata; perso A ''; tasto l 51 '2'; "
-            "perso l '3'; unload L; L scaricata; perso A ''");
+            "perso l '3'; unload L; L via; perso A ''");
 }
 
 // Whatever is open, the end is at once: no unload hook, no code after it, no further step.

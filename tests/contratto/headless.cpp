@@ -3,10 +3,12 @@
 #include <deque>
 #include <utility>
 
-#include "platform/headless/contenuto.h"
+#include "platform/comune/argomenti.h"
+#include "platform/headless/avvio.h"
+#include "platform/headless/desktop.h"
 #include "platform/headless/mano.h"
-#include "platform/headless/orologio.h"
-#include "platform/headless/scrivania.h"
+#include "platform/headless/regione.h"
+#include "platform/headless/timer.h"
 #include "tests/contratto/utente.h"
 
 namespace tarvel::contratto {
@@ -18,6 +20,8 @@ class UtenteHeadless : public Utente {
 
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
+    headless::ImpostaRigaComando(UnisciArgomenti({std::begin(kArgomenti), std::end(kArgomenti)}));
+    headless::ImpostaDecimale(',');
     esito.stato = headless::Avvia(
         principale, {[&] { Agisce(); }, [&](const headless::Messaggio& m) { return Risponde(m); }});
   }
@@ -25,6 +29,10 @@ class UtenteHeadless : public Utente {
 
   void Vai(Controllo& c) override { headless::Vai(c); }
   void Clicca(Controllo& c) override { headless::Clicca(c); }
+  void Premi(int tasto) override {
+    tasto == kTastoIncolla ? headless::Incolla(kAppunti) : headless::Premi(tasto);
+  }
+  void AltroProgramma() override {}  // there is none on this desktop
   void Scrivi(Controllo& c, const Testo& testo) override { headless::Digita(c, testo); }
   void Invio(Controllo& c) override { headless::Invio(c); }
   void Seleziona(Controllo& c, const std::vector<int>& voci) override { headless::Seleziona(c, voci); }
@@ -37,6 +45,7 @@ class UtenteHeadless : public Utente {
   }
 
   bool Vede(const Form& form) override { return headless::Visibile(form); }
+  bool VedeClessidra() override { return headless::Clessidra(); }
   Testo Legge(const Controllo& c) override {
     if (c.tipo != TipoControllo::Lista) return c.testo;
     Testo letto;
@@ -67,6 +76,7 @@ class UtenteHeadless : public Utente {
     const auto [risposta, attesa] = pronte_.front();
     pronte_.pop_front();
     headless::LasciaPassare(attesa);
+    if (VedeClessidra()) Annota("clessidra");
     Annota(RigaMessaggio(m.icona, m.bottoni, m.titolo, m.testo, risposta));
     return risposta;
   }

@@ -18,6 +18,15 @@ namespace tarvel::contratto {
 /// form has gone, so it stands last in its step; the next step is then played inside the form.
 using Passo = std::function<void()>;
 
+/// The program is started with these arguments, in a region with a decimal comma and points between
+/// the thousands.
+inline constexpr const char* kArgomenti[] = {"", "|x=\"a b\"|", "", "perch\xC3\xA9"};
+inline constexpr char kAppunti[] = "1\t2";  // what the clipboard holds
+
+// Keys without a character.
+constexpr int kTab = 9;
+constexpr int kCanc = 127;
+
 class Utente {
  public:
   Utente() = default;
@@ -40,6 +49,10 @@ class Utente {
   virtual void Vai(Controllo& controllo) = 0;
   /// Buttons and boxes: a mouse click.
   virtual void Clicca(Controllo& controllo) = 0;
+  /// A key where the focus is: the code of its character, kTab, kCanc or kTastoIncolla.
+  virtual void Premi(int tasto) = 0;
+  /// Another program comes to the front for a moment.
+  virtual void AltroProgramma() = 0;
   /// Goes to the box, selects all and types the text key by key; "" is one Backspace.
   virtual void Scrivi(Controllo& casella, const Testo& testo) = 0;
   /// Goes to the control (without clicking a button) and presses Enter.
@@ -64,6 +77,7 @@ class Utente {
   // --- What is on the screen, anywhere during Esegui.
 
   virtual bool Vede(const Form& form) = 0;
+  virtual bool VedeClessidra() = 0;
   /// Text of a box, caption of a button or label; the entries of a list joined by '|', each
   /// selected one with a '*' before it ("A|*B|C").
   virtual Testo Legge(const Controllo& controllo) = 0;
@@ -78,7 +92,7 @@ struct Esito {
 Esito Prova(const std::function<void(Utente&)>& caso);
 
 /// The diary's line of a message box: messaggio stop ok "TITLE" "TEXT" -> ok; icons nessuna, stop,
-/// esclamazione, informazione; buttons ok, sino; answers ok, si, no.
+/// esclamazione, informazione; buttons ok, sino; answers ok, si, no. '/' stands for a line break.
 std::string RigaMessaggio(Icona icona, Bottoni bottoni, const Testo& titolo, const Testo& testo,
                           Risposta risposta);
 

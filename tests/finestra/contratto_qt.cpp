@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QDeadlineTimer>
 #include <QListWidget>
 #include <QMessageBox>
@@ -65,9 +66,13 @@ class UtenteQt : public Utente {
 
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
-    std::string nome = "contratto-qt";
-    char* argomenti[] = {nome.data(), nullptr};
-    PreparaDesktop(1, argomenti, principale);
+    std::vector<std::string> parole{"contratto-qt"};
+    parole.insert(parole.end(), std::begin(kArgomenti), std::end(kArgomenti));
+    std::vector<char*> argomenti;
+    for (std::string& parola : parole) argomenti.push_back(parola.data());
+    setenv("LC_ALL", "it_IT.UTF-8", 1);
+    PreparaDesktop(int(argomenti.size()), argomenti.data(), principale);
+    QApplication::clipboard()->setText(kAppunti);
     Guarda();
     EseguiGestore([&] { MostraForm(principale); });
     QApplication::exec();
@@ -85,6 +90,8 @@ class UtenteQt : public Utente {
       return void(QTest::qWaitFor([&] { return FinestraAttiva() == widget->window(); }));
     QWindow* const finestra = widget->window()->windowHandle();
     if (controllo.tipo == TipoControllo::Casella) return Clic(widget, widget->rect().center());
+    if (controllo.tipo == TipoControllo::Lista)
+      return Clic(widget, widget->rect().bottomLeft() + QPoint(9, -9));
     // A button pressed and left with the mouse held is no click.
     QTest::mousePress(finestra, Qt::LeftButton, {}, widget->geometry().center());
     QTest::mouseMove(finestra, QPoint(1, 1));
@@ -93,6 +100,32 @@ class UtenteQt : public Utente {
 
   void Clicca(Controllo& controllo) override {
     if (QWidget* widget = Usabile(controllo)) Clic(widget, widget->rect().center());
+  }
+
+  void Premi(int tasto) override {
+    QWindow* const finestra = QApplication::focusWindow();
+    switch (tasto) {
+      case kTastoIncolla:
+        return QTest::keyClick(finestra, Qt::Key_V, Qt::ControlModifier);
+      case kTastoIndietro:
+        return QTest::keyClick(finestra, Qt::Key_Backspace);
+      case kTastoInvio:
+        return QTest::keyClick(finestra, Qt::Key_Return);
+      case kTastoEsc:
+        return QTest::keyClick(finestra, Qt::Key_Escape);
+      case kTab:
+        return QTest::keyClick(finestra, Qt::Key_Tab);
+      case kCanc:
+        return QTest::keyClick(finestra, Qt::Key_Delete);
+      default:
+        QTest::keyClick(finestra, static_cast<char>(tasto));
+    }
+  }
+
+  void AltroProgramma() override {
+    QWidget* const davanti = QApplication::activeWindow();
+    QApplication::setActiveWindow(nullptr);
+    QApplication::setActiveWindow(davanti);
   }
 
   void Scrivi(Controllo& casella, const Testo& testo) override {
@@ -135,10 +168,16 @@ class UtenteQt : public Utente {
   }
 
   bool Vede(const Form& form) override { return FinestraDi(form) != nullptr; }
+  bool VedeClessidra() override {
+    const QCursor* puntatore = QApplication::overrideCursor();
+    return puntatore != nullptr && puntatore->shape() == Qt::WaitCursor;
+  }
 
   Testo Legge(const Controllo& controllo) override {
     QWidget* const widget = WidgetDi(controllo);
     if (widget == nullptr) return controllo.testo;
+    if (controllo.tipo == TipoControllo::Bottone)
+      return DaQt(widget->property("text").toString().replace("&&", "&"));
     if (controllo.tipo != TipoControllo::Lista) return DaQt(widget->property("text").toString());
     const auto& lista = static_cast<const QListWidget&>(*widget);
     QStringList voci;
@@ -153,7 +192,6 @@ class UtenteQt : public Utente {
   static QWidget* Usabile(const Controllo& controllo) {
     QWidget* const widget = WidgetDi(controllo);
     if (widget == nullptr || !widget->isVisible()) return nullptr;
-    if (static_cast<Finestra*>(widget->window())->livello < LivelloModale()) return nullptr;
     widget->activateWindow();
     const auto attiva = [&] { return QApplication::activeWindow() == widget->window(); };
     return QTest::qWaitFor(attiva) ? widget : nullptr;
@@ -195,6 +233,7 @@ class UtenteQt : public Utente {
       static constexpr std::array kIcone{QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Warning,
                                          QMessageBox::Information};
       const auto icona = std::find(kIcone.begin(), kIcone.end(), riquadro->icon()) - kIcone.begin();
+      if (VedeClessidra()) Annota("clessidra");
       Annota(RigaMessaggio(static_cast<Icona>(icona), domanda ? Bottoni::SiNo : Bottoni::Ok,
                            DaQt(riquadro->windowTitle()), DaQt(riquadro->text()), data.risposta));
       if (!pronta) {
@@ -203,7 +242,9 @@ class UtenteQt : public Utente {
         if (riquadro->isVisible() != domanda) Annota(domanda ? "sparita" : "rimasta");
         if (!domanda) return;
       }
-      QAbstractButton* const bottone = riquadro->buttons()[data.risposta == Risposta::No ? 1 : 0];
+      // The first button is the default one.
+      if (data.risposta != Risposta::No) return QTest::keyClick(riquadro, Qt::Key_Return);
+      QAbstractButton* const bottone = riquadro->buttons()[1];
       Clic(bottone, bottone->rect().center());
     });
   }

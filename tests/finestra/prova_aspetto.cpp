@@ -12,7 +12,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QTest>
-#include <QTimer>
 #include <fstream>
 
 #include "app/form_sez.h"
@@ -68,8 +67,6 @@ TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
   const std::tuple<const char*, Gesto, const char*, std::vector<int>> casi[] = {
       {"paste", tasto(Qt::Key_V, Qt::ControlModifier), "12€?ü", {22}},
       {"Enter", tasto(Qt::Key_Enter), "abc", {13}},
-      {"Delete", tasto(Qt::Key_Delete), "", {8}},
-      {"Delete at the end", [&] { casella.end(false), tasto(Qt::Key_Delete)(); }, "abc", {}},
       {"cut", tasto(Qt::Key_X, Qt::ControlModifier), "", {8}},
       {"undo", [&] { casella.cut(), casella.undo(); }, "abc", {8, 22}},
       {"an input method", [&] { QApplication::sendEvent(&casella, &composto); }, "é€", {0xE9, 0x80}},
@@ -141,18 +138,6 @@ INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
                          ::testing::Values(std::pair(640, 480), std::pair(683, 384), std::pair(1024, 600),
                                            std::pair(1366, 768), std::pair(1440, 900), std::pair(1920, 1080),
                                            std::pair(3840, 2160)));
-
-TEST(Puntatore, TheHourglassMakesRoomForAMessage) {
-  Form form;
-  Prepara(form);
-  ImpostaPuntatore(Puntatore::Clessidra);
-  QTimer::singleShot(0, [] {
-    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-    QApplication::activeModalWidget()->close();
-  });
-  MostraMessaggio("testo", "titolo", Icona::Nessuna);
-  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
-}
 
 TEST(Etichetta, ALongPathShowsBothEndsAndTheWholeAsAToolTip) {
   Prepara(FormPrincipale());

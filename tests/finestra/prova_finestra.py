@@ -98,6 +98,9 @@ class Seduta:
                 clicca(self.schermo, nome, controllo, sfondo=True)
             case ["close", nome]:
                 self.schermo.chiudi(nome)
+            case ["alt+F4" as tasti, nome]:
+                self.schermo.davanti(nome)
+                self.schermo.mano("key", tasti)
             case ["message", titolo, *risposta]:
                 riquadro = self.schermo.davanti(titolo)
                 if risposta:  # nothing else answers a question
@@ -176,7 +179,7 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
     "visore-non-eseguibile": (0o400, INSERVIBILE),
     "chiusura": ("normale", ["type Text1(15) 7", "click Command1", "form ATTENZIONE", "close tarvel1",
                              "message ATTENZIONE", "form FormSez", "close tarvel1", "click Command1",
-                             "form tarvel1", "close tarvel1", "message INFORMAZIONE no", "end 0",
+                             "form tarvel1", "alt+F4 tarvel1", "message INFORMAZIONE no", "end 0",
                              "absent lavori/PR0042/sezio_ut", "absent custom/CapSezDe.txt"]),
     "ridotte": ("normale", ["click Command6", "form FormOpt", "minimize FormOpt", "form tarvel1",
                             "click Command6", "form FormOpt", "activate tarvel1", "click Command7",

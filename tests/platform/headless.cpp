@@ -2,16 +2,22 @@
 // text, a program that does not end.
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <sstream>
 
 #include "platform/desktop.h"
-#include "platform/headless/recita.h"
+#include "platform/headless/avvio.h"
 
 namespace tarvel::headless {
 namespace {
 
 struct FormScelta : Form {
-  FormScelta() { nome = "Scelta"; }
+  explicit FormScelta(const Testo& testo = "") {
+    nome = "Scelta";
+    etichetta = NuovoControllo(TipoControllo::Etichetta, "testo", {}, testo);
+    controlli = {&etichetta};
+  }
+  Controllo etichetta;
 };
 
 struct FormMadre : Form {
@@ -28,14 +34,14 @@ struct FormMadre : Form {
 
 struct Esito {
   int stato;
-  std::string errori;
+  std::string errori, verbale;
 };
 
 Esito RecitaTesto(Form& form, const std::string& copione) {
   std::istringstream testo(copione);
   std::ostringstream verbale, errori;
   const int stato = Recita(form, testo, verbale, errori);
-  return {stato, errori.str()};
+  return {stato, errori.str(), verbale.str()};
 }
 
 TEST(Headless, AScriptThatIsNoText) {
@@ -47,6 +53,16 @@ TEST(Headless, AScriptThatIsNoText) {
     EXPECT_EQ(esito.errori, "script line " + std::string(errore) + "\n");
     EXPECT_EQ(esito.stato, 2);
   }
+}
+
+TEST(Headless, FormsAtOneAddressAreTwoForms) {
+  FormMadre form;
+  std::optional<FormScelta> scelta;
+  const char* testi[] = {"uno", "due"};
+  form.scegli.click = [&, i = 0]() mutable { MostraFormModale(scelta.emplace(testi[i++])); };
+  EXPECT_EQ(RecitaTesto(form, "click Scegli\nclose\nclick Scegli\nclose\n").verbale,
+            "show madre\nshow Scelta modal\nunload Scelta\nshow Scelta modal\nunload Scelta\nunload "
+            "madre\nend 0\n");
 }
 
 TEST(Headless, AProgramThatDoesNotEndIsGivenUp) {

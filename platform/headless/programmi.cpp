@@ -1,5 +1,5 @@
 // Starting, activating and ending programs that are not run.
-#include "platform/headless/compiti.h"
+#include "platform/headless/programmi.h"
 
 #include <set>
 #include <string>
@@ -22,7 +22,7 @@ bool TerminaCompito(std::int32_t id) {
   return gAttivi.erase(id) == 1;
 }
 
-void AzzeraCompiti() {
+void AzzeraProgrammi() {
   gUltimo = gAttivato = 0;
   gAttivi.clear();
 }

@@ -1,17 +1,31 @@
 // Desktop, script and transcript brought together.
-#include "platform/headless/recita.h"
+#include "platform/headless/avvio.h"
 
 #include <string>
+#include <utility>
 
-#include "platform/headless/compiti.h"
 #include "platform/headless/copione.h"
-#include "platform/headless/scrivania.h"
+#include "platform/headless/desktop.h"
 #include "platform/headless/verbale.h"
 
-namespace tarvel::headless {
+namespace tarvel {
+namespace {
+
+Testo gRigaComando;
+
+}  // namespace
+
+Testo RigaComando() {
+  return gRigaComando;
+}
+
+namespace headless {
+
+void ImpostaRigaComando(Testo riga) {
+  gRigaComando = std::move(riga);
+}
 
 int Recita(Form& principale, std::istream& copione, std::ostream& verbale, std::ostream& errori) {
-  AzzeraCompiti();
   ApriVerbale(&verbale);
   Copione utente(copione, principale);
   int stato = 0;
@@ -28,4 +42,5 @@ int Recita(Form& principale, std::istream& copione, std::ostream& verbale, std::
   return stato;
 }
 
-}  // namespace tarvel::headless
+}  // namespace headless
+}  // namespace tarvel

@@ -1,5 +1,5 @@
 // The enabled timers and their next firing.
-#include "platform/headless/orologio.h"
+#include "platform/headless/timer.h"
 
 #include <algorithm>
 #include <vector>
@@ -36,6 +36,12 @@ void LasciaPassare(Durata durata) {
   gTraguardo += durata;
 }
 
+PausaTimer::PausaTimer() : inizio_(gTraguardo) {}
+
+PausaTimer::~PausaTimer() {
+  gAdesso += gTraguardo - inizio_;
+}
+
 bool ScattaProssimo() {
   const auto prossima = Prossima();
   if (prossima == gSveglie.end() || prossima->scadenza > gTraguardo) {
@@ -55,9 +61,10 @@ std::optional<Durata> AttesaProssimo() {
   return prossima->scadenza - gTraguardo;
 }
 
-void FermaOrologio() {
+void AzzeraTempo() {
   for (const Sveglia& s : gSveglie) s.timer->attivo = false;
   gSveglie.clear();
+  gAdesso = gTraguardo = 0;
 }
 
 }  // namespace headless

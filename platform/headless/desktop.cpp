@@ -1,5 +1,5 @@
 // State of the desktop and the seam's calls on forms.
-#include "platform/headless/scrivania.h"
+#include "platform/headless/desktop.h"
 
 #include <algorithm>
 #include <deque>
@@ -10,7 +10,8 @@
 
 #include "platform/comune/smista.h"
 #include "platform/headless/contenuto.h"
-#include "platform/headless/orologio.h"
+#include "platform/headless/programmi.h"
+#include "platform/headless/timer.h"
 #include "platform/headless/verbale.h"
 
 namespace tarvel {
@@ -29,6 +30,8 @@ struct Finestra {
   bool mostrata = false;    // visible at least once since it was loaded
   std::size_t livello = 0;  // modal loops that ran when it was shown: later ones block it
   Controllo* fuoco = nullptr;
+  bool tuttoScelto = false;  // of the text of the box with the focus
+  Descrizione descritta;
 };
 
 struct CicloModale {
@@ -37,6 +40,7 @@ struct CicloModale {
 };
 
 struct Scrivania {
+  bool messaggio = false;  // a message box is open
   Puntatore puntatore = Puntatore::Predefinito;
   Attore attore;
   std::map<const Form*, Finestra> finestre;
@@ -68,8 +72,8 @@ void Gira(const bool& finito) {
 }
 
 void Sgombera() {
-  FermaOrologio();
-  DimenticaContenuti();
+  AzzeraTempo();
+  AzzeraProgrammi();
   gScrivania = {};
 }
 
@@ -90,10 +94,11 @@ void Presenta(Form& form, bool modale) {
     const auto primo = std::find_if(form.controlli.begin(), form.controlli.end(),
                                     [](const Controllo* c) { return c->tipo != TipoControllo::Etichetta; });
     finestra.fuoco = primo == form.controlli.end() ? nullptr : *primo;
+    finestra.tuttoScelto = true;
   }
   PortaInPrimoPiano(form);
   Annota("show " + InUtf8(form.nome) + (modale ? " modal" : ""));
-  if (nuova) MostraContenuti(form);
+  if (nuova) MostraContenuti(form, finestra.descritta);
   if (prima != nullptr && prima != Fuoco()) gScrivania.fuochiPersi.push_back(prima);
 }
 
@@ -119,6 +124,19 @@ int Avvia(Form& principale, Attore attore) {
   }
 }
 
+Risposta Chiede(const Messaggio& messaggio) {
+  if (!gScrivania.attore.risponde) return messaggio.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+  const PausaTimer pausa;
+  gScrivania.messaggio = true;
+  const Risposta risposta = gScrivania.attore.risponde(messaggio);
+  gScrivania.messaggio = false;
+  return risposta;
+}
+
+bool Clessidra() {
+  return gScrivania.puntatore == Puntatore::Clessidra && !gScrivania.messaggio;
+}
+
 Form* FormAttiva() {
   return gScrivania.fila.empty() ? nullptr : gScrivania.fila.back();
 }
@@ -140,6 +158,10 @@ Form* FormDi(const Controllo& controllo) {
   return trovata == gScrivania.fila.end() ? nullptr : *trovata;
 }
 
+bool Caricata(const Form& form) {
+  return Di(form).caricata;
+}
+
 bool Visibile(const Form& form) {
   return Di(form).visibile;
 }
@@ -155,6 +177,17 @@ Controllo* Fuoco() {
 void SpostaFuoco(Form& form, Controllo* controllo) {
   PortaInPrimoPiano(form);
   Di(form).fuoco = controllo;
+  Di(form).tuttoScelto = false;
+}
+
+bool TuttoScelto(const Controllo& controllo) {
+  const Form* form = FormDi(controllo);
+  return form != nullptr && Di(*form).fuoco == &controllo && Di(*form).tuttoScelto;
+}
+
+void ScegliTutto(const Controllo& controllo, bool scelto) {
+  if (const Form* form = FormDi(controllo); form != nullptr && Di(*form).fuoco == &controllo)
+    Di(*form).tuttoScelto = scelto;
 }
 
 }  // namespace headless
@@ -165,7 +198,7 @@ void CaricaForm(Form& form) {
   Finestra& finestra = Di(form);
   if (finestra.caricata) return;
   finestra.caricata = true;
-  RicordaProgetto(form);
+  finestra.descritta = Descritta(form);
   form.Form_Load();
 }
 
@@ -197,25 +230,12 @@ void ScaricaForm(Form& form) {
   form.Form_Unload();
   Togli(form);
   if (finestra.mostrata) Annota("unload " + InUtf8(form.nome));
+  Ripristina(form, std::move(finestra.descritta));
   finestra = {};
-}
-
-bool FormCaricata(const Form& form) {
-  return Di(form).caricata;
 }
 
 void TerminaProgramma(int stato) {
   throw FineProgramma{stato};
-}
-
-Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, Bottoni bottoni) {
-  static constexpr const char* kIcone[] = {"none", "stop", "exclamation", "information"};
-  static constexpr const char* kRisposte[] = {"ok", "yes", "no"};
-  Risposta risposta = bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
-  if (gScrivania.attore.risponde) risposta = gScrivania.attore.risponde({testo, titolo, icona, bottoni});
-  Annota(std::string("message ") + kIcone[static_cast<int>(icona)] + ' ' + TraVirgolette(titolo) + ' ' +
-         TraVirgolette(testo) + " -> " + kRisposte[static_cast<int>(risposta)]);
-  return risposta;
 }
 
 void ImpostaPuntatore(Puntatore puntatore) {

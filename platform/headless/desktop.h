@@ -22,8 +22,15 @@ struct Attore {
 };
 
 /// Runs the program: loads and shows the main form, then takes events until the program ends.
-/// Returns its exit status. Afterwards no form is loaded and no timer runs.
+/// Returns its exit status. Afterwards the desktop is as if nothing had run: no form loaded, no
+/// timer running, no program started.
 int Avvia(Form& principale, Attore attore);
+
+/// The answer of whoever plays the user; where nobody does, OK or No.
+Risposta Chiede(const Messaggio& messaggio);
+
+/// The hourglass is what the user sees.
+bool Clessidra();
 
 /// The form in front, nullptr when none is visible.
 Form* FormAttiva();
@@ -32,13 +39,18 @@ Form* FormModale();
 Form* FormVisibile(const Testo& nome);
 /// The visible form of a control, nullptr when there is none.
 Form* FormDi(const Controllo& controllo);
+bool Caricata(const Form& form);
 bool Visibile(const Form& form);
 /// Visible and not blocked by a modal form.
 bool Usabile(const Form& form);
 
 /// The control with the focus: the one of the form in front.
 Controllo* Fuoco();
-/// Moves the focus (nullptr: to no control) on a visible form, which comes to the front. No event.
+/// Moves the focus (nullptr: to no control) on a visible form, which comes to the front. No event;
+/// in a box the caret stands at the end of the text.
 void SpostaFuoco(Form& form, Controllo* controllo);
+/// All text of the box with the focus is selected; else its caret stands at the end.
+bool TuttoScelto(const Controllo& controllo);
+void ScegliTutto(const Controllo& controllo, bool scelto);
 
 }  // namespace tarvel::headless

@@ -9,6 +9,6 @@ namespace tarvel::headless {
 bool TerminaCompito(std::int32_t id);
 
 /// No task runs; ids count from 1 again.
-void AzzeraCompiti();
+void AzzeraProgrammi();
 
 }  // namespace tarvel::headless

@@ -1,0 +1,172 @@
+// The contract line by line: small scenes, what the user does and the diary of it.
+#include <gtest/gtest.h>
+
+#include "platform/regione.h"
+#include "tests/contratto/mobili.h"
+
+namespace tarvel::contratto {
+namespace {
+
+// F is the main form; L is shown by whichever scene wants it.
+struct Palco {
+  explicit Palco(Utente& utente) : u(utente) {}
+
+  Passo Preme(int tasto) {
+    return [this, tasto] { u.Premi(tasto); };
+  }
+  Passo Va(Controllo& c) {
+    return [this, &c] { u.Vai(c); };
+  }
+  Passo Clicca(Controllo& c) {
+    return [this, &c] { u.Clicca(c); };
+  }
+  Passo Legge(Controllo& c) {
+    return [this, &c] { u.Annota(u.Legge(c)); };
+  }
+
+  Utente& u;
+  FormDiario f{u, "F"}, l{u, "L"};
+  Controllo &a = f.Casella("A", "abc"), &b = f.Casella("B", "12"), &p = f.Bottone("P&Q"),
+            &una = f.Lista("Una", false), &tante = f.Lista("Tante", true);
+  Controllo &premi = l.Bottone("Premi"), &dentro = l.Casella("C", "1");
+  Temporizzatore timer;
+};
+
+struct Riga {
+  const char* nome;
+  std::vector<Passo> (*passi)(Palco& s);
+  const char* diario;
+};
+
+const Riga kRighe[] = {
+    {"arriving by Tab or with the form selects the whole text, a click puts the caret",
+     [](Palco& s) {
+       return std::vector{s.Preme('x'),  s.Preme(kTab), s.Preme('y'),
+                          s.Clicca(s.a), s.Preme('z'),  s.Legge(s.a)};
+     },
+     "tasto A 120 'abc'; perso A 'x'; tasto B 121 '12'; perso B 'y'; tasto A 122 'x'; xz"},
+    {"Esc is an event; Delete one of code 8, where it deletes; paste one of code 22",
+     [](Palco& s) {
+       return std::vector{
+           s.Preme(kTastoEsc),      s.Preme(kCanc),         s.Preme(kCanc),          s.Legge(s.a),
+           s.Preme(kTastoIndietro), s.Preme(kTastoIncolla), s.Preme(kTastoIndietro), s.Legge(s.a)};
+     },
+     "tasto A 27 'abc'; tasto A 8 'abc'; ; tasto A 8 ''; tasto A 22 ''; tasto A 8 '12'; 1"},
+    {"a key meets the text that its handler has set",
+     [](Palco& s) {
+       s.a.tasto = [&s](int) { ImpostaTesto(s.a, "nuovo"); };
+       return std::vector{s.Preme('x'), s.Legge(s.a), s.Preme(kTastoIndietro), s.Legge(s.a)};
+     },
+     "nuovox; nuov"},
+    {"a key whose handler shows a form is done before the focus goes",
+     [](Palco& s) {
+       s.a.tasto = [&s](int) { MostraForm(s.l); };
+       return std::vector{s.Preme('x'), s.Legge(s.a)};
+     },
+     "load L; perso A 'x'; x"},
+    {"a box holds kMassimoCasella characters",
+     [](Palco& s) {
+       s.a.tasto = [&s](int) { s.u.Annota(std::to_string(s.a.testo.size())); };
+       s.a.fuocoPerso = {};
+       ImpostaTesto(s.a, Testo(40000, '1'));
+       return std::vector{s.Clicca(s.a), s.Preme('x'), s.Preme('y')};
+     },
+     "32767; 32767"},
+    {"Enter and Space press the button that has the focus; '&' is one",
+     [](Palco& s) {
+       return std::vector{s.Legge(s.p), s.Preme(kTastoInvio), s.Va(s.p), s.Preme(' '), s.Preme(kTastoInvio)};
+     },
+     "P&Q; tasto A 13 'abc'; perso A 'abc'; click P&Q; click P&Q"},
+    {"described entries; Enter and a click beside them change nothing",
+     [](Palco& s) {
+       s.una.voci = {"a", "b"};
+       s.tante.voci = {"a", "b", "c"};
+       return std::vector<Passo>{[&s] {
+                                   s.u.Seleziona(s.tante, {0, 2});
+                                 },
+                                 s.Va(s.b),
+                                 s.Va(s.tante),
+                                 s.Preme(kTastoInvio),
+                                 s.Legge(s.tante),
+                                 s.Legge(s.una),
+                                 [&s] { s.u.DoppioClick(s.tante, 1); }};
+     },
+     "perso A 'abc'; perso B '12'; *a|b|*c; a|b; doppio Tante 'a|*b|c'"},
+    {"Esc closes nothing; another program in front takes no control's focus",
+     [](Palco& s) {
+       s.p.click = [&s] { MostraFormModale(s.l); };
+       return std::vector<Passo>{s.Clicca(s.p),
+                                 s.Preme(kTastoEsc),
+                                 s.Preme(kTab),
+                                 s.Preme(kTastoEsc),
+                                 [&s] { s.u.AltroProgramma(); },
+                                 s.Preme('2')};
+     },
+     "perso A 'abc'; load L; tasto C 27 '1'; tasto C 50 '1'"},
+    {"a form on the screen becomes modal where it is, once or twice",
+     [](Palco& s) {
+       s.p.click = s.premi.click = [&s] {
+         MostraForm(s.l);
+         MostraFormModale(s.l);
+         s.u.Annota("via");
+       };
+       Controllo& sotto = s.f.Bottone("Sotto");
+       return std::vector<Passo>{s.Clicca(s.p), s.Clicca(sotto), s.Clicca(s.premi), [&s] { s.u.Chiudi(s.l); },
+                                 s.Clicca(sotto)};
+     },
+     "perso A 'abc'; load L; unload L; via; via; click Sotto"},
+    {"an unloaded form is as it was described",
+     [](Palco& s) {
+       s.p.click = [&s] { MostraForm(s.l); };
+       return std::vector<Passo>{s.Clicca(s.p), [&s] { s.u.Scrivi(s.dentro, "2"); },
+                                 [&s] { s.u.Chiudi(s.l); }, s.Clicca(s.p), s.Legge(s.dentro)};
+     },
+     "perso A 'abc'; load L; tasto C 50 '1'; perso C '2'; unload L; load L; 1"},
+    {"of the firings missed under a message one is left",
+     [](Palco& s) {
+       s.timer.intervallo = 300;
+       s.timer.scatto = [&s] { s.u.Annota("scatto"); };
+       s.p.click = [&s] {
+         AbilitaTimer(s.timer, true);
+         MostraMessaggio("uno\ndue", "T", Icona::Nessuna);
+       };
+       s.u.Rispondi(Risposta::Ok, 700);
+       return std::vector<Passo>{s.Clicca(s.p), [&s] { s.u.AspettaRiga("scatto"); },
+                                 [&s] { s.u.Annota("ora"); }};
+     },
+     "perso A 'abc'; messaggio nessuna ok \"T\" \"uno/due\" -> ok; scatto; ora"},
+    {"the hourglass at once and until it is taken away, but not over a message",
+     [](Palco& s) {
+       const auto guarda = [&s] { s.u.Annota(s.u.VedeClessidra() ? "clessidra" : "freccia"); };
+       s.p.click = [&s, guarda] {
+         ImpostaPuntatore(Puntatore::Clessidra);
+         guarda();
+         MostraMessaggio("m", "T", Icona::Nessuna);
+       };
+       return std::vector<Passo>{s.Clicca(s.p), guarda, [guarda] {
+                                   ImpostaPuntatore(Puntatore::Predefinito);
+                                   guarda();
+                                 }};
+     },
+     "perso A 'abc'; clessidra; messaggio nessuna ok \"T\" \"m\" -> ok; clessidra; freccia"},
+    {"command line and regional format",
+     [](Palco& s) {
+       return std::vector<Passo>{
+           [&s] { s.u.Annota(RigaComando() + SeparatoreDecimale() + SeparatoreMigliaia()); }};
+     },
+     " |x=\"a b\"|  perch\xE9,."},
+};
+
+TEST(ContrattoRighe, Tutte) {
+  for (const Riga& riga : kRighe) {
+    const Esito esito = Prova([&](Utente& u) {
+      Palco s(u);
+      u.Esegui(s.f, riga.passi(s));
+    });
+    EXPECT_EQ(InRiga(esito.diario), std::string("load F; ") + riga.diario) << riga.nome;
+    EXPECT_EQ(esito.stato, 0) << riga.nome;
+  }
+}
+
+}  // namespace
+}  // namespace tarvel::contratto
