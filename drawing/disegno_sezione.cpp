@@ -5,6 +5,7 @@
 
 #include "base/errore.h"
 #include "base/numeri.h"
+#include "base/tronca.h"
 #include "drawing/funz_disegno.h"
 #include "drawing/quota.h"
 #include "drawing/salva_dis_cond.h"
@@ -14,7 +15,6 @@
 #include "model/tabella_sezioni.h"
 #include "options/opzioni.h"
 #include "platform/regione.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 

@@ -5,10 +5,10 @@
 
 #include "base/errore.h"
 #include "base/numeri.h"
+#include "base/tronca.h"
 #include "model/tabella_sezioni.h"
 #include "platform/desktop.h"
 #include "platform/file.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 
@@ -130,7 +130,7 @@ class RigaParole {
   }
   std::string_view Resto() const { return resto_; }
   Reale Numero() { return ConvertiNumero(Parola()); }
-  // Points alone are read strictly; outlines and properties are not. Wanted so.
+  // The points are for the program that uses the file, which takes no word for a number: strictly.
   Reale NumeroStretto() {
     const std::string_view parola = Parola();
     const auto valore = NumeroInvariante(parola);

@@ -44,6 +44,10 @@ struct Punto {
   Reale z, y;
 };
 
+inline Reale Distanza(Punto a, Punto b) {
+  return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
+}
+
 using ConteggiVertici = Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni>;
 
 /// Closed polygons, the first vertex not repeated. Polygon 1 is the outline, counter-clockwise;

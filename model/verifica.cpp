@@ -1,10 +1,10 @@
 // The inverse of the outline's construction.
 #include "model/verifica.h"
 
+#include "base/tronca.h"
 #include "model/parametri.h"
 #include "model/tabella_sezioni.h"
 #include "platform/desktop.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {

@@ -2,11 +2,11 @@
 #include "options/form_opt.h"
 
 #include "base/numeri.h"
+#include "base/tronca.h"
 #include "drawing/disegno_sezione.h"
 #include "platform/desktop.h"
 #include "platform/regione.h"
 #include "preview/anteprima.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {

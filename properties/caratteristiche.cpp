@@ -3,10 +3,10 @@
 #include "properties/caratteristiche.h"
 
 #include "base/errore.h"
+#include "base/tronca.h"
 #include "model/tabella_sezioni.h"
 #include "properties/aree_taglio.h"
 #include "properties/copia_lavoro.h"
-#include "properties/utilita.h"
 #include "sheartorsion/tau_punti.h"
 #include "sheartorsion/torsione.h"
 

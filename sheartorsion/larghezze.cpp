@@ -2,7 +2,6 @@
 #include "sheartorsion/larghezze.h"
 
 #include "model/geometria.h"
-#include "properties/utilita.h"
 
 namespace tarvel::larghezza {
 

@@ -3,8 +3,8 @@
 #include "sheartorsion/tau_punti.h"
 
 #include "base/numeri.h"
+#include "base/tronca.h"
 #include "model/geometria.h"
-#include "properties/utilita.h"
 #include "sheartorsion/asse.h"
 #include "sheartorsion/larghezze.h"
 #include "sheartorsion/tagli.h"

@@ -3,7 +3,6 @@
 
 #include "model/geometria.h"
 #include "properties/integrali.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {

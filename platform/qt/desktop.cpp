@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/comune/descrizione.h"
+#include "platform/comune/scala.h"
 #include "platform/qt/finestra.h"
 #include "platform/qt/fuoco.h"
 #include "platform/qt/gestori.h"
@@ -17,9 +18,6 @@
 
 namespace tarvel {
 namespace {
-
-// The left edge of the first window, in twips: that of the viewer, which opens below it.
-constexpr int kSinistra = 1350;
 
 struct Caricata {
   Form* form;
@@ -54,7 +52,7 @@ void Centra(Finestra& finestra, const Finestra& su) {
 QPoint Angolo(const Finestra& finestra) {
   const QRect schermo = finestra.screen()->availableGeometry();
   const int resto = std::max(0, schermo.width() - finestra.width());
-  return schermo.topLeft() + QPoint(std::min(int(Pixel(kSinistra)), resto / 2), 0);
+  return schermo.topLeft() + QPoint(std::min(int(Pixel(kPostoVisualizzatore.sinistra)), resto / 2), 0);
 }
 
 // The control that the user sees with the keyboard is the one that has the focus, whenever the

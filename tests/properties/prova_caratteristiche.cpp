@@ -8,9 +8,9 @@
 #include "aiuti.h"
 #include "base/errore.h"
 #include "base/numeri.h"
+#include "base/tronca.h"
 #include "properties/caratteristiche.h"
 #include "properties/integrali.h"
-#include "properties/utilita.h"
 
 namespace tarvel {
 namespace {

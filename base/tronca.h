@@ -1,9 +1,10 @@
-// Small functions shared by the calculation, the section file and the drawing.
+// Cutting to a number of decimals; the smaller and the larger of two.
 #pragma once
 
 #include <iterator>
 
-#include "model/sezione.h"
+#include "base/intero.h"
+#include "base/reale.h"
 
 namespace tarvel {
 
@@ -23,10 +24,6 @@ inline Reale Minimo(Reale a, Reale b) {
 }
 inline Reale Massimo(Reale a, Reale b) {
   return a > b ? a : b;
-}
-
-inline Reale Distanza(Punto a, Punto b) {
-  return Radice(Potenza(a.z - b.z, 2) + Potenza(a.y - b.y, 2));
 }
 
 }  // namespace tarvel
