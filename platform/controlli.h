@@ -119,8 +119,8 @@ struct Temporizzatore {
   std::function<void()> scatto;
 };
 
-/// A window. Borders are fixed (not resizable), with a close box and no other; Alt+F4, and whatever
-/// else the host has for it, is the close box, Esc is not. A host may minimise it: that is no event and
+/// A window. Borders are fixed (not resizable), with a close box; Alt+F4, and whatever else the host
+/// has for it, is the close box, Esc is not. A host may let its user minimise it: that is no event and
 /// moves no focus. The first control of `controlli` that can have the focus gets it when the form is
 /// shown; Tab and Shift+Tab follow their order, round and round. Where controls overlap labels lie
 /// below, and of two others the later one is on top; the lines lie below all.

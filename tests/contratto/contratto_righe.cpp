@@ -11,8 +11,10 @@ namespace {
 struct Palco {
   explicit Palco(Utente& utente) : u(utente) {}
 
-  Passo Preme(int tasto) {
-    return [this, tasto] { u.Premi(tasto); };
+  Passo Preme(Testo tasti) {
+    return [this, tasti] {
+      for (const char tasto : tasti) u.Premi(tasto);
+    };
   }
   Passo Va(Controllo& c) {
     return [this, &c] { u.Vai(c); };
@@ -41,27 +43,24 @@ struct Riga {
 const Riga kRighe[] = {
     {"arriving by Tab or with the form selects the whole text, a click puts the caret",
      [](Palco& s) {
-       return std::vector{s.Preme('x'),  s.Preme(kTab), s.Preme('y'),
-                          s.Clicca(s.a), s.Preme('z'),  s.Legge(s.a)};
+       return std::vector{s.Preme("x\ty"), s.Clicca(s.a), s.Preme("z"), s.Legge(s.a)};
      },
      "tasto A 120 'abc'; perso A 'x'; tasto B 121 '12'; perso B 'y'; tasto A 122 'x'; xz"},
-    {"Esc is an event; Delete one of code 8, where it deletes; paste one of code 22",
+    {"Esc (1B) is an event; Delete (7F) one of code 8, where it deletes; paste one of code 22 (16)",
      [](Palco& s) {
-       return std::vector{
-           s.Preme(kTastoEsc),      s.Preme(kCanc),         s.Preme(kCanc),          s.Legge(s.a),
-           s.Preme(kTastoIndietro), s.Preme(kTastoIncolla), s.Preme(kTastoIndietro), s.Legge(s.a)};
+       return std::vector{s.Preme("\x1B\x7F\x7F"), s.Legge(s.a), s.Preme("\b\x16\b"), s.Legge(s.a)};
      },
      "tasto A 27 'abc'; tasto A 8 'abc'; ; tasto A 8 ''; tasto A 22 ''; tasto A 8 '12'; 1"},
     {"a key meets the text that its handler has set",
      [](Palco& s) {
        s.a.tasto = [&s](int) { ImpostaTesto(s.a, "nuovo"); };
-       return std::vector{s.Preme('x'), s.Legge(s.a), s.Preme(kTastoIndietro), s.Legge(s.a)};
+       return std::vector{s.Preme("x"), s.Legge(s.a), s.Preme("\b"), s.Legge(s.a)};
      },
      "nuovox; nuov"},
     {"a key whose handler shows a form is done before the focus goes",
      [](Palco& s) {
        s.a.tasto = [&s](int) { MostraForm(s.l); };
-       return std::vector{s.Preme('x'), s.Legge(s.a)};
+       return std::vector{s.Preme("x"), s.Legge(s.a)};
      },
      "load L; perso A 'x'; x"},
     {"a box holds kMassimoCasella characters",
@@ -69,38 +68,29 @@ const Riga kRighe[] = {
        s.a.tasto = [&s](int) { s.u.Annota(std::to_string(s.a.testo.size())); };
        s.a.fuocoPerso = {};
        ImpostaTesto(s.a, Testo(40000, '1'));
-       return std::vector{s.Clicca(s.a), s.Preme('x'), s.Preme('y')};
+       return std::vector{s.Clicca(s.a), s.Preme("xy")};
      },
      "32767; 32767"},
     {"Enter and Space press the button that has the focus; '&' is one",
      [](Palco& s) {
-       return std::vector{s.Legge(s.p), s.Preme(kTastoInvio), s.Va(s.p), s.Preme(' '), s.Preme(kTastoInvio)};
+       return std::vector{s.Legge(s.p), s.Preme("\r"), s.Va(s.p), s.Preme(" \r")};
      },
      "P&Q; tasto A 13 'abc'; perso A 'abc'; click P&Q; click P&Q"},
     {"described entries; Enter and a click beside them change nothing",
      [](Palco& s) {
        s.una.voci = {"a", "b"};
        s.tante.voci = {"a", "b", "c"};
-       return std::vector<Passo>{[&s] {
-                                   s.u.Seleziona(s.tante, {0, 2});
-                                 },
-                                 s.Va(s.b),
-                                 s.Va(s.tante),
-                                 s.Preme(kTastoInvio),
-                                 s.Legge(s.tante),
-                                 s.Legge(s.una),
-                                 [&s] { s.u.DoppioClick(s.tante, 1); }};
+       const Passo due = [&s] { s.u.Seleziona(s.tante, {0, 2}); };
+       const Passo doppio = [&s] { s.u.DoppioClick(s.tante, 1); };
+       return std::vector{due,   s.Va(s.b), s.Va(s.tante), s.Preme("\r"), s.Legge(s.tante), s.Legge(s.una),
+                          doppio};
      },
      "perso A 'abc'; perso B '12'; *a|b|*c; a|b; doppio Tante 'a|*b|c'"},
     {"Esc closes nothing; another program in front takes no control's focus",
      [](Palco& s) {
        s.p.click = [&s] { MostraFormModale(s.l); };
-       return std::vector<Passo>{s.Clicca(s.p),
-                                 s.Preme(kTastoEsc),
-                                 s.Preme(kTab),
-                                 s.Preme(kTastoEsc),
-                                 [&s] { s.u.AltroProgramma(); },
-                                 s.Preme('2')};
+       const Passo altro = [&s] { s.u.AltroProgramma(); };
+       return std::vector{s.Clicca(s.p), s.Preme("\x1B\t\x1B"), altro, s.Preme("2")};
      },
      "perso A 'abc'; load L; tasto C 27 '1'; tasto C 50 '1'"},
     {"a form on the screen becomes modal where it is, once or twice",

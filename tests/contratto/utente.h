@@ -23,10 +23,6 @@ using Passo = std::function<void()>;
 inline constexpr const char* kArgomenti[] = {"", "|x=\"a b\"|", "", "perch\xC3\xA9"};
 inline constexpr char kAppunti[] = "1\t2";  // what the clipboard holds
 
-// Keys without a character.
-constexpr int kTab = 9;
-constexpr int kCanc = 127;
-
 class Utente {
  public:
   Utente() = default;
@@ -49,7 +45,7 @@ class Utente {
   virtual void Vai(Controllo& controllo) = 0;
   /// Buttons and boxes: a mouse click.
   virtual void Clicca(Controllo& controllo) = 0;
-  /// A key where the focus is: the code of its character, kTab, kCanc or kTastoIncolla.
+  /// A key where the focus is: the code of its character, 9 Tab, 127 Delete, 22 paste.
   virtual void Premi(int tasto) = 0;
   /// Another program comes to the front for a moment.
   virtual void AltroProgramma() = 0;

@@ -30,6 +30,7 @@
 namespace tarvel::contratto {
 namespace {
 
+constexpr int kTastoCanc = 127;
 constexpr int kPazienza = 5000;      // milliseconds for a line that does not come
 constexpr unsigned kTempoCaso = 20;  // seconds after which a case that hangs is ended
 
@@ -104,22 +105,9 @@ class UtenteQt : public Utente {
 
   void Premi(int tasto) override {
     QWindow* const finestra = QApplication::focusWindow();
-    switch (tasto) {
-      case kTastoIncolla:
-        return QTest::keyClick(finestra, Qt::Key_V, Qt::ControlModifier);
-      case kTastoIndietro:
-        return QTest::keyClick(finestra, Qt::Key_Backspace);
-      case kTastoInvio:
-        return QTest::keyClick(finestra, Qt::Key_Return);
-      case kTastoEsc:
-        return QTest::keyClick(finestra, Qt::Key_Escape);
-      case kTab:
-        return QTest::keyClick(finestra, Qt::Key_Tab);
-      case kCanc:
-        return QTest::keyClick(finestra, Qt::Key_Delete);
-      default:
-        QTest::keyClick(finestra, static_cast<char>(tasto));
-    }
+    if (tasto == kTastoIncolla) return QTest::keyClick(finestra, Qt::Key_V, Qt::ControlModifier);
+    if (tasto == kTastoCanc) return QTest::keyClick(finestra, Qt::Key_Delete);
+    QTest::keyClick(finestra, static_cast<char>(tasto));
   }
 
   void AltroProgramma() override {
