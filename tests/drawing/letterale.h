@@ -76,7 +76,9 @@ inline bool RimuoviUnArco() {
 }
 
 inline void OttimizzaDisegno() {
-  auto& [coordinate, punti, linee, archi, testi] = Disegno;
+  auto& coordinate = Disegno.Coordinate;
+  auto& linee = Disegno.Linee;
+  auto& testi = Disegno.Testi;
   Scorri(linee, LineaInutile, [&](std::int32_t i) { Rimuovi(linee, i); });
   while (RimuoviUnArco()) continue;
   Scorri(

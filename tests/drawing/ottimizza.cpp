@@ -67,8 +67,9 @@ void Sorteggia(unsigned seme, int quanti) {
     const int centro = tra(0, 9) == 0 ? -1 : indice() / 4;
     return {centro, indice() / 4, centro, indice() / 4, tra(1, 2), tra(0, 9) / 9};
   });
-  riempi(testi, tra(0, quanti / 4),
-         [&]() -> ElementoTesto { return {indice(), 0, pochi(), pochi(), 1, std::to_string(testi.numero)}; });
+  riempi(testi, tra(0, quanti / 4), [&]() -> ElementoTesto {
+    return {indice(), 0, pochi(), pochi(), 1, std::to_string(Disegno.Testi.numero)};
+  });
   riempi(punti, tra(0, quanti) / 10, [&]() -> ElementoPunto { return {indice(), 1, 2}; });
 }
 

@@ -73,7 +73,8 @@ TEST_F(FileDisegno, Avvisi) {
   };
   for (const auto& [nome, modo, scritto, messaggio] : casi) {
     Intero16 tipo = 0;
-    EXPECT_EQ(Mostrato([&] { SalvaDisegno(nome, tipo, modo); }), messaggio) << nome << ' ' << modo;
+    EXPECT_EQ(Mostrato([&, &n = nome, m = modo] { SalvaDisegno(n, tipo, m); }), messaggio)
+        << nome << ' ' << modo;
     EXPECT_EQ(tipo, scritto) << nome << ' ' << modo;
   }
 }
