@@ -75,7 +75,8 @@ int Esegui(int argc, char** argv) {
   QCommandLineParser riga;
   riga.addOptions(
       {{"esporta", "Scrive il disegno in un file .png, .svg, .pdf o .dxf, senza finestra.", "file"},
-       {"senza-sorveglianza", "Ricarica il disegno soltanto a comando."}});
+       {"senza-sorveglianza", "Ricarica il disegno soltanto a comando."},
+       {"version", "Dice la versione."}});
   riga.addPositionalArgument("disegno", "File .dis da mostrare; senza, quello nominato da \"ostrel.inp\".",
                              "[disegno]");
   riga.addHelpOption();
@@ -92,5 +93,6 @@ int Esegui(int argc, char** argv) {
 }  // namespace ostrel
 
 int main(int argc, char** argv) {
+  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return std::puts("ostrel " VERSIONE) < 0;
   return ostrel::Esegui(argc, argv);
 }

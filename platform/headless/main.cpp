@@ -55,6 +55,10 @@ std::optional<Opzioni> LeggiArgomenti(const std::vector<std::string_view>& argom
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == "--version") {
+    std::cout << "tarvel1-headless " VERSIONE "\n";
+    return 0;
+  }
   const auto opzioni = LeggiArgomenti({argv + 1, argv + argc});
   if (!opzioni) {
     std::cerr << kUso;

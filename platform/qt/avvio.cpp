@@ -47,7 +47,7 @@ void PreparaDesktop(int argc, char** argv, const Form& principale) {
   // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,
   // and so does the application object, which the process's end takes away.
   static int solo = 1;
-  ApreSchermo(solo, argv).release();
+  static_cast<void>(ApreSchermo(solo, argv).release());
   std::setlocale(LC_NUMERIC, "C");
 
   QApplication::setQuitOnLastWindowClosed(false);

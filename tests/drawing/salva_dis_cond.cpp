@@ -71,7 +71,7 @@ TEST_F(FileDisegno, Avvisi) {
   };
   for (const auto& [nome, modo, scritto, messaggio] : casi) {
     bool esito = !scritto;
-    EXPECT_EQ(Mostrato([&] { esito = SalvaDisegno(nome, modo); }), messaggio) << nome;
+    EXPECT_EQ(Mostrato([&, &n = nome, m = modo] { esito = SalvaDisegno(n, m); }), messaggio) << nome;
     EXPECT_EQ(esito, scritto) << nome;
   }
 }

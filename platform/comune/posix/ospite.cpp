@@ -37,7 +37,9 @@ TipoVoce Genere(const std::string& percorso) {
   struct stat stato {};
   if (::stat(percorso.c_str(), &stato) != 0)
     return errno == ENOENT || errno == ENOTDIR ? TipoVoce::Assente : TipoVoce::Ignota;
-  return S_ISREG(stato.st_mode) ? TipoVoce::File : S_ISDIR(stato.st_mode) ? TipoVoce::Cartella : TipoVoce::Altro;
+  return S_ISREG(stato.st_mode)   ? TipoVoce::File
+         : S_ISDIR(stato.st_mode) ? TipoVoce::Cartella
+                                  : TipoVoce::Altro;
 }
 
 std::optional<std::vector<std::string>> Elenco(const std::string& cartella) {
