@@ -3,7 +3,8 @@
 // Paths of the program use the backslash. Where the host separates by '/', a backslash becomes one
 // and each component is looked up: exactly first, then without regard to case (the program lower-cases
 // its folders, the host's may not be). From the first component that is not there on, a path is taken
-// as given.
+// as given. A path that does not begin with a backslash begins in the program's working folder; a drive
+// letter is the host's, and a folder's name like any other where the host has no drives.
 #pragma once
 
 #include <optional>

@@ -64,6 +64,13 @@ TEST_F(ContrattoFile, PathsAreMatchedExactlyFirstThenWithoutRegardToCase) {
   };
   for (const auto& [percorso, atteso] : casi)
     EXPECT_EQ(PercorsoHost(Percorso("") + percorso), base + "/" + atteso) << percorso;
+
+  const fs::path prima = fs::current_path();
+  fs::current_path(cartella_);
+  fs::create_directories("C:/Dati");
+  EXPECT_EQ(PercorsoHost("CUSTOM\\capsezde.txt"), "Custom/CapSezDe.txt");
+  EXPECT_EQ(PercorsoHost("c:\\dati\\x"), "C:/Dati/x");
+  fs::current_path(prima);
 }
 
 TEST_F(ContrattoFile, OfNamesThatDifferByCaseTheOneWrittenByTheUserWins) {
