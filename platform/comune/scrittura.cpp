@@ -7,7 +7,7 @@
 namespace tarvel {
 namespace {
 
-constexpr std::size_t kBlocco = 1 << 16;
+constexpr std::size_t kBloccoCopia = 1 << 16;
 
 // Writes `a` beside its place by `riempi` and gives it its name at the end; what was written is taken
 // away where that fails.
@@ -52,7 +52,7 @@ bool CopiaFile(const Testo& da, const Testo& a) {
   if (!aperta) return false;
   const FileAperto origine(*aperta);
   return Sostituisci(a, [&](Ospite::Maniglia copia) {
-    std::array<char, kBlocco> blocco;
+    std::array<char, kBloccoCopia> blocco;
     for (;;) {
       const auto letti = ospite.Leggi(*origine, blocco);
       if (!letti) return false;

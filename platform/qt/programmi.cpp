@@ -27,8 +27,8 @@ struct Compito {
   Orologio::time_point avvio = Orologio::now();
 };
 
-std::vector<Compito> compiti;       // task id - 1
-std::optional<FinestraX> attivata;  // the main window that keys are for
+std::vector<Compito> compiti;           // task id - 1
+std::optional<FinestraX> destinataria;  // the main window that keys are for
 
 bool Finito(const Compito& compito) {
   pollfd stato{compito.processo, POLLIN, 0};
@@ -52,24 +52,24 @@ std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t) 
 }
 
 bool AttivaProgramma(std::int32_t id) {
-  attivata.reset();
+  destinataria.reset();
   if (id < 1 || std::size_t(id) > compiti.size()) return false;
   const Compito& compito = compiti[std::size_t(id) - 1];
   if (Finito(compito) || ConnessioneX() == nullptr) return !Finito(compito);
   Aspetta(
       [&] {
-        if (!Finito(compito)) attivata = FinestraPrincipale(compito.sessione);
-        return attivata || Finito(compito);
+        if (!Finito(compito)) destinataria = FinestraPrincipale(compito.sessione);
+        return destinataria || Finito(compito);
       },
       compito.avvio + kAttesaFinestra, compito.processo);
-  if (attivata) ChiediAttivazione(*attivata);
+  if (destinataria) ChiediAttivazione(*destinataria);
   return !Finito(compito);
 }
 
 void InviaTasti(const Testo& sequenza) {
-  if (!attivata) return;
-  const auto attiva = [] { return FinestraColFuoco() == *attivata; };
-  Aspetta([&] { return attiva() || Bloccata(*attivata); }, Orologio::now() + kAttesaAttivazione, -1);
+  if (!destinataria) return;
+  const auto attiva = [] { return FinestraColFuoco() == *destinataria; };
+  Aspetta([&] { return attiva() || Bloccata(*destinataria); }, Orologio::now() + kAttesaAttivazione, -1);
   // Between the look and the keys no other window may come to the front.
   const ServerFermo fermo;
   if (attiva()) PremiTasti(ConnessioneX(), LeggiSequenza(sequenza));
