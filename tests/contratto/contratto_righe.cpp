@@ -128,7 +128,7 @@ const Riga kRighe[] = {
     {"the hourglass at once and until it is taken away, but not over a message",
      [](Palco& s) {
        const auto guarda = [&s] { s.u.Annota(s.u.VedeClessidra() ? "clessidra" : "freccia"); };
-       s.p.click = [&s, guarda] {
+       s.p.click = [guarda] {
          ImpostaPuntatore(Puntatore::Clessidra);
          guarda();
          MostraMessaggio("m", "T", Icona::Nessuna);
