@@ -126,6 +126,20 @@ TEST(Caratteristiche, SecondoMetodoSuCentoSezioni) {
     vicini(r.Jyg, baricentrici.Izz, "Jyg");
     vicini(r.Jzg, baricentrici.Iyy, "Jzg");
     if (n % 2 == 0) vicini(r.ZG, p[kLarghezzaTotale].Valore() / 2, "ZG di una sezione simmetrica");
+
+    // Moved as a whole, and in metres: what does not depend on the place or the unit stays.
+    RecordSezione spostata = r;
+    for (const int i : {1, 2})
+      for (int v = 1; v <= r.NumVertici[i]; ++v)
+        spostata.ImpostaVertice(i, v, {r.Vertice(i, v).z + 300, r.Vertice(i, v).y - 100});
+    CalcolaCaratteristiche(spostata, p, r.NumVertici);
+    vicini(spostata.YG, yG - 100, "YG spostato");
+    vicini(spostata.Jyg, baricentrici.Izz, "Jyg spostato");
+    VettoreParametri inMetri = p;
+    for (int i = 0; i <= kLarghezzaTotale; ++i) inMetri[i] = p[i] / 100;
+    const RecordSezione metri = Calcolata(inMetri);
+    vicini(metri.Jt * 1e8, r.Jt.Valore(), "Jt in metri");
+    vicini(metri.TauVy[8] / 1e4, r.TauVy[8].Valore(), "TauVy in metri");
   }
 }
 
