@@ -53,7 +53,7 @@ constexpr Tratto kContorno[] = {
     {5040, 1452, 8004, 1728},  //  4  slope p19
     {8016, 1752, 8016, 1952},  //  5  edge of the right tip
     { 816, 1956, 1816, 2056},  //  6  underside of the left cantilever
-    {1824, 2052, 2024, 2252},  //  7  left haunch outside
+    {1824, 2052, 2024, 2252},  //  7  from the left cantilever to the web
     {2028, 2256, 2128, 3756},  //  8  left web outside
     {8020, 1956, 7020, 2056},  //  9  underside of the right cantilever
     {6820, 2256, 6720, 3756},  // 10  right web outside
@@ -63,13 +63,13 @@ constexpr Tratto kContorno[] = {
     {3816, 1652, 4416, 1632},  // 14  top, left of the crown
     {4416, 1632, 5016, 1652},  // 15  right of it
     {2616, 1956, 3816, 1656},  // 16  left slope of the top slab
-    {2220, 2356, 2620, 1956},  // 17  upper left haunch
+    {2220, 2356, 2620, 1956},  // 17  upper left fillet
     {6624, 2352, 6564, 3324},  // 18  right web
-    {6216, 1956, 6616, 2356},  // 19  upper right haunch
+    {6216, 1956, 6616, 2356},  // 19  upper right fillet
     {6216, 1956, 5016, 1656},  // 20  right slope of the top slab
-    {2268, 3312, 2556, 3540},  // 21  lower left haunch
-    {6564, 3312, 6288, 3540},  // 22  lower right haunch
-    {6816, 2252, 7016, 2052},  // 23  right haunch outside
+    {2268, 3312, 2556, 3540},  // 21  lower left fillet
+    {6564, 3312, 6288, 3540},  // 22  lower right fillet
+    {6816, 2252, 7016, 2052},  // 23  from the right cantilever to the web
 };
 
 // Line2: dimension lines and their ticks.
@@ -84,7 +84,7 @@ constexpr Tratto kQuote[] = {
     {3816, 1452, 3816, 1652},  //  7  p7
     { 828, 1332, 4428, 1332},  //  8  p9 to p13, on one line
     { 828, 1284,  828, 1380},  //  9  tick of 8
-    {2316, 3300, 2556, 3300},  // 10  p14, lower haunch, width
+    {2316, 3300, 2556, 3300},  // 10  p14, lower fillet, width
     {1836, 1284, 1836, 1380},  // 11  tick of 8
     {2604, 1284, 2604, 1380},  // 12  tick of 8
     {2748, 3300, 2748, 3540},  // 13  p8, its height
