@@ -124,10 +124,10 @@ void DisegnaQuote(const GeometriaSezione& g, Reale d, const DistanzeTesto& dista
       {oriz, O(5).z,  O(6).z,  O(5).y - d,  sx, T},        // D1   width of the bottom
       {vert, O(5).y,  O(12).y, O(12).z,     sx, T},        // D2   total height
       {vert, O(5).y,  C(10).y, O(12).z + d, sx, T},        // D3   bottom slab
-      {oriz, C(1).z,  C(11).z, C(1).y + d,  dx, T},        // D4   lower left haunch of the cell, width
-      {oriz, C(10).z, C(9).z,  C(9).y + d,  dx, T},        // D5   lower right haunch, width
-      {vert, C(11).y, C(1).y,  C(11).z + d, sx, T},        // D6   lower left haunch, height
-      {vert, C(10).y, C(9).y,  C(10).z - d, dx, T},        // D7   lower right haunch, height
+      {oriz, C(1).z,  C(11).z, C(1).y + d,  dx, T},        // D4   lower left fillet of the cell, width
+      {oriz, C(10).z, C(9).z,  C(9).y + d,  dx, T},        // D5   lower right fillet, width
+      {vert, C(11).y, C(1).y,  C(11).z + d, sx, T},        // D6   lower left fillet, height
+      {vert, C(10).y, C(9).y,  C(10).z - d, dx, T},        // D7   lower right fillet, height
       {vert, O(2).y,  O(1).y,  O(1).z - d,  dx, T},        // D8   tip of the cantilever
       {vert, S(O(3)), O(3).y,  O(3).z,      dx, T},        // D9   depth of O3 below the slope of the top
       {vert, S(O(4)), O(4).y,  O(4).z,      dx, opposta},  // D10  of O4
