@@ -38,7 +38,7 @@ Testo RigaComando() {
 }
 
 void PreparaDesktop(int argc, char** argv, const Form& principale) {
-  rigaComando = UnisciArgomenti({argv + 1, argv + argc});
+  rigaComando = RigaComandoPassata(argc, argv);
 
   // Keys for the viewer go through X11, natively or by the X server that Wayland desktops run.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
