@@ -1,7 +1,10 @@
 // The stresses of shear by an independent second method.
 #include <gtest/gtest.h>
 
+#include "base/numeri.h"
+#include "base/tronca.h"
 #include "properties/caratteristiche.h"
+#include "sheartorsion/tau_punti.h"
 #include "tests/properties/fette.h"
 
 namespace tarvel {
@@ -116,6 +119,23 @@ TEST(Tensioni, TaglioPerSecondoMetodo) {
     sulRaccordo += r.P(15).y < C(1).y ? 1 : 0;
     for (const auto& [a, b] : {std::pair{4, 2}, {7, 6}}) EXPECT_EQ(r.TauVy[a], -r.TauVy[b]);
 
+    // The flow of torsion is the same all around the cell.
+    const Reale qT = r.TauT[2] * b2, b8T = d * (1 + inclinata * inclinata);
+    EXPECT_GT(qT, 0);
+    for (const auto& [punto, larghezza] : {std::pair{3, O(12).y - C(5).y},
+                                           {11, aSinistra(C(3)).y - C(3).y},
+                                           {14, r.P(15).z - r.P(14).z},
+                                           {8, -b8T},
+                                           {9, -b8T},
+                                           {10, -p[kSolettaInferiore]},
+                                           {12, -p[kSolettaInferiore]},
+                                           {4, b2}})
+      vicino(r.TauT[punto], (qT / larghezza).Valore(), "torsione", punto);
+    for (const int punto : {6, 7}) EXPECT_EQ(r.TauT[punto], std::max(r.TauT[9], r.TauT[10]));
+    for (const auto& [punto, altezza] : {std::pair{10, p[kSolettaInferiore]}, {12, b12}})
+      EXPECT_EQ(r.EtichettaPunto[punto].Rifilato(),
+                "NODO " + std::to_string(punto) + " TAG2_" + FormatoNumero(Tronca(altezza, 1)));
+
     const Spezzata cimaSinistra = {aSinistra(O(3)), aSinistra(C(3))},
                    cimaDestra = {aDestra(C(7)), aDestra(O(8))};
     Fette anime;
@@ -127,6 +147,30 @@ TEST(Tensioni, TaglioPerSecondoMetodo) {
     vicino(r.Atz, superiore.A + Fette{}.Aggiungi(aLivello, soffitto, O(5).z, O(6).z).A, "Atz", 0);
   }
   EXPECT_GT(sulRaccordo, 20);
+}
+
+// The section file holds magnitudes; a stress that another point takes over keeps its sign here.
+TEST(Tensioni, SegniDoveManca) {
+  const struct {
+    Dimensione quale;
+    double misura;
+    decltype(&RecordSezione::TauT) tensione;
+    int punto;
+    double segno;
+  } casi[] = {
+      {kSolettaMezzeria, 0, &RecordSezione::TauVy, 4, -kSenzaLarghezza},
+      {kSolettaMezzeria, 0, &RecordSezione::TauVz, 3, kSenzaLarghezza},
+      {kSolettaInferiore, 0, &RecordSezione::TauT, 12, kSenzaLarghezza},
+      {kSolettaInferiore, -5, &RecordSezione::TauVy, 10, kSenzaLarghezza},
+      {kSolettaInferiore, -5, &RecordSezione::TauT, 10, 1.03186768e-6},
+  };
+  for (const auto& c : casi) {
+    VettoreParametri p = Esempio();
+    p[c.quale] = c.misura;
+    RecordSezione r = Costruita(p);
+    CalcolaCaratteristiche(r);
+    EXPECT_NEAR((r.*c.tensione)[c.punto].Valore(), c.segno, 1e-14) << c.punto;
+  }
 }
 
 }  // namespace
