@@ -16,17 +16,10 @@ TEST_F(Ottimizza, PuntoSuSegmento) {
     double x, y, fineX, fineY;
     bool atteso;
   } casi[] = {
-      {0, 0, 8, 6, true},
-      {8, 6, 8, 6, true},
-      {4, 3.001, 8, 6, true},
-      {-3e-5, 0, 8, 6, true},
-      {8.00003, 6.00003, 8, 6, true},
-      {4, 3.1, 8, 6, false},
-      {8.00005, 6.00005, 8, 6, false},
-      {-1, -.75, 8, 6, false},
-      {9, 6.75, 8, 6, false},
-      {500, .2236, 1000, 0, true},
-      {500, .2237, 1000, 0, false},
+      {0, 0, 8, 6, true},      {8, 6, 8, 6, true},           {8.00003, 6.00003, 8, 6, true},
+      {4, 3.1, 8, 6, false},   {9, 6.75, 8, 6, false},       {8.00005, 6.00005, 8, 6, false},
+      {4, 3.001, 8, 6, true},  {-3e-5, 0, 8, 6, true},       {500, .2236, 1000, 0, true},
+      {-1, -.75, 8, 6, false}, {500, .2237, 1000, 0, false},
   };
   for (const auto& c : casi)
     EXPECT_EQ(disegno::PuntoSuSegmento({c.x, c.y}, {0, 0}, {c.fineX, c.fineY}), c.atteso)
