@@ -1,14 +1,11 @@
 // Properties in rungs: closed forms, the worked example, invariances.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
-#include <latch>
 #include <thread>
-#include <vector>
 
 #include "base/errore.h"
-#include "base/numeri.h"
-#include "base/tronca.h"
 #include "properties/caratteristiche.h"
 #include "properties/integrali.h"
 #include "tests/aiuti.h"
@@ -136,9 +133,7 @@ TEST(Caratteristiche, OgniPassoDiceIlSuoNomeELasciaICampiPrecedenti) {
 // Two threads on two sections, while the program's own state is of neither.
 TEST(Caratteristiche, DiQualunqueSezioneDaOgniThread) {
   std::mt19937 caso(11);
-  std::latch insieme(2);
   const auto lavoro = [&](const VettoreParametri& p, const RecordSezione& attesa, int& diversi) {
-    insieme.arrive_and_wait();
     for (int n = 0; n < 5000; ++n) {
       RecordSezione r = attesa;
       CalcolaCaratteristiche(r, p, attesa.NumVertici);
