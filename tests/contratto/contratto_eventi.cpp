@@ -6,7 +6,7 @@
 namespace tarvel::contratto {
 namespace {
 
-TEST(ContrattoEventi, KeysComeBeforeTheTextChangesALostFocusBeforeTheNextControlsEvent) {
+TEST(ContrattoEventi, TastiPrimaDelTestoFuocoPersoPrimaDellEventoSeguente) {
   const Esito esito = Prova([](Utente& u) {
     FormDiario form(u, "F");
     form.Etichetta("L");
@@ -36,7 +36,7 @@ TEST(ContrattoEventi, KeysComeBeforeTheTextChangesALostFocusBeforeTheNextControl
   EXPECT_EQ(esito.stato, 0);
 }
 
-TEST(ContrattoEventi, ListsKeepTheUsersChoiceAndTheProgramsOwnChangesFireNothing) {
+TEST(ContrattoEventi, LeListeTengonoLaSceltaEICambiDelProgrammaNonDannoEventi) {
   const Esito esito = Prova([](Utente& u) {
     FormDiario form(u, "F");
     Controllo& etichetta = form.Etichetta("E");
@@ -75,7 +75,7 @@ TEST(ContrattoEventi, ListsKeepTheUsersChoiceAndTheProgramsOwnChangesFireNothing
             "\x80 5 gi\xE0 a|*b|c x|y 00; \x80 5 gi\xE0 a|*b|c x|y 00");
 }
 
-TEST(ContrattoEventi, ATimerFiresUntilItIsStoppedButNotDuringHandlersAndMessageBoxes) {
+TEST(ContrattoEventi, IlTimerScattaFinoAlFermoMaNonDuranteGestoriEMessaggi) {
   const Esito esito = Prova([](Utente& u) {
     FormDiario form(u, "F");
     Temporizzatore timer;

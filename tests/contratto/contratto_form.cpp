@@ -37,7 +37,7 @@ struct Scena {
   Controllo& nascondiL = l.Bottone("NascondiL", [this] { NascondiForm(l); });
 };
 
-TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksWhatWasThereBefore) {
+TEST(ContrattoForm, LaFormModaleTrattieneChiLaMostraEBloccaLeAltre) {
   const Esito esito = Prova([](Utente& u) {
     Scena s(u);
     const Passo premeL = [&] { u.Clicca(s.premiL); };
@@ -66,7 +66,7 @@ TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksWhatWasThereBefore) {
 }
 
 // The focus returns from a form without an event; a close box takes it with one, before the unload hook.
-TEST(ContrattoForm, AHiddenFormKeepsItsStateAndACloseBoxStoresWhatWasTyped) {
+TEST(ContrattoForm, LaFormNascostaTieneLoStatoEChiudereTieneIlBattuto) {
   const Esito esito = Prova([](Utente& u) {
     Scena s(u);
     s.b.tasto = [&](int) { s.Apri(s.m); };
@@ -91,7 +91,7 @@ TEST(ContrattoForm, AHiddenFormKeepsItsStateAndACloseBoxStoresWhatWasTyped) {
 }
 
 // A control hears of a form that a handler shows only after the handler.
-TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
+TEST(ContrattoForm, FormNonModaliFiancoAFianco) {
   const Esito esito = Prova([](Utente& u) {
     Scena s(u);
     s.f.alCaricamento = [&] {
@@ -118,7 +118,7 @@ TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
 }
 
 // Whatever is open, the end is at once: no unload hook, no code after it, no further step.
-TEST(ContrattoForm, TheProgramEndsAtOnceWhereverItIs) {
+TEST(ContrattoForm, IlProgrammaFinisceSubitoOvunqueSia) {
   const std::string messaggio = std::string("; messaggio stop ok \"") + kTitoloProgramma +
                                 "\" \"Errore irreversibile: numero (riga 1)\" -> ok";
   enum Luogo { kCaricamento, kClick, kScatto, kScarico };

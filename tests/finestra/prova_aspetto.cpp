@@ -36,7 +36,7 @@ void Prepara(const Form& form, const QByteArray& piattaforma = "offscreen") {
   PreparaDesktop(1, argomenti, form);
 }
 
-TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
+TEST(Casella, DiceOgniCambioETieneSoloTestoAOttoBit) {
   Form form;
   form.larghezza = form.altezza = 3000;
   Controllo controllo = NuovoControllo(TipoControllo::Casella, "A", {100, 100, 1000, 300});
@@ -113,7 +113,7 @@ void ControllaTesti(Form& form) {
   }
 }
 
-TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
+TEST_P(AScala, NessunaScrittaENessunaNotaTagliata) {
   const auto [larghezza, altezza] = GetParam();
   const std::string file = ::testing::TempDir() + "schermo" + std::to_string(larghezza) + ".json";
   std::ofstream(file) << R"({"screens":[{"name":"s","x":0,"y":0,"logicalDpi":96,"dpr":1,"width":)"
@@ -139,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
                                            std::pair(1366, 768), std::pair(1440, 900), std::pair(1920, 1080),
                                            std::pair(3840, 2160)));
 
-TEST(Etichetta, ALongPathShowsBothEndsAndTheWholeAsAToolTip) {
+TEST(Etichetta, UnPercorsoLungoMostraICapiEInteroNelSuggerimento) {
   Prepara(FormPrincipale());
   auto& form = static_cast<tarvel1&>(FormPrincipale());
   const Testo percorso = "\\dati\\" + Testo(200, 'x') + "\\lavori\\PR0042\\sezio_ut";
@@ -152,7 +152,7 @@ TEST(Etichetta, ALongPathShowsBothEndsAndTheWholeAsAToolTip) {
   EXPECT_EQ(etichetta.toolTip(), InQt(percorso));
 }
 
-TEST(Tasti, SequencesAreReadInGroups) {
+TEST(Tasti, LeSequenzeSiLeggonoAGruppi) {
   const unsigned long f4 = 0xffc1;  // the keysym of F4
   const std::pair<const char*, std::vector<GruppoTasti>> casi[] = {
       {"%(fg)", {{true, {'f', 'g'}}}},
