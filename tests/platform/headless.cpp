@@ -65,6 +65,12 @@ TEST(Headless, FormsAtOneAddressAreTwoForms) {
             "madre\nend 0\n");
 }
 
+TEST(Headless, AKeyMayTakeItsFormAway) {
+  FormMadre form;
+  form.casella.tasto = [&](int) { NascondiForm(form); };
+  EXPECT_EQ(RecitaTesto(form, "type nome x").verbale, "show madre\nhide madre\nend 0\n");
+}
+
 TEST(Headless, AProgramThatDoesNotEndIsGivenUp) {
   FormMadre quieta;
   EXPECT_EQ(RecitaTesto(quieta, "").stato, 0) << "without a timer nothing can happen any more";
