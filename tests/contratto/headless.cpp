@@ -1,6 +1,4 @@
 // The suite's user on the scripted desktop: events go straight to the platform's hand.
-#include <utility>
-
 #include "platform/comune/argomenti.h"
 #include "platform/headless/avvio.h"
 #include "platform/headless/desktop.h"
@@ -22,6 +20,7 @@ class UtenteHeadless : public Utente {
         principale, {[&] { Agisce(); }, [&](const headless::Messaggio& m) { return Risponde(m); }});
     Annota("fine " + std::to_string(stato));
   }
+
   void Vai(Controllo& c) override { headless::Vai(c); }
   void Clicca(Controllo& c) override { headless::Clicca(c); }
   void Premi(int tasto) override {
