@@ -8,7 +8,7 @@ Each session has a fresh installation. Comment lines of a script that begin with
     #: cartella PATH        a folder                  #: pieno PATH        a file on a disk that is full
     #: esempio [N=VALUE]... the worked example, with other values for some boxes, as the defaults file
     #: argomento TEXT       in place of |diroot={radice}|; the program is started in driver/
-    #: opzioni ARGS         of the program
+    #: opzioni ARGS         of the program          #: senza_argomento      nothing follows them
 or add to the end of the transcript:
     #: mostra PATH          a file, or the names of a folder
     #: righe PATH TEXT      the lines of a file with this text, or of these numbers ("2-5")
@@ -95,6 +95,9 @@ class Sessione:
     def fa_argomento(self, testo):
         self.argomento = testo
 
+    def fa_senza_argomento(self, _=""):
+        self.argomento = None
+
     def fa_opzioni(self, testo):
         self.opzioni = testo
 
@@ -129,8 +132,9 @@ class Sessione:
         return f"(line {n}: {x!r}, in {altro} {y!r})\n"
 
     def recita(self, programma):
-        comando = [os.path.abspath(programma), "--script", self.copione, *shlex.split(self.opzioni), "--",
-                   self.argomento.replace("{radice}", self.radice)]
+        comando = [os.path.abspath(programma), "--script", self.copione, *shlex.split(self.opzioni)]
+        if self.argomento is not None:
+            comando += ["--", self.argomento.replace("{radice}", self.radice)]
         esito = subprocess.run(comando, cwd=self.posto("driver"), stdin=subprocess.DEVNULL, timeout=120,
                                capture_output=True)
         testo = (esito.stdout + esito.stderr).decode("utf-8", "surrogateescape") + f"stato {esito.returncode}\n"

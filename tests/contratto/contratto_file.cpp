@@ -175,7 +175,7 @@ TEST_F(ContrattoFile, LoScrittoSostituisceIlFileEIlDiscoPienoSiDice) {
 TEST_F(ContrattoFile, IdentificativiNuoviESoloDiProgrammiAvviati) {
   Metti("vivo", "#!/bin/sh\nfor i in $(seq 50); do [ -e \"$0\" ] && sleep 0.1; done\n");
   fs::permissions(cartella_ / "vivo", fs::perms::owner_all);
-  const Esito esito = Prova([this](Utente& u) {
+  const std::string diario = Prova([this](Utente& u) {
     FormDiario form(u, "F");
     form.alCaricamento = [&] {
       const auto uno = AvviaProgramma("\\bin\\TRUE", 1);
@@ -189,8 +189,7 @@ TEST_F(ContrattoFile, IdentificativiNuoviESoloDiProgrammiAvviati) {
     };
     u.Esegui(form, {[this] { fs::remove(cartella_ / "vivo"); }});
   });
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F; diversi; niente; niente; niente; attivo; nessuno; nessuno; nessuno");
+  EXPECT_EQ(diario, Righe("load F; diversi; niente; niente; niente; attivo; nessuno; nessuno; nessuno"));
 }
 
 }  // namespace
