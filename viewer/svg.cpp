@@ -208,6 +208,7 @@ class Foglio {
   }
 
   // Scaled across to the cells by the font's own measures; where another font stands in, by its length.
+  // The font's size is in nominal pixels: readers draw the outlines of very small fonts badly.
   // Blanks are kept by each text: browsers let none inherit that.
   void Metti(const Scritta& scritta, std::vector<Segno>& segni) const {
     const std::size_t colore = IndiceColore(scritta.colore);
@@ -226,11 +227,11 @@ class Foglio {
                        "/>\n"});
       return;
     }
-    const double corpo = altezza / kMaiuscola;
+    const double corpo = altezza / kMaiuscola * pixel_;
     const double disteso = corpo * kAvanzamento * static_cast<double>(scritta.testo.size());
     Testo posa = "translate(" + X(angoli[0].x) + ' ' + Y(angoli[0].y) + ')';
     if (scritta.angolo != 0) posa += " rotate(" + Numero(-scritta.angolo, 1) + ')';
-    posa += " scale(" + Misura(largo / disteso) + " 1)";
+    posa += " scale(" + Misura(largo / disteso) + ' ' + Misura(1 / pixel_) + ')';
     segni.push_back({colore,
                      Marca("text", {{"transform", posa},
                                     {"font-size", Misura(corpo)},
