@@ -192,8 +192,8 @@ class Foglio {
       };
       const int parti = p.ampiezza > std::numbers::pi ? 2 : 1;
       Testo via = 'M' + posto(p.inizio);
-      for (int i = 1; i <= parti; ++i)
-        via += 'A' + raggio + ' ' + raggio + " 0 0 0 " + posto(p.inizio + p.ampiezza * i / parti);
+      const Testo tratto = 'A' + raggio + ' ' + raggio + " 0 0 0 ";
+      for (int i = 1; i <= parti; ++i) (via += tratto) += posto(p.inizio + p.ampiezza * i / parti);
       marca = Marca("path", {{"d", via}});
     }
     segni.push_back({IndiceColore(arco.colore), marca, "/>\n"});
