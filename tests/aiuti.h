@@ -1,11 +1,6 @@
-// What several tests share: the worked example, a scratch folder, whole files.
+// What several tests of the core share: the worked example and its kin.
 #pragma once
 
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <sstream>
 #include <string>
@@ -64,33 +59,6 @@ inline VettoreParametri Casuale(std::mt19937& caso, bool simmetrica) {
     p[kPendenzaDestra] = -p[kPendenzaSinistra];
   }
   return p;
-}
-
-class Cartella {
- public:
-  Cartella() {
-    std::string modello = (std::filesystem::temp_directory_path() / "TarvelProva_XXXXXX").string();
-    radice = mkdtemp(modello.data());
-  }
-  Cartella(const Cartella&) = delete;
-  Cartella& operator=(const Cartella&) = delete;
-  ~Cartella() {
-    std::error_code ignorato;
-    std::filesystem::remove_all(radice, ignorato);
-  }
-  std::filesystem::path operator/(const std::string& nome) const { return radice / nome; }
-
-  std::filesystem::path radice;
-};
-
-inline std::string Contenuto(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
-inline void Scrivi(const std::filesystem::path& file, const std::string& contenuto) {
-  std::filesystem::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << contenuto;
 }
 
 }  // namespace tarvel::prove

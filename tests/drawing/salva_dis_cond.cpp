@@ -3,6 +3,7 @@
 
 #include "drawing/funz_disegno.h"
 #include "lavoro/nome_disegno.h"
+#include "tests/cartella.h"
 #include "tests/drawing/attrezzi.h"
 
 namespace tarvel::disegno {

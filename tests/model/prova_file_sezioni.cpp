@@ -10,6 +10,7 @@
 #include "model/file_sezioni.h"
 #include "properties/caratteristiche.h"
 #include "tests/aiuti.h"
+#include "tests/cartella.h"
 
 namespace tarvel {
 namespace {

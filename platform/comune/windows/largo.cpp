@@ -20,4 +20,17 @@ std::string DaLargo(std::wstring_view testo) {
   return utf8;
 }
 
+std::wstring PercorsoLargo(std::string_view utf8) {
+  constexpr DWORD kPerUnaCartella = 248;  // the shortest of the limits
+  std::wstring percorso = Largo(utf8);
+  std::wstring intero(kPerUnaCartella, L'\0');
+  const DWORD lungo = GetFullPathNameW(percorso.c_str(), kPerUnaCartella, intero.data(), nullptr);
+  if (lungo < kPerUnaCartella) return percorso;
+  // Whole and with backslashes, as a path without limits has to be.
+  intero.resize(lungo - 1);
+  GetFullPathNameW(percorso.c_str(), lungo, intero.data(), nullptr);
+  if (intero.starts_with(L"\\\\?\\")) return intero;
+  return intero.starts_with(L"\\\\") ? L"\\\\?\\UNC" + intero.substr(1) : L"\\\\?\\" + intero;
+}
+
 }  // namespace tarvel

@@ -10,4 +10,7 @@ namespace tarvel {
 std::wstring Largo(std::string_view utf8);
 std::string DaLargo(std::wstring_view testo);
 
+/// A path for the calls on files, also where it is longer than their usual 260 characters.
+std::wstring PercorsoLargo(std::string_view utf8);
+
 }  // namespace tarvel

@@ -18,7 +18,7 @@ HANDLE Di(Ospite::Maniglia file) {
 // of its name, or wait for ever.
 std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DWORD condiviso, DWORD come) {
   const HANDLE file =
-      CreateFileW(Largo(percorso).c_str(), modo, condiviso, nullptr, come, FILE_ATTRIBUTE_NORMAL, nullptr);
+      CreateFileW(PercorsoLargo(percorso).c_str(), modo, condiviso, nullptr, come, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return std::nullopt;
   if (GetFileType(file) == FILE_TYPE_DISK) return reinterpret_cast<Ospite::Maniglia>(file);
   CloseHandle(file);
@@ -26,7 +26,7 @@ std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DW
 }
 
 TipoVoce Genere(const std::string& percorso) {
-  const DWORD attributi = GetFileAttributesW(Largo(percorso).c_str());
+  const DWORD attributi = GetFileAttributesW(PercorsoLargo(percorso).c_str());
   if (attributi == INVALID_FILE_ATTRIBUTES) {
     const DWORD errore = GetLastError();
     return errore == ERROR_FILE_NOT_FOUND || errore == ERROR_PATH_NOT_FOUND || errore == ERROR_INVALID_NAME ||
@@ -40,7 +40,7 @@ TipoVoce Genere(const std::string& percorso) {
 
 std::optional<std::vector<std::string>> Elenco(const std::string& cartella) {
   WIN32_FIND_DATAW voce;
-  const HANDLE ricerca = FindFirstFileW(Largo(cartella + "\\*").c_str(), &voce);
+  const HANDLE ricerca = FindFirstFileW(PercorsoLargo(cartella + "\\*").c_str(), &voce);
   if (ricerca == INVALID_HANDLE_VALUE) return std::nullopt;
   std::vector<std::string> nomi;
   do nomi.push_back(DaLargo(voce.cFileName));
@@ -91,12 +91,12 @@ bool Chiudi(Ospite::Maniglia file) {
 }
 
 bool Rinomina(const std::string& da, const std::string& a) {
-  return MoveFileExW(Largo(da).c_str(), Largo(a).c_str(),
+  return MoveFileExW(PercorsoLargo(da).c_str(), PercorsoLargo(a).c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
 bool Togli(const std::string& percorso) {
-  return DeleteFileW(Largo(percorso).c_str()) != 0;
+  return DeleteFileW(PercorsoLargo(percorso).c_str()) != 0;
 }
 
 }  // namespace

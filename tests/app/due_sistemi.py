@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""Random sections calculated, saved and drawn by two builds of the program: files equal byte for byte.
+
+    due_sistemi.py PROGRAM OTHER SECTIONS      OTHER is run by TARVEL_EMULATORE
+
+One section of 25 is saved by itself, which draws it; a table holds 500.
+"""
+import os
+import random
+import shlex
+import subprocess
+import sys
+import tempfile
+
+from installazione import installa
+
+TABELLA = 500
+
+
+def dimensioni(caso):
+    """A box girder of any proportion, in centimetres, hundredths included."""
+    larga, alta = caso.uniform(600, 1800), caso.uniform(120, 400)
+    alte = [alta, alta * caso.uniform(.08, .15), caso.uniform(12, 25), caso.uniform(26, 35), caso.uniform(36, 48),
+            caso.uniform(36, 55), caso.uniform(22, 35), caso.uniform(20, 30), alta * caso.uniform(.05, .12)]
+    basi = [larga * caso.uniform(*tra) for tra in ((.12, .22), (.01, .05), (.03, .06), (.08, .12), (.03, .06),
+                                                   (.02, .05), (1, 1))]
+    pendenze = [caso.uniform(-4, 4) for _ in range(4)] + [caso.uniform(2, 30)]
+    return [f"{v:.2f}" for v in alte + basi + pendenze]
+
+
+def copione(caso, quante):
+    righe = []
+    for n in range(quante):
+        righe += [f"type Text1({i}) {v}" for i, v in enumerate(dimensioni(caso))]
+        righe += [f"type nome S{n:06d}", "click Calcolo"]
+        if n % 25 == 0 or n == quante - 1:
+            righe.append("click Command2")
+    return "\n".join(righe) + "\n"
+
+
+def file_scritti(comando, testo):
+    with tempfile.TemporaryDirectory(prefix="DueSistemi_") as radice:
+        lavoro = installa(radice)
+        with open(os.path.join(radice, "copione"), "w") as file:
+            file.write(testo)
+        esito = subprocess.run([*comando, "--script", os.path.join(radice, "copione"), "--", f"|diroot={radice}|"],
+                               cwd=radice, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        if esito.returncode != 0:
+            sys.exit(f"{comando[-1]}: {esito.stdout[-500:].decode('utf-8', 'replace')}")
+        scritti = {}
+        for nome in os.listdir(lavoro):
+            with open(os.path.join(lavoro, nome), "rb") as file:
+                scritti[nome] = file.read()
+        return scritti
+
+
+def main():
+    programma, altro, quante = *map(os.path.abspath, sys.argv[1:3]), int(sys.argv[3])
+    emulatore = shlex.split(os.environ.get("TARVEL_EMULATORE", ""))
+    caso = random.Random(21)
+    file = disegni = diversi = 0
+    for da in range(0, quante, TABELLA):
+        testo = copione(caso, min(TABELLA, quante - da))
+        uno, due = file_scritti([programma], testo), file_scritti([*emulatore, altro], testo)
+        assert uno.keys() == due.keys() and "sezio_ut" in uno, (sorted(uno), sorted(due))
+        file += len(uno)
+        disegni += sum(nome.endswith(".dis") for nome in uno)
+        for nome in uno:
+            if uno[nome] != due[nome]:
+                diversi += 1
+                coppie = zip(uno[nome].split(b"\n"), due[nome].split(b"\n"))
+                print(nome, *next(((x, y) for x, y in coppie if x != y), ("lunghezze diverse",)))
+    print(f"{quante} sezioni, {disegni} disegni, {file} file: {diversi} diversi")
+    sys.exit(diversi > 0 or disegni == 0)
+
+
+main()

@@ -1,0 +1,62 @@
+// Files of Windows: how paths are found, what is no file.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <filesystem>
+
+#include "tests/contratto/cartella_prova.h"
+
+namespace tarvel::contratto {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST_F(ContrattoFile, PercorsiConUnitaAccentiEBarre) {
+  fs::create_directories(cartella_.radice / L"Citt\u00E0 nuova" / L"\u20AC");
+  const fs::path file = cartella_.radice / L"Citt\u00E0 nuova" / L"\u20AC" / L"Perch\u00E9.dis";
+  const Testo dentro = "citt\xC0 NUOVA\\\x80\\PERCH\xC9.DIS";
+  EXPECT_EQ(ScriviFile(Percorso("") + "citt\xC0 NUOVA\\\x80\\Perch\xE9.dis", "uno"), EsitoScrittura::Scritto);
+  EXPECT_EQ(prove::Contenuto(file), "uno");
+  const Testo assoluto = Percorso("") + dentro;
+  ASSERT_EQ(assoluto[1], ':');
+  Testo barre = assoluto;
+  std::replace(barre.begin(), barre.end(), '\\', '/');
+  const fs::path prima = fs::current_path();
+  fs::current_path(cartella_.radice);
+  for (const Testo& percorso : {assoluto, barre, assoluto.substr(2), dentro, assoluto.substr(0, 2) + dentro})
+    EXPECT_TRUE(FileInLettura::Apri(percorso)) << percorso;
+  fs::current_path(prima);
+
+  Testo lungo = Percorso("");
+  for (int i = 0; i < 5; ++i) {
+    lungo += Testo(60, static_cast<char>('a' + i));
+    ASSERT_NE(CreateDirectoryA(("\\\\?\\" + lungo).c_str(), nullptr), 0) << lungo;
+    lungo += '\\';
+  }
+  EXPECT_EQ(ScriviFile(lungo + "f", "x"), EsitoScrittura::Scritto);
+  EXPECT_TRUE(FileInLettura::Apri(lungo + "F"));
+}
+
+// A drawing named as a device must not vanish in it.
+TEST_F(ContrattoFile, DispositiviEFileProtettiNonSiScrivono) {
+  for (const char* nome : {"NUL", "CON", "COM1", "\\\\.\\NUL", "\\\\.\\pipe\\x"})
+    EXPECT_EQ(ScriviFile(nome, "x"), EsitoScrittura::NonAperto) << nome;
+  EXPECT_FALSE(FileInLettura::Apri("NUL"));
+
+  Metti("protetto", "vecchio");
+  SetFileAttributesW((cartella_ / "protetto").c_str(), FILE_ATTRIBUTE_READONLY);
+  EXPECT_EQ(ScriviFile(Percorso("protetto"), "x"), EsitoScrittura::NonAperto);
+  EXPECT_FALSE(SostituisciFile(Percorso("protetto"), "x"));
+  EXPECT_EQ(Letto("protetto"), "vecchio");
+  EXPECT_EQ(std::distance(fs::directory_iterator(cartella_.radice), {}), 1) << "un avanzo";
+  SetFileAttributesW((cartella_ / "protetto").c_str(), FILE_ATTRIBUTE_NORMAL);
+
+  Metti("nascosto", "vecchio, e lungo");
+  SetFileAttributesW((cartella_ / "nascosto").c_str(), FILE_ATTRIBUTE_HIDDEN);
+  EXPECT_EQ(ScriviFile(Percorso("nascosto"), "nuovo"), EsitoScrittura::Scritto);
+  EXPECT_EQ(Letto("nascosto"), "nuovo");
+  EXPECT_NE(GetFileAttributesW((cartella_ / "nascosto").c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+}
+
+}  // namespace
+}  // namespace tarvel::contratto
