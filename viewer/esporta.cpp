@@ -63,9 +63,8 @@ Motivo ScriviPng(const Disegno& disegno, QIODevice& uscita) {
   return SeManca(!immagine.isNull() && immagine.save(&uscita, "PNG"));
 }
 
-Motivo Copia(const std::string& testo, QIODevice& uscita) {
-  const auto quanti = static_cast<qint64>(testo.size());
-  return SeManca(uscita.write(testo.data(), quanti) == quanti);
+Motivo Copia(QByteArrayView byte, QIODevice& uscita) {
+  return SeManca(uscita.write(byte.data(), byte.size()) == byte.size());
 }
 
 Motivo ScriviSvgSu(const Disegno& disegno, QIODevice& uscita) {
