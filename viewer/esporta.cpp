@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSaveFile>
+#include <QStorageInfo>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -63,9 +64,8 @@ Motivo ScriviPng(const Disegno& disegno, QIODevice& uscita) {
   return SeManca(!immagine.isNull() && immagine.save(&uscita, "PNG"));
 }
 
-Motivo Copia(const std::string& testo, QIODevice& uscita) {
-  const auto quanti = static_cast<qint64>(testo.size());
-  return SeManca(uscita.write(testo.data(), quanti) == quanti);
+Motivo Copia(QByteArrayView byte, QIODevice& uscita) {
+  return SeManca(uscita.write(byte.data(), byte.size()) == byte.size());
 }
 
 Motivo ScriviSvgSu(const Disegno& disegno, QIODevice& uscita) {
@@ -112,18 +112,17 @@ constexpr std::array<Genere, 4> kGeneri = {{
     {"dxf", "Disegno DXF", ScriviDxfSu},
 }};
 
-// What the host said last. Where it speaks otherwise, only that there was a fault.
-QString MotivoHost(int errore) {
+constexpr char kDiscoPieno[] = "il disco è pieno";
+constexpr char kSenzaPermesso[] = "manca il permesso di scrivere nella cartella o sul file";
+
+// What the device has but one word for, where the host tells it apart; nothing where it does not.
+const char* MotivoHost(int errore) {
   switch (errore) {
-    case ENOENT:
-      return "la cartella non accetta file nuovi";
     case EACCES:
     case EPERM:
-      return "manca il permesso di scrivere nella cartella o sul file";
-    case EROFS:
-      return "il disco è in sola lettura";
+      return kSenzaPermesso;
     case ENOSPC:
-      return "il disco è pieno";
+      return kDiscoPieno;
     case EFBIG:
       return "il file supera la grandezza consentita";
     case ENAMETOOLONG:
@@ -131,19 +130,41 @@ QString MotivoHost(int errore) {
     case EIO:
       return "guasto del disco";
     default:
-      return "la scrittura non è riuscita";
+      return nullptr;
   }
 }
 
+// What a device says that refused, then the disk and the folder under it. `mancano`: bytes not written yet.
+QString MotivoRifiuto(const QFileDevice& file, qint64 mancano) {
+  const int errore = errno;  // before anything else is asked
+  const QFileInfo destinazione(file.fileName()), cartella(destinazione.absolutePath());
+  const QStorageInfo disco(cartella.filePath());
+  const bool senzaRisorse = file.error() == QFileDevice::ResourceError;
+  if (file.isOpen() && (senzaRisorse || (disco.isValid() && disco.bytesAvailable() < mancano)))
+    return kDiscoPieno;
+  if (senzaRisorse) return "troppi file sono aperti";
+  if (disco.isReadOnly()) return "il disco è in sola lettura";
+  if (!cartella.isWritable() || (destinazione.exists() && !destinazione.isWritable())) return kSenzaPermesso;
+  if (const char* motivo = MotivoHost(errore)) return motivo;
+  if (file.isOpen()) return "la scrittura non è riuscita";
+  if (destinazione.exists()) return "il file di prima non si può sostituire: forse lo usa un altro programma";
+  return "la cartella non accetta un file con questo nome, o manca il permesso";
+}
+
 // A device is written to as it is, a pipe might never be read; a file is replaced only once its successor is
-// whole.
+// whole. What a device takes in part it refuses, with the reason, when it is given the rest.
 template <class File>
 Motivo ScriviSu(File&& file, const QByteArray& byte) {
   errno = 0;
-  if (!file.open(QIODevice::WriteOnly) || file.write(byte) != byte.size() || !file.flush())
-    return MotivoHost(errno);
+  qint64 mancano = byte.size();
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return MotivoRifiuto(file, mancano);
+  while (mancano > 0) {
+    const qint64 scritti = file.write(byte.last(mancano));
+    if (scritti <= 0) return MotivoRifiuto(file, mancano);
+    mancano -= scritti;
+  }
   if constexpr (requires { file.commit(); })
-    if (!file.commit()) return MotivoHost(errno);
+    if (!file.commit()) return MotivoRifiuto(file, mancano);
   return std::nullopt;
 }
 

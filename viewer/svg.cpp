@@ -1,13 +1,14 @@
 // Group by group; the colour that most of a group have stands at the group.
 #include "viewer/svg.h"
 
+#include <QString>
+#include <QXmlStreamWriter>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <initializer_list>
 #include <numbers>
-#include <string_view>
+#include <variant>
 #include <vector>
 
 #include "base/numeri.h"
@@ -18,11 +19,8 @@
 namespace ostrel {
 namespace {
 
-using tarvel::Testo;
-
 // Lengths within which single precision, all that readers of SVG have to have, is safe.
-constexpr double kMassimaLunghezza = 1e30;
-constexpr double kMinimaLunghezza = 1e-30;
+constexpr double kMassimaLunghezza = 1e30, kMinimaLunghezza = 1e-30;
 constexpr double kLunghezzaRidotta = 100;
 constexpr double kMinimiPixel = 300;  // of the page's longer side, ten times as many at most
 // Lengths are written to this part of the page's longer side, nearly.
@@ -43,217 +41,219 @@ double PotenzaDiDieci(double numero, double minimo) {
   return potenza;
 }
 
-Testo Numero(double valore, double cifre) {
-  Testo testo;
+QString Numero(double valore, double cifre) {
+  tarvel::Testo testo;
   tarvel::AccodaNumero(testo, std::round(valore * cifre) / cifre, '.', true);
-  return testo;
+  return QString::fromStdString(testo);
 }
 
 // To six figures.
-Testo Misura(double valore) {
+QString Misura(double valore) {
   return Numero(valore, PotenzaDiDieci(valore, 1e5));
 }
 
-struct Attributo {
-  std::string_view nome;
-  Testo valore;
+struct Foglio {
+  Riquadro pagina;
+  double penna = 1;
+  double scala = 1;  // of the file's lengths to the drawing's
+  double cifre = 1;  // the power of ten to which they are rounded
+  double pixel = 1;  // of their unit
 };
 
-Testo Marca(std::string_view nome, std::initializer_list<Attributo> attributi) {
-  Testo marca = "<";
-  marca += nome;
-  for (const Attributo& a : attributi)
-    if (!a.valore.empty()) ((((marca += ' ') += a.nome) += "=\"") += a.valore) += '"';
-  return marca;
+Foglio Misurato(const Disegno& disegno) {
+  const Riquadro tutto = Ingombro(disegno);
+  Foglio f{.pagina = Pagina(tutto)};
+  const double massimo = tutto.Massimo();
+  if (massimo > kMassimaLunghezza || (massimo > 0 && massimo < kMinimaLunghezza))
+    f.scala = PotenzaDiDieci(massimo, kLunghezzaRidotta);
+  const double lungo = std::max(f.pagina.Larghezza(), f.pagina.Altezza());
+  f.penna = lungo / kPenne;
+  f.cifre = PotenzaDiDieci(lungo * f.scala, kFinezza);
+  f.pixel = PotenzaDiDieci(lungo * f.scala, kMinimiPixel);
+  return f;
 }
 
-Testo InXml(std::string_view testo) {
-  Testo esito;
-  for (const char c : tarvel::InUtf8(testo)) {
-    if (c == '&')
-      esito += "&amp;";
-    else if (c == '<')
-      esito += "&lt;";
-    else if (c == '>')
-      esito += "&gt;";
-    else
-      esito += c;
-  }
-  return esito;
+QString Lungo(const Foglio& foglio, double lunghezza) {
+  return Numero(lunghezza * foglio.scala, foglio.cifre);
 }
 
-Testo ColoreXml(std::size_t colore) {
-  constexpr char kCifre[] = "0123456789abcdef";
+QString Posto(const Foglio& foglio, const Coordinata& c) {
+  return Lungo(foglio, c.x) + ' ' + Lungo(foglio, -c.y);
+}
+
+struct Svg {
+  QXmlStreamWriter xml;
+  const Disegno& disegno;
+  Foglio foglio;
+  std::size_t comune = 0;  // colour of the group being written
+};
+
+void Attributi(Svg& svg, const char* nomeX, const char* nomeY, const Coordinata& c) {
+  svg.xml.writeAttribute(nomeX, Lungo(svg.foglio, c.x));
+  svg.xml.writeAttribute(nomeY, Lungo(svg.foglio, -c.y));
+}
+
+// `tinta`: what the element is coloured by, "stroke" or "fill".
+void Colora(Svg& svg, const char* tinta, std::size_t colore) {
   const tarvel::Colore c = ColoreSu(kCarta, static_cast<int>(colore));
-  Testo esito = "#";
-  for (const int parte : {c.r, c.g, c.b}) (esito += kCifre[parte / 16]) += kCifre[parte % 16];
-  return esito;
+  svg.xml.writeAttribute(tinta, QString::asprintf("#%02x%02x%02x", c.r, c.g, c.b));
+}
+
+void ColoraSeSuo(Svg& svg, const char* tinta, std::size_t colore) {
+  if (colore != svg.comune) Colora(svg, tinta, colore);
+}
+
+void Scrivi(Svg& svg, const Linea& linea, std::size_t colore) {
+  svg.xml.writeEmptyElement("line");
+  Attributi(svg, "x1", "y1", Posto(svg.disegno, linea.inizio));
+  Attributi(svg, "x2", "y2", Posto(svg.disegno, linea.fine));
+  QStringList tratti;
+  for (const double tratto : kTipiLinea[IndiceTipo(linea.tipo)].Tratti())
+    tratti << Lungo(svg.foglio, tratto * svg.foglio.penna);
+  if (!tratti.isEmpty()) svg.xml.writeAttribute("stroke-dasharray", tratti.join(' '));
+  ColoraSeSuo(svg, "stroke", colore);
+}
+
+// An arc of more than half a circle as two: its ends, written down, might be one place.
+void Scrivi(Svg& svg, const Arco& arco, std::size_t colore) {
+  const ArcoPolare p = Polare(svg.disegno, arco);
+  const QString raggio = Lungo(svg.foglio, p.raggio);
+  if (p.cerchio) {
+    svg.xml.writeEmptyElement("circle");
+    Attributi(svg, "cx", "cy", {p.x, p.y});
+    svg.xml.writeAttribute("r", raggio);
+  } else {
+    const auto posto = [&](double a) {
+      return Posto(svg.foglio, {p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a)});
+    };
+    const int parti = p.ampiezza > std::numbers::pi ? 2 : 1;
+    QString via = 'M' + posto(p.inizio);
+    for (int i = 1; i <= parti; ++i)
+      via += 'A' + raggio + ' ' + raggio + " 0 0 0 " + posto(p.inizio + p.ampiezza * i / parti);
+    svg.xml.writeEmptyElement("path");
+    svg.xml.writeAttribute("d", via);
+  }
+  ColoraSeSuo(svg, "stroke", colore);
+}
+
+void Scrivi(Svg& svg, const Punto& punto, std::size_t colore) {
+  const QString posto = Posto(svg.foglio, Posto(svg.disegno, punto.posizione));
+  const QString mezza = Lungo(svg.foglio, kMezzaCroce * svg.foglio.penna);
+  const QString intera = Lungo(svg.foglio, 2 * kMezzaCroce * svg.foglio.penna);
+  svg.xml.writeEmptyElement("path");
+  svg.xml.writeAttribute("d", QString("M%1m-%2 -%2l%3 %3m0 -%3l-%3 %3").arg(posto, mezza, intera));
+  ColoraSeSuo(svg, "stroke", colore);
+}
+
+// Scaled across to the cells by the font's own measures; where another font stands in, by its length.
+// The font's size is in nominal pixels: readers draw the outlines of very small fonts badly.
+// Blanks are kept by each text: browsers let none inherit that.
+void Scrivi(Svg& svg, const Scritta& scritta, std::size_t colore) {
+  const Foglio& f = svg.foglio;
+  const auto quanti = static_cast<double>(scritta.testo.size());
+  const double largo = scritta.base * quanti;
+  const double minimo = kMinimaScritta * f.penna;
+  const auto angoli = Angoli(svg.disegno, scritta);
+  if (scritta.altezza < minimo || largo < minimo) {
+    svg.xml.writeEmptyElement("line");
+    Attributi(svg, "x1", "y1", angoli[0]);
+    Attributi(svg, "x2", "y2", angoli[scritta.altezza < minimo ? 1 : 3]);
+    Colora(svg, "stroke", colore);
+    return;
+  }
+  const double corpo = scritta.altezza * f.scala / kMaiuscola * f.pixel;
+  const double disteso = corpo * kAvanzamento * quanti;
+  QString posa = "translate(" + Posto(f, angoli[0]) + ')';
+  if (scritta.angolo != 0) posa += " rotate(" + Numero(-scritta.angolo, 1) + ')';
+  posa += " scale(" + Misura(largo * f.scala / disteso) + ' ' + Misura(1 / f.pixel) + ')';
+  svg.xml.writeStartElement("text");
+  svg.xml.writeAttribute("transform", posa);
+  svg.xml.writeAttribute("font-size", Misura(corpo));
+  svg.xml.writeAttribute("textLength", Misura(disteso));
+  svg.xml.writeAttribute("lengthAdjust", "spacingAndGlyphs");
+  svg.xml.writeAttribute("xml:space", "preserve");
+  ColoraSeSuo(svg, "fill", colore);
+  svg.xml.writeCharacters(QString::fromStdString(tarvel::InUtf8(scritta.testo)));
+  svg.xml.writeEndElement();
 }
 
 struct Segno {
   std::size_t colore;
-  Testo marca, resto;  // between them its colour, where it is not the group's
+  std::variant<const Linea*, const Arco*, const Punto*, const Scritta*> elemento;
 };
 
-// `tinta`: whether its elements are coloured by "stroke" or by "fill".
-Testo Gruppo(std::string_view nome, std::string_view tinta, const std::vector<Segno>& segni) {
-  if (segni.empty()) return {};
-  std::array<int, kColori.size()> quanti{};
-  for (const Segno& segno : segni) ++quanti[segno.colore];
-  const auto comune =
-      static_cast<std::size_t>(std::max_element(quanti.begin(), quanti.end()) - quanti.begin());
-  Testo gruppo = Marca("g", {{"id", Testo(nome)},
-                             {tinta, ColoreXml(comune)},
-                             {tinta == "fill" ? "stroke" : "fill", "none"}}) +
-                 ">\n";
-  for (const Segno& segno : segni) {
-    gruppo += segno.marca;
-    if (segno.colore != comune) ((((gruppo += ' ') += tinta) += "=\"") += ColoreXml(segno.colore)) += '"';
-    gruppo += segno.resto;
-  }
-  return gruppo += "</g>\n";
+struct Gruppo {
+  const char* nome;
+  const char *tinta, *senza;  // what its elements are coloured by, what they lack
+  std::vector<Segno> segni;
+};
+
+// One over the other, as on the screen.
+std::array<Gruppo, 4> Raggruppa(const Disegno& disegno) {
+  std::array<Gruppo, 4> gruppi = {{{"quote", "stroke", "fill", {}},
+                                   {"contorno", "stroke", "fill", {}},
+                                   {"valori", "fill", "stroke", {}},
+                                   {"testi", "fill", "stroke", {}}}};
+  auto &quote = gruppi[0].segni, &contorno = gruppi[1].segni;
+  auto &valori = gruppi[2].segni, &testi = gruppi[3].segni;
+  const auto segni = [&](Livello l) -> auto& {
+    return l == Livello::Contorno ? contorno : quote;
+  };
+  const auto livelli = LivelliLinee(disegno);
+  for (std::size_t i = 0; i < livelli.size(); ++i)
+    segni(livelli[i]).push_back({IndiceColore(disegno.linee[i].colore), &disegno.linee[i]});
+  for (const Arco& arco : disegno.archi)
+    segni(LivelloArco(disegno, arco)).push_back({IndiceColore(arco.colore), &arco});
+  for (const Punto& punto : disegno.punti) contorno.push_back({tarvel::disegno::kBianco, &punto});
+  for (const Scritta& s : disegno.scritte)
+    if (!s.testo.empty())
+      (LivelloScritta(s) == Livello::Quote ? valori : testi).push_back({IndiceColore(s.colore), &s});
+  return gruppi;
 }
 
-class Foglio {
- public:
-  explicit Foglio(const Disegno& disegno) : d_(disegno) {
-    const Riquadro tutto = Ingombro(disegno);
-    const double massimo = tutto.Massimo();
-    if (massimo > kMassimaLunghezza || (massimo > 0 && massimo < kMinimaLunghezza))
-      scala_ = PotenzaDiDieci(massimo, kLunghezzaRidotta);
-    const Riquadro pagina = Pagina(tutto);
-    sinistra_ = pagina.x0 * scala_;
-    alto_ = -pagina.y1 * scala_;
-    larghezza_ = pagina.Larghezza() * scala_;
-    altezza_ = pagina.Altezza() * scala_;
-    const double lungo = std::max(larghezza_, altezza_);
-    cifre_ = PotenzaDiDieci(lungo, kFinezza);
-    pixel_ = PotenzaDiDieci(lungo, kMinimiPixel);
-    penna_ = lungo / kPenne;
-  }
-
-  Testo Scrivi() {
-    const auto livelli = LivelliLinee(d_);
-    for (std::size_t i = 0; i < d_.linee.size(); ++i) Metti(d_.linee[i], Segni(livelli[i]));
-    for (const Arco& arco : d_.archi) Metti(arco, Segni(LivelloArco(d_, arco)));
-    for (const Punto& punto : d_.punti) Metti(punto);
-    for (const Scritta& s : d_.scritte)
-      if (!s.testo.empty()) Metti(s, LivelloScritta(s) == Livello::Quote ? valori_ : testi_);
-
-    const Testo x = Lungo(sinistra_), y = Lungo(alto_), w = Lungo(larghezza_), h = Lungo(altezza_);
-    Testo svg = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-    svg += Marca("svg", {{"xmlns", "http://www.w3.org/2000/svg"},
-                         {"width", Misura(larghezza_ * pixel_)},
-                         {"height", Misura(altezza_ * pixel_)},
-                         {"viewBox", x + ' ' + y + ' ' + w + ' ' + h},
-                         {"stroke-width", Lungo(penna_)},
-                         {"font-family", kCarattere}}) +
-           ">\n";
-    if (!d_.scritte.empty()) svg += "<title>" + InXml(d_.scritte.front().testo) + "</title>\n";
-    svg += Marca("rect", {{"x", x}, {"y", y}, {"width", w}, {"height", h}, {"fill", "#ffffff"}}) + "/>\n";
-    // One over the other, as on the screen.
-    svg += Gruppo("quote", "stroke", quote_);
-    svg += Gruppo("contorno", "stroke", contorno_);
-    svg += Gruppo("valori", "fill", valori_);
-    svg += Gruppo("testi", "fill", testi_);
-    return svg += "</svg>\n";
-  }
-
- private:
-  std::vector<Segno>& Segni(Livello livello) { return livello == Livello::Contorno ? contorno_ : quote_; }
-  Testo Lungo(double v) const { return Numero(v, cifre_); }
-  Testo X(double x) const { return Lungo(x * scala_); }
-  Testo Y(double y) const { return Lungo(-y * scala_); }
-
-  void Metti(const Linea& linea, std::vector<Segno>& segni) const {
-    const Coordinata &da = Posto(d_, linea.inizio), &a = Posto(d_, linea.fine);
-    Testo tratti;
-    for (const double tratto : kTipiLinea[IndiceTipo(linea.tipo)].Tratti())
-      (tratti += tratti.empty() ? "" : " ") += Lungo(tratto * penna_);
-    segni.push_back({IndiceColore(linea.colore),
-                     Marca("line", {{"x1", X(da.x)},
-                                    {"y1", Y(da.y)},
-                                    {"x2", X(a.x)},
-                                    {"y2", Y(a.y)},
-                                    {"stroke-dasharray", tratti}}),
-                     "/>\n"});
-  }
-
-  // An arc of more than half a circle as two: its ends, written down, might be one place.
-  void Metti(const Arco& arco, std::vector<Segno>& segni) const {
-    const ArcoPolare p = Polare(d_, arco);
-    const Testo raggio = Lungo(p.raggio * scala_);
-    Testo marca;
-    if (p.cerchio) {
-      marca = Marca("circle", {{"cx", X(p.x)}, {"cy", Y(p.y)}, {"r", raggio}});
-    } else {
-      const auto posto = [&](double a) {
-        return X(p.x + p.raggio * std::cos(a)) + ' ' + Y(p.y + p.raggio * std::sin(a));
-      };
-      const int parti = p.ampiezza > std::numbers::pi ? 2 : 1;
-      Testo via = 'M' + posto(p.inizio);
-      const Testo tratto = 'A' + raggio + ' ' + raggio + " 0 0 0 ";
-      for (int i = 1; i <= parti; ++i) (via += tratto) += posto(p.inizio + p.ampiezza * i / parti);
-      marca = Marca("path", {{"d", via}});
-    }
-    segni.push_back({IndiceColore(arco.colore), marca, "/>\n"});
-  }
-
-  void Metti(const Punto& punto) {
-    const Coordinata& c = Posto(d_, punto.posizione);
-    const Testo mezza = Lungo(kMezzaCroce * penna_), intera = Lungo(2 * kMezzaCroce * penna_);
-    const Testo via = 'M' + X(c.x) + ' ' + Y(c.y) + 'm' + '-' + mezza + " -" + mezza + 'l' + intera + ' ' +
-                      intera + "m0 -" + intera + "l-" + intera + ' ' + intera;
-    contorno_.push_back({tarvel::disegno::kBianco, Marca("path", {{"d", via}}), "/>\n"});
-  }
-
-  // Scaled across to the cells by the font's own measures; where another font stands in, by its length.
-  // The font's size is in nominal pixels: readers draw the outlines of very small fonts badly.
-  // Blanks are kept by each text: browsers let none inherit that.
-  void Metti(const Scritta& scritta, std::vector<Segno>& segni) const {
-    const std::size_t colore = IndiceColore(scritta.colore);
-    const double altezza = scritta.altezza * scala_;
-    const double largo = scritta.base * static_cast<double>(scritta.testo.size()) * scala_;
-    const double minimo = kMinimaScritta * penna_;
-    const auto angoli = Angoli(d_, scritta);
-    if (altezza < minimo || largo < minimo) {
-      const Coordinata& a = angoli[altezza < minimo ? 1 : 3];
-      segni.push_back({colore,
-                       Marca("line", {{"x1", X(angoli[0].x)},
-                                      {"y1", Y(angoli[0].y)},
-                                      {"x2", X(a.x)},
-                                      {"y2", Y(a.y)},
-                                      {"stroke", ColoreXml(colore)}}),
-                       "/>\n"});
-      return;
-    }
-    const double corpo = altezza / kMaiuscola * pixel_;
-    const double disteso = corpo * kAvanzamento * static_cast<double>(scritta.testo.size());
-    Testo posa = "translate(" + X(angoli[0].x) + ' ' + Y(angoli[0].y) + ')';
-    if (scritta.angolo != 0) posa += " rotate(" + Numero(-scritta.angolo, 1) + ')';
-    posa += " scale(" + Misura(largo / disteso) + ' ' + Misura(1 / pixel_) + ')';
-    segni.push_back({colore,
-                     Marca("text", {{"transform", posa},
-                                    {"font-size", Misura(corpo)},
-                                    {"textLength", Misura(disteso)},
-                                    {"lengthAdjust", "spacingAndGlyphs"},
-                                    {"xml:space", "preserve"}}),
-                     '>' + InXml(scritta.testo) + "</text>\n"});
-  }
-
-  const Disegno& d_;
-  double scala_ = 1;  // of the file's lengths to the drawing's
-  double sinistra_, alto_, larghezza_, altezza_;
-  double cifre_;  // the power of ten to which lengths are rounded
-  double pixel_;  // of a length's unit
-  double penna_;
-  std::vector<Segno> quote_, valori_, contorno_, testi_;
-};
+void Scrivi(Svg& svg, const Gruppo& gruppo) {
+  if (gruppo.segni.empty()) return;
+  std::array<int, kColori.size()> quanti{};
+  for (const Segno& segno : gruppo.segni) ++quanti[segno.colore];
+  svg.comune = static_cast<std::size_t>(std::max_element(quanti.begin(), quanti.end()) - quanti.begin());
+  svg.xml.writeStartElement("g");
+  svg.xml.writeAttribute("id", gruppo.nome);
+  Colora(svg, gruppo.tinta, svg.comune);
+  svg.xml.writeAttribute(gruppo.senza, "none");
+  for (const Segno& segno : gruppo.segni)
+    std::visit([&](const auto* elemento) { Scrivi(svg, *elemento, segno.colore); }, segno.elemento);
+  svg.xml.writeEndElement();
+}
 
 }  // namespace
 
-Testo ScriviSvg(const Disegno& disegno) {
-  return Foglio(disegno).Scrivi();
+QByteArray ScriviSvg(const Disegno& disegno) {
+  QByteArray byte;
+  Svg svg{QXmlStreamWriter(&byte), disegno, Misurato(disegno)};
+  QXmlStreamWriter& xml = svg.xml;
+  const Foglio& f = svg.foglio;
+  const Coordinata angolo{f.pagina.x0, f.pagina.y1};
+  const QString larghezza = Lungo(f, f.pagina.Larghezza()), altezza = Lungo(f, f.pagina.Altezza());
+  xml.setAutoFormatting(true);
+  xml.setAutoFormattingIndent(0);
+  xml.writeStartDocument();
+  xml.writeStartElement("svg");
+  xml.writeDefaultNamespace("http://www.w3.org/2000/svg");
+  xml.writeAttribute("width", Misura(f.pagina.Larghezza() * f.scala * f.pixel));
+  xml.writeAttribute("height", Misura(f.pagina.Altezza() * f.scala * f.pixel));
+  xml.writeAttribute("viewBox", Posto(f, angolo) + ' ' + larghezza + ' ' + altezza);
+  xml.writeAttribute("stroke-width", Lungo(f, f.penna));
+  xml.writeAttribute("font-family", kCarattere);
+  if (!disegno.scritte.empty())
+    xml.writeTextElement("title", QString::fromStdString(tarvel::InUtf8(disegno.scritte.front().testo)));
+  xml.writeEmptyElement("rect");
+  Attributi(svg, "x", "y", angolo);
+  xml.writeAttribute("width", larghezza);
+  xml.writeAttribute("height", altezza);
+  xml.writeAttribute("fill", "#ffffff");
+  for (const Gruppo& gruppo : Raggruppa(disegno)) Scrivi(svg, gruppo);
+  xml.writeEndDocument();
+  return byte;
 }
 
 }  // namespace ostrel

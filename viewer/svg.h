@@ -1,7 +1,8 @@
 // The drawing for browsers and drawing programs, as an SVG file.
 #pragma once
 
-#include "base/testo.h"
+#include <QByteArray>
+
 #include "viewer/disegno.h"
 
 namespace ostrel {
@@ -11,6 +12,6 @@ namespace ostrel {
 /// power of ten of pixels to the unit. The groups are "quote", "contorno",
 /// "valori" (of the dimensions) and "testi": one line, circle, path or text for each element of the drawing,
 /// coloured as on paper.
-tarvel::Testo ScriviSvg(const Disegno& disegno);
+QByteArray ScriviSvg(const Disegno& disegno);
 
 }  // namespace ostrel
