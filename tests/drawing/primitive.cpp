@@ -185,12 +185,12 @@ TEST_F(Quote, ValorePostoEAngoloDellEtichetta) {
 
 TEST_F(Quote, LeEtichetteLungheSiAlternano) {
   StileQuota stile = kStile;
-  stile.base = 6;  // a label of two characters does not fit a length of 10
-  const std::vector<Reale> ascisse = {0, 10, 20, 30, 130, 140, 240};
+  stile.base = 6;  // a label of two characters just fits a length of 12
+  const std::vector<Reale> ascisse = {0, 12, 22, 32, 132, 142, 242};
   CatenaQuote(EtichetteCatena::Misure, ascisse, 0, stile);
   Quota({0, 0}, {10, 0}, stile);  // outside a chain it stays on its side
   ASSERT_EQ(Disegno.Testi.numero, 7);
-  const double attese[] = {-5, 3, -5, 3, -5, 3, 3};
+  const double attese[] = {3, -5, 3, 3, -5, 3, 3};
   for (std::int32_t i = 0; i < 7; ++i) EXPECT_EQ(Punto(Disegno.Testi[i].posizione).y, attese[i]) << i;
 
   Azzera();
