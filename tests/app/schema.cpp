@@ -37,5 +37,11 @@ TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
         << "Line1(" << e.linea << ") at " << e.x << ", " << e.y;
 }
 
+TEST(Schema, AltezzeNereBasiBluPendenzeVerdi) {
+  const auto caselle = CaselleSchema();
+  for (std::size_t i = 0; i < caselle.size(); ++i)
+    EXPECT_EQ(caselle[i].colore, i < 9 ? kNero : i < 16 ? Colore(0, 0, 255) : Colore(0, 128, 0)) << i;
+}
+
 }  // namespace
 }  // namespace tarvel
