@@ -15,6 +15,7 @@
 #include "platform/qt/gestori.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/schermo.h"
+#include "platform/qt/sistema.h"
 
 namespace tarvel {
 namespace {
@@ -40,10 +41,7 @@ Testo RigaComando() {
 void PreparaDesktop(int argc, char** argv, const Form& principale) {
   rigaComando = UnisciArgomenti({argv + 1, argv + argc});
 
-  // Keys for the viewer go through X11, natively or by the X server that Wayland desktops run.
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
-    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-
+  ScegliAmbiente();
   // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,
   // and so does the application object, which the process's end takes away.
   static int solo = 1;
