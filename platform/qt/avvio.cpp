@@ -3,9 +3,7 @@
 
 #include <QApplication>
 #include <QFont>
-#include <QLibraryInfo>
 #include <QPalette>
-#include <QTranslator>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -51,9 +49,6 @@ void PreparaDesktop(int argc, char** argv, const Form& principale) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle("Fusion");
   QApplication::setPalette(Chiara());
-  auto* italiano = new QTranslator(qApp);
-  if (italiano->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    QApplication::installTranslator(italiano);
 
   ScegliScala(principale);
   QFont messaggi = QApplication::font();
