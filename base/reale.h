@@ -6,6 +6,7 @@
 #include <compare>
 
 #include "base/potenza.h"
+#include "base/trascendenti.h"
 
 namespace tarvel {
 
@@ -42,15 +43,13 @@ class Reale {
   friend constexpr Reale Potenza(Reale x, int esponente) {
     return Esito(tarvel::Potenza(x.valore_, esponente));
   }
-  // These are the C library's, whose last bit may differ from one system to the next: the logarithm
-  // reaches Jt, the trigonometry the drawn texts.
   friend Reale Logaritmo(Reale x) {
     if (x.valore_ <= 0) ErroreNonValida("logaritmo di un numero non positivo");
-    return Diretto(std::log(x.valore_));
+    return Diretto(tarvel::Logaritmo(x.valore_));
   }
-  friend Reale Seno(Reale radianti) { return Diretto(std::sin(radianti.valore_)); }
-  friend Reale Coseno(Reale radianti) { return Diretto(std::cos(radianti.valore_)); }
-  friend Reale Arcotangente(Reale x) { return Diretto(std::atan(x.valore_)); }
+  friend Reale Seno(Reale radianti) { return Diretto(tarvel::Seno(radianti.valore_)); }
+  friend Reale Coseno(Reale radianti) { return Diretto(tarvel::Coseno(radianti.valore_)); }
+  friend Reale Arcotangente(Reale x) { return Diretto(tarvel::Arcotangente(x.valore_)); }
 
   friend Reale Pavimento(Reale x) { return Diretto(std::floor(x.valore_)); }
   friend Reale Assoluto(Reale x) { return Diretto(std::fabs(x.valore_)); }

@@ -25,8 +25,8 @@ struct Ospite {
 
   /// Regular files only: what has no end, or waits for another program, cannot be opened.
   std::optional<Maniglia> (*ApriLettura)(const std::string& percorso);
-  /// Created, or truncated in place: owner, permissions and links stay. Regular files and devices
-  /// that take characters; never waits.
+  /// Created, or truncated in place: owner, permissions and links stay. Regular files and, where devices
+  /// are files of a folder, those that take characters; never waits.
   std::optional<Maniglia> (*ApriScrittura)(const std::string& percorso);
 
   /// How many bytes were read, 0 at the end; nothing for a fault.

@@ -1,10 +1,11 @@
 // The program on the scripted desktop.
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
+#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "app/tarvel1.h"
@@ -30,11 +31,11 @@ bool PuoStareInNumero(char c) {
   return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '+' || c == '-' || c == '&' || c == ' ';
 }
 
-std::optional<Opzioni> LeggiArgomenti(const std::vector<std::string_view>& argomenti) {
+std::optional<Opzioni> LeggiArgomenti(std::span<const std::string> argomenti) {
   Opzioni opzioni;
   auto a = argomenti.begin();
   for (; a != argomenti.end() && a->starts_with('-'); ++a) {
-    const std::string_view nome = *a;
+    const std::string& nome = *a;
     if (nome == "--") {
       ++a;
       break;
@@ -55,18 +56,21 @@ std::optional<Opzioni> LeggiArgomenti(const std::vector<std::string_view>& argom
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc == 2 && std::string_view(argv[1]) == "--version") {
+  PreparaFlussi();
+  const std::vector<std::string> argomenti = Argomenti(argc, argv);
+  if (argomenti.size() == 1 && argomenti[0] == "--version") {
     std::cout << "tarvel1-headless " VERSIONE "\n";
     return 0;
   }
-  const auto opzioni = LeggiArgomenti({argv + 1, argv + argc});
+  const auto opzioni = LeggiArgomenti(argomenti);
   if (!opzioni) {
     std::cerr << kUso;
     return kUsoErrato;
   }
   std::ifstream file;
   if (opzioni->copione) {
-    file.open(*opzioni->copione, std::ios::binary);
+    file.open(std::filesystem::path(std::u8string(opzioni->copione->begin(), opzioni->copione->end())),
+              std::ios::binary);
     file.peek();
     if (!file.is_open() || file.bad()) {
       std::cerr << "tarvel1-headless: cannot read the script " << *opzioni->copione << '\n';

@@ -37,7 +37,7 @@ Testo RigaComando() {
 }
 
 void PreparaDesktop(int argc, char** argv, const Form& principale) {
-  rigaComando = UnisciArgomenti({argv + 1, argv + argc});
+  rigaComando = RigaComandoPassata(argc, argv);
 
   ScegliAmbiente();
   // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,

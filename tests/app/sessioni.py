@@ -30,6 +30,8 @@ import tempfile
 from installazione import ESEMPIO, installa
 
 QUI = os.path.dirname(os.path.realpath(__file__))
+# What a program for another system is run with.
+EMULATORE = shlex.split(os.environ.get("TARVEL_EMULATORE", ""))
 CODICE = {"encoding": "utf-8", "errors": "surrogateescape", "newline": ""}
 
 
@@ -129,7 +131,7 @@ class Sessione:
         return f"(line {n}: {x!r}, in {altro} {y!r})\n"
 
     def recita(self, programma):
-        comando = [os.path.abspath(programma), "--script", self.copione, *shlex.split(self.opzioni), "--",
+        comando = [*EMULATORE, os.path.abspath(programma), "--script", self.copione, *shlex.split(self.opzioni), "--",
                    self.argomento.replace("{radice}", self.radice)]
         esito = subprocess.run(comando, cwd=self.posto("driver"), stdin=subprocess.DEVNULL, timeout=120,
                                capture_output=True)

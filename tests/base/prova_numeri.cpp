@@ -140,6 +140,28 @@ TEST(Numeri, PotenzeArrotondateUnaVolta) {
   for (const auto& c : casi) EXPECT_EQ(Potenza(Reale(c.x), c.n), c.atteso) << c.x << " alla " << c.n;
 }
 
+// The nearest double, also where it is hard to tell (C libraries give the other neighbour for the first of
+// each) and where digits cancel: near a multiple of pi, for a large angle, for the smallest number.
+TEST(Numeri, TrascendentiAlDoppioPiuVicino) {
+  const struct {
+    double (*funzione)(double);
+    double x, atteso;
+  } casi[] = {
+      {Logaritmo, 1.0652, 0x1.02b6c29c632ccp-4},
+      {Logaritmo, 1500.25, 0x1.d40e8883cebcdp+2},
+      {Logaritmo, 5e-324, -0x1.74385446d71c3p+9},
+      {Logaritmo, 1, 0},
+      {Seno, 261.7412, -0x1.abc453aa931c1p-1},
+      {Seno, 3.141592653589793, 0x1.1a62633145c07p-53},
+      {Coseno, -390.8898, 0x1.e3cd26b3a6101p-3},
+      {Coseno, 1e12, 0x1.9538731dff223p-1},
+      {Arcotangente, -4.8845, -0x1.5e6d734507bc3p+0},
+      {Arcotangente, 1e300, 0x1.921fb54442d18p+0},
+      {Arcotangente, 1e-10, 1e-10},
+  };
+  for (const auto& c : casi) EXPECT_EQ(c.funzione(c.x), c.atteso) << c.x;
+}
+
 TipoErrore ErroreDi(const std::function<void()>& f) {
   try {
     f();

@@ -20,7 +20,8 @@ class UtenteHeadless : public Utente {
 
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
-    headless::ImpostaRigaComando(UnisciArgomenti({std::begin(kArgomenti), std::end(kArgomenti)}));
+    headless::ImpostaRigaComando(
+        UnisciArgomenti(std::vector<std::string>(std::begin(kArgomenti), std::end(kArgomenti))));
     headless::ImpostaDecimale(',');
     esito.stato = headless::Avvia(
         principale, {[&] { Agisce(); }, [&](const headless::Messaggio& m) { return Risponde(m); }});

@@ -1,0 +1,115 @@
+// Files of Windows.
+#include "platform/ospite.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+#include "platform/comune/windows/largo.h"
+
+namespace tarvel {
+namespace {
+
+HANDLE Di(Ospite::Maniglia file) {
+  return reinterpret_cast<HANDLE>(file);
+}
+
+// A handle, where what was opened is a file of a disk: a device (CON, NUL, a port) would swallow a drawing
+// of its name, or wait for ever.
+std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DWORD condiviso, DWORD come) {
+  const HANDLE file =
+      CreateFileW(Largo(percorso).c_str(), modo, condiviso, nullptr, come, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+  if (GetFileType(file) == FILE_TYPE_DISK) return reinterpret_cast<Ospite::Maniglia>(file);
+  CloseHandle(file);
+  return std::nullopt;
+}
+
+TipoVoce Genere(const std::string& percorso) {
+  const DWORD attributi = GetFileAttributesW(Largo(percorso).c_str());
+  if (attributi == INVALID_FILE_ATTRIBUTES) {
+    const DWORD errore = GetLastError();
+    return errore == ERROR_FILE_NOT_FOUND || errore == ERROR_PATH_NOT_FOUND || errore == ERROR_INVALID_NAME ||
+                   errore == ERROR_BAD_PATHNAME || errore == ERROR_INVALID_DRIVE
+               ? TipoVoce::Assente
+               : TipoVoce::Ignota;
+  }
+  if ((attributi & FILE_ATTRIBUTE_DIRECTORY) != 0) return TipoVoce::Cartella;
+  return (attributi & FILE_ATTRIBUTE_DEVICE) != 0 ? TipoVoce::Altro : TipoVoce::File;
+}
+
+std::optional<std::vector<std::string>> Elenco(const std::string& cartella) {
+  WIN32_FIND_DATAW voce;
+  const HANDLE ricerca = FindFirstFileW(Largo(cartella + "\\*").c_str(), &voce);
+  if (ricerca == INVALID_HANDLE_VALUE) return std::nullopt;
+  std::vector<std::string> nomi;
+  do nomi.push_back(DaLargo(voce.cFileName));
+  while (FindNextFileW(ricerca, &voce) != 0);
+  const bool tutti = GetLastError() == ERROR_NO_MORE_FILES;
+  FindClose(ricerca);
+  if (!tutti) return std::nullopt;
+  return nomi;
+}
+
+std::optional<Ospite::Maniglia> ApriLettura(const std::string& percorso) {
+  // Whoever writes the file meanwhile, or renames it, is not kept from it.
+  return Apri(percorso, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
+}
+
+std::optional<Ospite::Maniglia> ApriScrittura(const std::string& percorso) {
+  // CREATE_ALWAYS would take a hidden file for one that must not be written; emptying keeps what it is.
+  const auto file = Apri(percorso, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+  if (!file || SetEndOfFile(Di(*file)) != 0) return file;
+  CloseHandle(Di(*file));
+  return std::nullopt;
+}
+
+std::optional<std::size_t> Leggi(Ospite::Maniglia file, std::span<char> posto) {
+  DWORD letti = 0;
+  if (ReadFile(Di(file), posto.data(), static_cast<DWORD>(posto.size()), &letti, nullptr) == 0)
+    return std::nullopt;
+  return letti;
+}
+
+bool Scrivi(Ospite::Maniglia file, std::string_view byte) {
+  constexpr std::size_t kMassimo = 1U << 30;  // a call counts them in 32 bits
+  while (!byte.empty()) {
+    DWORD scritti = 0;
+    const auto quanti = static_cast<DWORD>(std::min(byte.size(), kMassimo));
+    if (WriteFile(Di(file), byte.data(), quanti, &scritti, nullptr) == 0 || scritti == 0) return false;
+    byte.remove_prefix(scritti);
+  }
+  return true;
+}
+
+bool SulDisco(Ospite::Maniglia file) {
+  return FlushFileBuffers(Di(file)) != 0;
+}
+
+bool Chiudi(Ospite::Maniglia file) {
+  return CloseHandle(Di(file)) != 0;
+}
+
+bool Rinomina(const std::string& da, const std::string& a) {
+  return MoveFileExW(Largo(da).c_str(), Largo(a).c_str(),
+                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+bool Togli(const std::string& percorso) {
+  return DeleteFileW(Largo(percorso).c_str()) != 0;
+}
+
+}  // namespace
+
+const Ospite kOspiteSistema = {.Genere = Genere,
+                               .Elenco = Elenco,
+                               .ApriLettura = ApriLettura,
+                               .ApriScrittura = ApriScrittura,
+                               .Leggi = Leggi,
+                               .Scrivi = Scrivi,
+                               .SulDisco = SulDisco,
+                               .Chiudi = Chiudi,
+                               .Rinomina = Rinomina,
+                               .Togli = Togli};
+
+}  // namespace tarvel
