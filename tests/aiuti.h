@@ -49,29 +49,21 @@ inline RecordSezione Costruita(const VettoreParametri& p) {
 /// least: the edge formulas lose digits on steeper ones.
 inline VettoreParametri Casuale(std::mt19937& caso, bool simmetrica) {
   const auto tra = [&](double a, double b) { return std::uniform_real_distribution<double>(a, b)(caso); };
-  const double L = tra(600, 1800), sbalzo = L * tra(0.12, 0.22), p0 = tra(120, 400);
-  const double p16 = tra(-4, 4), p17 = tra(-4, 4);
-  return Vettore({p0,
-                  p0 * tra(0.08, 0.15),
-                  tra(12, 25),
-                  tra(26, 35),
-                  tra(36, 48),
-                  tra(36, 55),
-                  tra(22, 35),
-                  tra(20, 30),
-                  p0 * tra(0.05, 0.12),
-                  sbalzo,
-                  L * tra(0.01, 0.05),
-                  L * tra(0.03, 0.06),
-                  L * tra(0.08, 0.12),
-                  L * tra(0.03, 0.06),
-                  L * tra(0.02, 0.05),
-                  L,
-                  p16,
-                  p17,
-                  simmetrica ? -p17 : tra(-4, 4),
-                  simmetrica ? -p16 : tra(-4, 4),
-                  tra(2, 30)});
+  const double L = tra(600, 1800), H = tra(120, 400);
+  const struct {
+    double unita, da, a;
+  } limiti[] = {
+      {H, 1, 1},     {H, .08, .15}, {1, 12, 25},   {1, 26, 35},   {1, 36, 48},   {1, 36, 55},   {1, 22, 35},
+      {1, 20, 30},   {H, .05, .12}, {L, .12, .22}, {L, .01, .05}, {L, .03, .06}, {L, .08, .12}, {L, .03, .06},
+      {L, .02, .05}, {L, 1, 1},     {1, -4, 4},    {1, -4, 4},    {1, -4, 4},    {1, -4, 4},    {1, 2, 30},
+  };
+  VettoreParametri p;
+  for (int i = 0; i < kNumParametri; ++i) p[i] = limiti[i].unita * tra(limiti[i].da, limiti[i].a);
+  if (simmetrica) {
+    p[kPendenzaColmoDestra] = -p[kPendenzaColmoSinistra];
+    p[kPendenzaDestra] = -p[kPendenzaSinistra];
+  }
+  return p;
 }
 
 class Cartella {

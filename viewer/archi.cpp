@@ -11,7 +11,6 @@
 #include <numbers>
 #include <vector>
 
-#include "viewer/tavolozza.h"
 #include "viewer/tratti.h"
 
 namespace ostrel {
@@ -128,7 +127,8 @@ class PitturaArchi {
   void Ruvidi() {
     Velo velo(visibile_, fondo_);
     std::array<QRgb, kColori.size()> colori{};
-    for (std::size_t i = 0; i < colori.size(); ++i) colori[i] = ColoreSu(fondo_, static_cast<int>(i)).rgb();
+    for (std::size_t i = 0; i < colori.size(); ++i)
+      colori[i] = InQt(ColoreSu(fondo_.colore, static_cast<int>(i))).rgb();
     for (const Arco& arco : d_.archi) {
       const ArcoPolare polare = Polare(d_, arco);
       if (!Tocca(vista_.Verso(polare.x, polare.y), polare.raggio * vista_.scala, campo_)) continue;

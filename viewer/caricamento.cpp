@@ -44,7 +44,7 @@ Caricato Rifiutato(const std::string& percorso, const std::string& motivo, bool 
 }  // namespace
 
 Caricato Carica(const std::string& percorso) {
-  const fs::path file(percorso);
+  const fs::path file(std::u8string(percorso.begin(), percorso.end()));
   std::error_code errore;
   const fs::file_status genere = fs::status(file, errore);
   if (!fs::exists(genere)) return Rifiutato(percorso, "il disegno non esiste");

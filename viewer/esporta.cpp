@@ -10,7 +10,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSaveFile>
-#include <QSvgGenerator>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -20,13 +19,12 @@
 #include "viewer/dxf.h"
 #include "viewer/misure.h"
 #include "viewer/pittura.h"
+#include "viewer/svg.h"
 
 namespace ostrel {
 namespace {
 
 constexpr int kLatoPng = 2000;  // pixels of the longer side
-constexpr int kLatoSvg = 1000;
-constexpr double kMinimaForma = 0.2;  // shorter to longer side, however slender the drawing
 constexpr double kPuntiPollice = 72;
 constexpr double kSpessoreCarta = 0.7;  // points
 constexpr double kMargineCarta = 10;    // millimetres
@@ -37,12 +35,10 @@ bool Orizzontale(const Riquadro& tutto) {
   return tutto.Larghezza() >= tutto.Altezza();
 }
 
-QSize Formato(const Riquadro& tutto, int lato) {
-  const double lungo = std::max(tutto.Larghezza(), tutto.Altezza());
-  const double corto = std::min(tutto.Larghezza(), tutto.Altezza());
-  const double forma = lungo > 0 ? std::max(corto / lungo, kMinimaForma) : 1;
-  const QSize formato(lato, qRound(lato * forma));
-  return Orizzontale(tutto) ? formato : formato.transposed();
+QSize FormatoPng(const Disegno& disegno) {
+  const Riquadro pagina = Pagina(Ingombro(disegno));
+  const double lungo = std::max(pagina.Larghezza(), pagina.Altezza());
+  return {qRound(kLatoPng * (pagina.Larghezza() / lungo)), qRound(kLatoPng * (pagina.Altezza() / lungo))};
 }
 
 void DipingiSuCarta(QPainter& pittore, const Disegno& disegno, const QRectF& foglio, double spessore) {
@@ -59,7 +55,7 @@ Motivo SeManca(bool riuscito) {
 
 Motivo ScriviPng(const Disegno& disegno, QIODevice& uscita) {
   constexpr double kSpessore = 2;
-  QImage immagine(Formato(Ingombro(disegno), kLatoPng), QImage::Format_RGB32);
+  QImage immagine(FormatoPng(disegno), QImage::Format_RGB32);
   immagine.fill(Qt::white);
   QPainter pittore(&immagine);
   DipingiSuCarta(pittore, disegno, immagine.rect(), kSpessore);
@@ -67,18 +63,13 @@ Motivo ScriviPng(const Disegno& disegno, QIODevice& uscita) {
   return SeManca(!immagine.isNull() && immagine.save(&uscita, "PNG"));
 }
 
-Motivo ScriviSvg(const Disegno& disegno, QIODevice& uscita) {
-  const QSize formato = Formato(Ingombro(disegno), kLatoSvg);
-  QSvgGenerator svg;
-  svg.setOutputDevice(&uscita);
-  svg.setSize(formato);
-  svg.setViewBox(QRect({0, 0}, formato));
-  svg.setTitle(kCreatore);
-  QPainter pittore;
-  if (!pittore.begin(&svg)) return kSenzaMemoria;
-  pittore.fillRect(QRect({0, 0}, formato), Qt::white);
-  DipingiSuCarta(pittore, disegno, QRectF({0, 0}, formato), 1);
-  return SeManca(pittore.end());
+Motivo Copia(const std::string& testo, QIODevice& uscita) {
+  const auto quanti = static_cast<qint64>(testo.size());
+  return SeManca(uscita.write(testo.data(), quanti) == quanti);
+}
+
+Motivo ScriviSvgSu(const Disegno& disegno, QIODevice& uscita) {
+  return Copia(ScriviSvg(disegno), uscita);
 }
 
 // Any device that counts in pages: a PDF file or a printer.
@@ -106,8 +97,7 @@ Motivo ScriviPdf(const Disegno& disegno, QIODevice& uscita) {
 Motivo ScriviDxfSu(const Disegno& disegno, QIODevice& uscita) {
   const auto dxf = ScriviDxf(disegno);
   if (!dxf) return "il disegno ha misure che superano il massimo numero rappresentabile";
-  return SeManca(uscita.write(dxf->data(), static_cast<qint64>(dxf->size())) ==
-                 static_cast<qint64>(dxf->size()));
+  return Copia(*dxf, uscita);
 }
 
 struct Genere {
@@ -117,7 +107,7 @@ struct Genere {
 };
 constexpr std::array<Genere, 4> kGeneri = {{
     {"png", "Immagine PNG", ScriviPng},
-    {"svg", "Disegno SVG", ScriviSvg},
+    {"svg", "Disegno SVG", ScriviSvgSu},
     {"pdf", "Documento PDF", ScriviPdf},
     {"dxf", "Disegno DXF", ScriviDxfSu},
 }};

@@ -2,6 +2,7 @@
 #include "viewer/finestra.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -91,7 +92,8 @@ void Finestra::CreaMenu() {
 }
 
 void Finestra::Apri(const QString& percorso) {
-  percorso_ = percorso;
+  // As the watch reports paths on every host.
+  percorso_ = QDir::fromNativeSeparators(percorso);
   daAdattare_ = true;
   Ricarica();
 }

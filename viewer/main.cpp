@@ -65,11 +65,12 @@ int MostraInFinestra(const QStringList& argomenti, bool sorveglia) {
 }
 
 int Esegui(int argc, char** argv) {
-  // An export needs no display, nor does it look for one.
+  // An export needs no display, nor does it look for one. Where the toolkit came without its plugin for
+  // that, the host's own will do.
   const bool esporta = std::any_of(argv, argv + argc, [](const char* argomento) {
     return std::strncmp(argomento, "--esporta", std::strlen("--esporta")) == 0;
   });
-  if (esporta) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (esporta) qputenv("QT_QPA_PLATFORM", "offscreen;windows");
   const auto applicazione = tarvel::ApreSchermo(argc, argv);
 
   QCommandLineParser riga;

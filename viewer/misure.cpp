@@ -15,6 +15,7 @@ constexpr double kTolleranza = 1e-4;
 // Powers of two between which squares and sums, and views that magnify them, stay finite.
 constexpr int kMassimoEsponente = 332;
 constexpr int kMinimoEsponente = -332;
+constexpr double kMinimaForma = 0.2;  // of a page, shorter to longer side
 
 }  // namespace
 
@@ -27,6 +28,10 @@ void Riquadro::Comprendi(double x, double y) {
   y0 = std::min(y0, y);
   x1 = std::max(x1, x);
   y1 = std::max(y1, y);
+}
+
+double Riquadro::Massimo() const {
+  return std::max({std::fabs(x0), std::fabs(x1), std::fabs(y0), std::fabs(y1)});
 }
 
 void Riduci(Disegno& disegno) {
@@ -106,6 +111,18 @@ Riquadro Ingombro(const Disegno& disegno) {
   for (const Scritta& scritta : disegno.scritte)
     for (const Coordinata& c : Angoli(disegno, scritta)) comprendi(c);
   return tutto;
+}
+
+Riquadro Pagina(const Riquadro& tutto) {
+  double lungo = std::max(tutto.Larghezza(), tutto.Altezza());
+  if (lungo <= kArrotondamento * tutto.Massimo()) lungo = tutto.Massimo() > 0 ? tutto.Massimo() : 1;
+  // The margin is a part of the page, not of the drawing.
+  const double corto = std::max(std::min(tutto.Larghezza(), tutto.Altezza()) / (1 - 2 * kMargine),
+                                lungo / (1 / kMinimaForma - 2 * kMargine));
+  const auto lato = [&](double disegnato) { return std::max(disegnato + 2 * kMargine * corto, corto); };
+  const double x = (tutto.x0 + tutto.x1) / 2, y = (tutto.y0 + tutto.y1) / 2;
+  const double w = lato(tutto.Larghezza()) / 2, h = lato(tutto.Altezza()) / 2;
+  return {x - w, y - h, x + w, y + h};
 }
 
 }  // namespace ostrel

@@ -14,6 +14,8 @@ struct Riquadro {
   bool Vuoto() const { return x1 < x0; }
   double Larghezza() const { return x1 - x0; }
   double Altezza() const { return y1 - y0; }
+  /// The largest of its coordinates.
+  double Massimo() const;
   void Comprendi(double x, double y);
 };
 
@@ -22,6 +24,16 @@ void Riduci(Disegno& disegno);
 
 /// Everything drawn, texts with all their cells.
 Riquadro Ingombro(const Disegno& disegno);
+
+/// The drawing's free margin, a part of the page's shorter side.
+inline constexpr double kMargine = 0.025;
+/// Sides of a drawing this much smaller than its coordinates are their rounding.
+inline constexpr double kArrotondamento = 1e-12;
+inline constexpr double kMezzaCroce = 3;  // of a marked point, in pen widths
+
+/// The page of a picture whose drawing takes up `tutto`: the margin around it, and no side very much
+/// shorter than the other, however slender the drawing.
+Riquadro Pagina(const Riquadro& tutto);
 
 /// The four corners of a text's cells, counter-clockwise from the start of the baseline.
 std::array<Coordinata, 4> Angoli(const Disegno& disegno, const Scritta& scritta);

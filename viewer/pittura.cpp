@@ -11,25 +11,14 @@
 #include <vector>
 
 #include "viewer/archi.h"
-#include "viewer/tavolozza.h"
 #include "viewer/tratti.h"
 
 namespace ostrel {
 namespace {
 
-constexpr double kMargine = 0.025;
-constexpr double kContrastoCarta = 3;
 constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
-// Sides of a drawing this much smaller than its coordinates are their rounding.
-constexpr double kArrotondamento = 1e-12;
-constexpr double kMezzaCroce = 3;  // of a marked point, in pen widths
 // With more lines than this on the screen smoothing would cost more than it shows.
 constexpr std::size_t kMassimeLineeLisce = 20000;
-
-double Luminanza(const QColor& c) {
-  const auto lineare = [](double v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-  return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF());
-}
 
 class Pittura {
  public:
@@ -141,8 +130,7 @@ Vista VistaIntera(const Riquadro& tutto, QRectF area) {
   area.adjust(margine, margine, -margine, -margine);
   const Riquadro r = tutto.Vuoto() ? Riquadro{0, 0, 1, 1} : tutto;
   // A drawing without breadth or height is fitted by its other side, a single point at scale 1.
-  const double minimo =
-      kArrotondamento * std::max({std::fabs(r.x0), std::fabs(r.x1), std::fabs(r.y0), std::fabs(r.y1)});
+  const double minimo = kArrotondamento * r.Massimo();
   const double x = r.Larghezza() > minimo ? area.width() / r.Larghezza() : HUGE_VAL;
   const double y = r.Altezza() > minimo ? area.height() / r.Altezza() : HUGE_VAL;
   const double scala = std::isfinite(std::min(x, y)) ? std::min(x, y) : 1;
@@ -151,22 +139,11 @@ Vista VistaIntera(const Riquadro& tutto, QRectF area) {
 }
 
 Fondo FondoSchermo(double rapportoPixel) {
-  return {QColor(24, 26, 30), std::max(1.0, std::round(rapportoPixel)) / rapportoPixel, 1 / rapportoPixel};
+  return {kSchermo, std::max(1.0, std::round(rapportoPixel)) / rapportoPixel, 1 / rapportoPixel};
 }
 
 Fondo FondoCarta(double spessore) {
-  return {Qt::white, spessore, 0};
-}
-
-QColor ColoreSu(const Fondo& fondo, int colore) {
-  const std::size_t indice = IndiceColore(colore);
-  const tarvel::Colore voce = kColori[indice];
-  QColor esito(voce.r, voce.g, voce.b);
-  if (Luminanza(fondo.colore) < 0.5) return indice == tarvel::disegno::kNero ? QColor(128, 128, 128) : esito;
-  if (indice == tarvel::disegno::kBianco) return Qt::black;
-  while ((Luminanza(fondo.colore) + 0.05) / (Luminanza(esito) + 0.05) < kContrastoCarta)
-    esito = esito.darker(105);
-  return esito;
+  return {kCarta, spessore, 0};
 }
 
 void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,

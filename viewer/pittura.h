@@ -1,4 +1,4 @@
-// The drawing on any painter: window, printer, image, PDF or SVG.
+// The drawing on any painter: window, printer, image or PDF.
 #pragma once
 
 #include <QColor>
@@ -7,6 +7,7 @@
 
 #include "viewer/disegno.h"
 #include "viewer/misure.h"
+#include "viewer/tavolozza.h"
 
 namespace ostrel {
 
@@ -27,7 +28,7 @@ Vista VistaIntera(const Riquadro& tutto, QRectF area);
 
 /// The ground a drawing is painted on and the width of its lines in painter units.
 struct Fondo {
-  QColor colore;
+  tarvel::Colore colore;
   double spessore = 1;
   /// Upright and level lines are put on whole pixels of this size; 0 on paper.
   double pixel = 0;
@@ -35,9 +36,9 @@ struct Fondo {
 Fondo FondoSchermo(double rapportoPixel);
 Fondo FondoCarta(double spessore);
 
-/// The table's colour, moved only as far as the ground demands: on paper white turns black and
-/// light colours are darkened until they can be read, on the screen black turns grey.
-QColor ColoreSu(const Fondo& fondo, int colore);
+inline QColor InQt(const tarvel::Colore& c) {
+  return {c.r, c.g, c.b};
+}
 
 /// Paints what falls on `visibile` (painter units); fills no background.
 void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,

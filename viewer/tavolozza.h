@@ -1,5 +1,5 @@
 // What the numbers of a drawing file mean to the eye: the colours of the program that draws, the line
-// patterns, each with its counterpart in a DXF file.
+// patterns, each with its counterpart in a DXF file; what of a colour can be seen on a ground.
 #pragma once
 
 #include <array>
@@ -15,6 +15,13 @@ using tarvel::disegno::kColori;
 
 /// The like of each of kColori among the 255 of a DXF file; 7 is black or white, against the background.
 inline constexpr std::array<int, kColori.size()> kColoriDxf = {7, 7, 172, 1, 3, 2, 94, 6, 151, 30};
+
+inline constexpr tarvel::Colore kCarta{255, 255, 255};
+inline constexpr tarvel::Colore kSchermo{24, 26, 30};
+
+/// The table's colour, moved only as far as the ground demands: on paper white turns black and
+/// light colours are darkened until they can be read, on the screen black turns grey.
+tarvel::Colore ColoreSu(const tarvel::Colore& fondo, int colore);
 
 /// A dash pattern: strokes and gaps in turn, in pen widths; empty for a continuous line.
 struct TipoLinea {

@@ -43,7 +43,7 @@ void Tela::paintEvent(QPaintEvent* evento) {
   const Fondo fondo = FondoSchermo(devicePixelRatioF());
   for (const QRect& parte : evento->region()) {
     pittore.setClipRect(parte);
-    pittore.fillRect(parte, fondo.colore);
+    pittore.fillRect(parte, InQt(fondo.colore));
     Dipingi(pittore, disegno_, vista_, parte, fondo);
   }
 }

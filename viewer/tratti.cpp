@@ -32,7 +32,7 @@ bool Ritaglia(const QPointF& p, const QPointF& q, const QRectF& r, Parte& parte)
 }
 
 QPen Penna(const Fondo& fondo, int colore) {
-  return {ColoreSu(fondo, colore), fondo.spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+  return {InQt(ColoreSu(fondo.colore, colore)), fondo.spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
 QLineF Segmento(QPointF p, QPointF q, const Parte& parte, const Fondo& fondo) {

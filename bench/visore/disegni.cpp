@@ -46,7 +46,7 @@ void Misura(benchmark::State& stato, QSize misura, const Fondo& fondo) {
   for (auto _ : stato) {
     const Disegno disegno = std::get<Disegno>(LeggiDis(file));
     const QRectF foglio({0, 0}, misura);
-    immagine.fill(fondo.colore);
+    immagine.fill(InQt(fondo.colore));
     QPainter pittore(&immagine);
     Dipingi(pittore, disegno, VistaIntera(Ingombro(disegno), foglio), foglio, fondo);
   }

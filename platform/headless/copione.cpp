@@ -108,10 +108,30 @@ void EseguiDblclick(const Evento& e) {
   e.Esigi(DoppioClick(lista, Voci(e, lista).front()));
 }
 
-void EseguiClose(const Evento& e) {
+// The form in front, or the visible one that is named.
+Form& TrovaForm(const Evento& e) {
   Form* form = e.argomenti.empty() ? FormAttiva() : FormVisibile(DaUtf8(e.argomenti.front()));
   if (form == nullptr) e.Errore("no such visible form");
-  if (!Chiudi(*form)) e.Errore("the form " + InUtf8(form->nome) + " cannot be closed now");
+  return *form;
+}
+
+void EseguiClose(const Evento& e) {
+  Form& form = TrovaForm(e);
+  if (!Chiudi(form)) e.Errore("the form " + InUtf8(form.nome) + " cannot be closed now");
+}
+
+// For who plays the same script at a real window and has to know where to click.
+void EseguiLayout(const Evento& e) {
+  static constexpr const char* kTipi[] = {"button", "label", "box", "list"};
+  const Form& form = TrovaForm(e);
+  Annota("layout " + InUtf8(form.nome) + ' ' + std::to_string(form.larghezza) + ' ' +
+         std::to_string(form.altezza));
+  for (const Controllo* c : form.controlli) {
+    std::string riga = "place " + InUtf8(c->nome) + ' ' + kTipi[static_cast<int>(c->tipo)];
+    for (const int misura : {c->posto.sinistra, c->posto.alto, c->posto.larghezza, c->posto.altezza})
+      riga += ' ' + std::to_string(misura);
+    Annota(riga);
+  }
 }
 
 void EseguiPrint(const Evento& e) {
@@ -131,7 +151,7 @@ struct Verbo {
 };
 constexpr std::size_t kQuanti = SIZE_MAX;
 
-constexpr std::array<Verbo, 12> kVerbi = {{
+constexpr std::array<Verbo, 13> kVerbi = {{
     {"type", 1, kQuanti, EseguiType},
     {"focus", 1, 1, [](const Evento& e) { e.Esigi(Vai(Trova(e))); }},
     {"enter", 1, 1, [](const Evento& e) { e.Esigi(Invio(Trova(e))); }},
@@ -142,6 +162,7 @@ constexpr std::array<Verbo, 12> kVerbi = {{
     {"dblclick", 2, 2, EseguiDblclick},
     {"close", 0, 1, EseguiClose},
     {"print", 1, 1, EseguiPrint},
+    {"layout", 0, 1, EseguiLayout},
     {"tick", 1, 1, [](const Evento& e) { LasciaPassare(Numero(e, e.argomenti.front(), 0, kTickMassimo)); }},
     {"endtask", 1, 1, EseguiEndtask},
 }};

@@ -181,13 +181,13 @@ void SpostaFuoco(Form& form, Controllo* controllo) {
 }
 
 bool TuttoScelto(const Controllo& controllo) {
-  const Form* form = FormDi(controllo);
-  return form != nullptr && Di(*form).fuoco == &controllo && Di(*form).tuttoScelto;
+  return std::any_of(gScrivania.finestre.begin(), gScrivania.finestre.end(),
+                     [&](const auto& f) { return f.second.fuoco == &controllo && f.second.tuttoScelto; });
 }
 
 void ScegliTutto(const Controllo& controllo, bool scelto) {
-  if (const Form* form = FormDi(controllo); form != nullptr && Di(*form).fuoco == &controllo)
-    Di(*form).tuttoScelto = scelto;
+  for (auto& [form, finestra] : gScrivania.finestre)
+    if (finestra.fuoco == &controllo) finestra.tuttoScelto = scelto;
 }
 
 }  // namespace headless

@@ -14,20 +14,20 @@ bool HaFuoco(const Controllo& controllo) {
 }
 
 // The key's event, then what the key does to the text as the event's handler has left it: `nuovo`
-// takes the place of the selected text, or of the last characters.
-bool Modifica(Controllo& casella, int codice, std::size_t via, const Testo& nuovo) {
+// takes the place of the selected text, or of the last characters. The key is done also where its
+// handler has taken the form away.
+void Modifica(Controllo& casella, int codice, std::size_t via, const Testo& nuovo) {
   const Form& form = *FormDi(casella);
   if (casella.tasto) Smista([&] { casella.tasto(codice); });
-  if (!Caricata(form)) return false;
+  if (!Caricata(form)) return;
   Testo& testo = casella.testo;
   testo.resize(
       TuttoScelto(casella) && (via > 0 || !nuovo.empty()) ? 0 : testo.size() - std::min(via, testo.size()));
   testo += nuovo.substr(0, kMassimoCasella - testo.size());
   if (via > 0 || !nuovo.empty()) ScegliTutto(casella, false);
-  return HaFuoco(casella);
 }
 
-bool PremiInCasella(Controllo& casella, int tasto) {
+void PremiInCasella(Controllo& casella, int tasto) {
   switch (tasto) {
     case kTastoInvio:
     case kTastoEsc:
@@ -36,8 +36,9 @@ bool PremiInCasella(Controllo& casella, int tasto) {
       return Modifica(casella, tasto, 1, {});
     case kTastoCanc:
       // After the end of the text there is nothing to delete.
-      return !TuttoScelto(casella) || casella.testo.empty() ||
-             Modifica(casella, kTastoIndietro, casella.testo.size(), {});
+      if (TuttoScelto(casella) && !casella.testo.empty())
+        Modifica(casella, kTastoIndietro, casella.testo.size(), {});
+      return;
     default:
       return Modifica(casella, tasto, 0, Testo(1, static_cast<char>(tasto)));
   }
@@ -52,6 +53,19 @@ bool VaiAlProssimo(const Controllo& da) {
   if (!Vai(**c)) return false;
   ScegliTutto(**c, true);
   return true;
+}
+
+// The mouse, at the middle of a control, meets that one.
+bool InVista(const Controllo& controllo) {
+  const auto& tutti = FormDi(controllo)->controlli;
+  const int x = controllo.posto.sinistra + controllo.posto.larghezza / 2;
+  const int y = controllo.posto.alto + controllo.posto.altezza / 2;
+  return std::none_of(std::find(tutti.begin(), tutti.end(), &controllo) + 1, tutti.end(),
+                      [&](const Controllo* c) {
+                        const Rettangolo& p = c->posto;
+                        return c->tipo != TipoControllo::Etichetta && x >= p.sinistra && y >= p.alto &&
+                               x < p.sinistra + p.larghezza && y < p.alto + p.altezza;
+                      });
 }
 
 bool ClickBottone(const Controllo& bottone) {
@@ -76,7 +90,8 @@ bool Vai(Controllo& controllo) {
 }
 
 bool Clicca(Controllo& controllo) {
-  if (controllo.tipo == TipoControllo::Lista || !Vai(controllo)) return false;
+  if (controllo.tipo == TipoControllo::Lista || !Usabile(controllo) || !InVista(controllo)) return false;
+  if (!Vai(controllo)) return false;
   ScegliTutto(controllo, false);
   return controllo.tipo != TipoControllo::Bottone || ClickBottone(controllo);
 }
@@ -85,7 +100,7 @@ bool Premi(int tasto) {
   Controllo* const controllo = Fuoco();
   if (controllo == nullptr || !Usabile(*controllo)) return false;
   if (tasto == kTastoTab) return VaiAlProssimo(*controllo);
-  if (controllo->tipo == TipoControllo::Casella) return PremiInCasella(*controllo, tasto);
+  if (controllo->tipo == TipoControllo::Casella) return PremiInCasella(*controllo, tasto), true;
   const bool preme = tasto == kTastoInvio || tasto == ' ';
   return controllo->tipo != TipoControllo::Bottone || !preme || ClickBottone(*controllo);
 }
@@ -95,7 +110,8 @@ bool Incolla(const Testo& testo) {
   if (casella == nullptr || !Usabile(*casella) || casella->tipo != TipoControllo::Casella) return false;
   Testo pulito = testo;
   std::erase_if(pulito, [](char c) { return c >= 0 && c < ' '; });
-  return Modifica(*casella, kTastoIncolla, 0, pulito);
+  Modifica(*casella, kTastoIncolla, 0, pulito);
+  return true;
 }
 
 bool Invio(Controllo& controllo) {
@@ -107,7 +123,9 @@ bool Digita(Controllo& casella, const Testo& testo) {
   ScegliTutto(casella, true);
   if (testo.empty()) return Premi(kTastoIndietro);
   return std::all_of(testo.begin(), testo.end(), [&](char c) {
-    return HaFuoco(casella) && PremiInCasella(casella, static_cast<unsigned char>(c));
+    if (!HaFuoco(casella)) return false;
+    PremiInCasella(casella, static_cast<unsigned char>(c));
+    return true;
   });
 }
 

@@ -1,6 +1,6 @@
 // The user's hand: what a person does with mouse and keyboard, with the events it causes in their
 // order. Each action is false when it could not be done: the control cannot be used now, does not
-// take it, or was taken away by a handler of the action itself.
+// take it, or was taken away by a handler before the action was done.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,8 @@ bool Usabile(const Controllo& controllo);
 
 /// By mouse: in a box at the end of its text, in a list beside its entries.
 bool Vai(Controllo& controllo);
-bool Clicca(Controllo& controllo);  // buttons and boxes
+/// Buttons and boxes that no other covers.
+bool Clicca(Controllo& controllo);
 
 constexpr int kTastoTab = 9;
 constexpr int kTastoCanc = 127;

@@ -58,7 +58,7 @@ void AggiornaBottone(QPushButton& bottone, const Controllo& controllo) {
 
 void AggiornaEtichetta(QLabel& etichetta, const Controllo& controllo) {
   const QString testo = InQt(controllo.testo);
-  const bool nota = controllo.posto.altezza > 2 * controllo.carattere.punti * 20;
+  const bool nota = controllo.posto.altezza >= 2 * controllo.carattere.punti * 20;
   etichetta.setWordWrap(nota);
   etichetta.setFont(CarattereAdatto(controllo.carattere, testo, etichetta.size(),
                                     nota ? Qt::TextWordWrap : Qt::TextSingleLine,

@@ -9,7 +9,7 @@
 namespace tarvel {
 namespace {
 
-TEST(Schema, OutlineLinesMeetAndDimensionLinesAreUpright) {
+TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
   constexpr int kDuePixel = 30;
   struct Estremo {
     int linea, x, y;

@@ -6,8 +6,8 @@
 namespace tarvel::contratto {
 namespace {
 
-TEST(ContrattoEventi, KeysComeBeforeTheTextChangesALostFocusBeforeTheNextControlsEvent) {
-  const Esito esito = Prova([](Utente& u) {
+TEST(ContrattoEventi, TastiPrimaDelTestoFuocoPersoPrimaDellEventoSeguente) {
+  const std::string diario = Prova([](Utente& u) {
     FormDiario form(u, "F");
     form.Etichetta("L");
     Controllo& a = form.Casella("A", "vecchio");
@@ -19,25 +19,24 @@ TEST(ContrattoEventi, KeysComeBeforeTheTextChangesALostFocusBeforeTheNextControl
       const Risposta r = MostraMessaggio("Salvare?", "D", Icona::Esclamazione, Bottoni::SiNo);
       u.Annota(r == Risposta::Si ? "si" : r == Risposta::No ? "no" : "ok");
     });
+    Passi s{u};
     for (const Risposta r : {Risposta::Ok, Risposta::Si, Risposta::Ok, Risposta::No}) u.Rispondi(r);
-    u.Esegui(form, {[&] { u.Vai(b); }, [&] { u.Vai(b); }, [&] { u.Vai(a); },
-                    [&] { u.Scrivi(a, "1\xE0\x80"); }, [&] { u.Invio(a); }, [&] { u.Scrivi(a, ""); },
-                    [&] { u.Invio(a); }, [&] { u.Clicca(salva); }, [&] { u.Scrivi(b, "5"); },
-                    [&] { u.Clicca(salva); }, [&] { u.Invio(salva); }, [&] { u.Vai(b); }, [&] { u.Vai(a); }});
+    u.Esegui(form,
+             {s.Va(b), s.Va(b), s.Va(a), s.Scrive(a, "1\xE0\x80"), s.Invia(a), s.Scrive(a, ""), s.Invia(a),
+              s.Clicca(salva), s.Scrive(b, "5"), s.Clicca(salva), s.Invia(salva), s.Va(b), s.Va(a)});
   });
   const std::string persoB = "messaggio nessuna ok \"\" \"perso B\" -> ok";
   const std::string domanda = "messaggio esclamazione sino \"D\" \"Salvare?\" -> ";
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F; perso A 'vecchio'; " + persoB +
-                "; ok; tasto A 49 'vecchio'; tasto A 224 '1'; tasto A 128 '1\xE0'; tasto A 13 '1\xE0\x80'; "
-                "tasto A 8 '1\xE0\x80'; tasto A 13 ''; perso A ''; " +
-                domanda + "si; si; tasto B 53 ''; " + persoB + "; ok; " + domanda + "no; no; " + domanda +
-                "no; no; " + persoB + "; ok");
-  EXPECT_EQ(esito.stato, 0);
+  EXPECT_EQ(diario,
+            Righe("load F; perso A 'vecchio'; " + persoB +
+                  "; ok; tasto A 49 'vecchio'; tasto A 224 '1'; tasto A 128 '1\xE0'; tasto A 13 '1\xE0\x80'; "
+                  "tasto A 8 '1\xE0\x80'; tasto A 13 ''; perso A ''; " +
+                  domanda + "si; si; tasto B 53 ''; " + persoB + "; ok; " + domanda + "no; no; " + domanda +
+                  "no; no; " + persoB + "; ok"));
 }
 
-TEST(ContrattoEventi, ListsKeepTheUsersChoiceAndTheProgramsOwnChangesFireNothing) {
-  const Esito esito = Prova([](Utente& u) {
+TEST(ContrattoEventi, LeListeTengonoLaSceltaEICambiDelProgrammaNonDannoEventi) {
+  const std::string diario = Prova([](Utente& u) {
     FormDiario form(u, "F");
     Controllo& etichetta = form.Etichetta("E");
     Controllo& a = form.Casella("A", "1");
@@ -61,22 +60,18 @@ TEST(ContrattoEventi, ListsKeepTheUsersChoiceAndTheProgramsOwnChangesFireNothing
       ImpostaVoci(tante, {"a", "b", "c", "d"});
     };
     ImpostaTesto(a, "2");
-    const auto sceglie = [&](Controllo& lista, std::vector<int> voci) {
-      return [&u, &lista, voci] { u.Seleziona(lista, voci); };
-    };
-    u.Esegui(form, {annota, sceglie(una, {0}), sceglie(una, {2}), sceglie(tante, {0, 1, 3}),
-                    [&] { u.Clicca(leggi); }, sceglie(tante, {2, 1}), [&] { u.Clicca(leggi); },
-                    [&] { u.DoppioClick(una, 1); }, [&] { u.DoppioClick(tante, 1); },
-                    [&] { u.Clicca(cambia); }, annota});
+    Passi s{u};
+    u.Esegui(form, {annota, s.Sceglie(una, {0}), s.Sceglie(una, {2}), s.Sceglie(tante, {0, 1, 3}),
+                    s.Clicca(leggi), s.Sceglie(tante, {2, 1}), s.Clicca(leggi), s.DoppioClick(una, 1),
+                    s.DoppioClick(tante, 1), s.Clicca(cambia), annota});
   });
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F;  2 a|b|c a|b|c|d 0000; perso A '2';  2 a|b|*c *a|*b|c|*d 1101; "
-            " 2 a|b|*c a|*b|*c|d 0110; doppio Una 'a|*b|c'; doppio Tante 'a|*b|c|d'; "
-            "\x80 5 gi\xE0 a|*b|c x|y 00; \x80 5 gi\xE0 a|*b|c x|y 00");
+  EXPECT_EQ(diario, Righe("load F;  2 a|b|c a|b|c|d 0000; perso A '2';  2 a|b|*c *a|*b|c|*d 1101; "
+                          " 2 a|b|*c a|*b|*c|d 0110; doppio Una 'a|*b|c'; doppio Tante 'a|*b|c|d'; "
+                          "\x80 5 gi\xE0 a|*b|c x|y 00; \x80 5 gi\xE0 a|*b|c x|y 00"));
 }
 
-TEST(ContrattoEventi, ATimerFiresUntilItIsStoppedButNotDuringHandlersAndMessageBoxes) {
-  const Esito esito = Prova([](Utente& u) {
+TEST(ContrattoEventi, IlTimerScattaFinoAlFermoMaNonDuranteGestoriEMessaggi) {
+  const std::string diario = Prova([](Utente& u) {
     FormDiario form(u, "F");
     Temporizzatore timer;
     const auto avvisa = [&](const std::string& dopo) {
@@ -98,15 +93,15 @@ TEST(ContrattoEventi, ATimerFiresUntilItIsStoppedButNotDuringHandlersAndMessageB
       AbilitaTimer(timer, false);
       avvisa("due");
     });
+    Passi s{u};
     u.Rispondi(Risposta::Ok, 100);
     u.Rispondi(Risposta::Ok, 50);
-    u.Esegui(form, {[&] { u.Clicca(avvia); }, [&] { u.AspettaRiga("fine 0 fermo"); }, [&] { u.Clicca(due); },
-                    [&] { u.Annota("fine"); }});
+    u.Esegui(form, {s.Clicca(avvia), s.Aspetta("fine 0 fermo"), s.Clicca(due), s.Annota("fine")});
   });
   const std::string messaggio = "messaggio informazione ok \"T\" \"attendi\" -> ok";
-  EXPECT_EQ(InRiga(esito.diario), "load F; " + messaggio + "; avviato attivo; scatto; " + messaggio +
-                                      "; fine 2 attivo; scatto; " + messaggio + "; fine 1 attivo; scatto; " +
-                                      messaggio + "; fine 0 fermo; " + messaggio + "; due fermo; fine");
+  EXPECT_EQ(diario, Righe("load F; " + messaggio + "; avviato attivo; scatto; " + messaggio +
+                          "; fine 2 attivo; scatto; " + messaggio + "; fine 1 attivo; scatto; " + messaggio +
+                          "; fine 0 fermo; " + messaggio + "; due fermo; fine"));
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ class ContrattoFile : public ::testing::Test {
   fs::path cartella_;
 };
 
-TEST_F(ContrattoFile, PathsAreMatchedExactlyFirstThenWithoutRegardToCase) {
+TEST_F(ContrattoFile, PercorsiPrimaEsattiPoiSenzaMaiuscole) {
   fs::create_directories(cartella_ / "Custom");
   fs::create_directories(cartella_ / "custom2");
   Metti("Custom/CapSezDe.txt", "");
@@ -73,7 +73,7 @@ TEST_F(ContrattoFile, PathsAreMatchedExactlyFirstThenWithoutRegardToCase) {
   fs::current_path(prima);
 }
 
-TEST_F(ContrattoFile, OfNamesThatDifferByCaseTheOneWrittenByTheUserWins) {
+TEST_F(ContrattoFile, TraNomiUgualiAMenoDiMaiuscoleVinceQuelloDellUtente) {
   for (const char* nome : {"radice", "Radice", "RADICE"}) {
     fs::create_directories(cartella_ / nome / "Custom");
     fs::create_directories(cartella_ / nome / "custom");
@@ -87,7 +87,7 @@ TEST_F(ContrattoFile, OfNamesThatDifferByCaseTheOneWrittenByTheUserWins) {
   EXPECT_EQ(PercorsoHost(Percorso("?")), (cartella_ / "?").string());
 }
 
-TEST_F(ContrattoFile, NoFileIsNothing) {
+TEST_F(ContrattoFile, NessunFileNonENulla) {
   Metti("f", "");
   ASSERT_EQ(mkfifo((cartella_ / "tubo").c_str(), 0600), 0);
   EXPECT_FALSE(FileInLettura::Apri(Percorso("tubo")));
@@ -99,7 +99,7 @@ TEST_F(ContrattoFile, NoFileIsNothing) {
     EXPECT_EQ(ScriviFile(percorso, "x"), EsitoScrittura::NonAperto) << percorso;
 }
 
-TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
+TEST_F(ContrattoFile, DoveFinisconoRigheEVoci) {
   const Testo lunga(kRigaMassima, 'x');
   const struct {
     Testo contenuto;
@@ -130,7 +130,7 @@ TEST_F(ContrattoFile, WhereLinesAndItemsEnd) {
   EXPECT_THROW(Apri("f", lunga + "x\r\n").LeggiRiga(), ErroreFatale);
 }
 
-TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
+TEST_F(ContrattoFile, INumeriFinisconoAncheAiBianchi) {
   FileInLettura file =
       Apri("f", " .5  -2,\"3\" 1E+03\r\n7 resto\r\nintera\r\nx\r\n32768\r\n1.5\r\n-1E309\r\n");
   EXPECT_EQ(file.LeggiVoceNumero().Valore(), 0.5);
@@ -149,7 +149,7 @@ TEST_F(ContrattoFile, NumbersAlsoEndAtBlanks) {
   }
 }
 
-TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFileAndAFullDiskIsSaid) {
+TEST_F(ContrattoFile, LoScrittoSostituisceIlFileEIlDiscoPienoSiDice) {
   Metti("Vecchio", "qualcosa di piu' lungo di quanto segue");
   fs::create_symlink("Vecchio", cartella_ / "rimando");
   Testo testo;
@@ -172,10 +172,10 @@ TEST_F(ContrattoFile, WhatIsWrittenReplacesTheFileAndAFullDiskIsSaid) {
 }
 
 // Where nothing tells of another program's windows, the one that lives is running all the same.
-TEST_F(ContrattoFile, TaskIdsAreNewAndOnlyOfProgramsThatStart) {
+TEST_F(ContrattoFile, IdentificativiNuoviESoloDiProgrammiAvviati) {
   Metti("vivo", "#!/bin/sh\nfor i in $(seq 50); do [ -e \"$0\" ] && sleep 0.1; done\n");
   fs::permissions(cartella_ / "vivo", fs::perms::owner_all);
-  const Esito esito = Prova([this](Utente& u) {
+  const std::string diario = Prova([this](Utente& u) {
     FormDiario form(u, "F");
     form.alCaricamento = [&] {
       const auto uno = AvviaProgramma("\\bin\\TRUE", 1);
@@ -189,8 +189,7 @@ TEST_F(ContrattoFile, TaskIdsAreNewAndOnlyOfProgramsThatStart) {
     };
     u.Esegui(form, {[this] { fs::remove(cartella_ / "vivo"); }});
   });
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F; diversi; niente; niente; niente; attivo; nessuno; nessuno; nessuno");
+  EXPECT_EQ(diario, Righe("load F; diversi; niente; niente; niente; attivo; nessuno; nessuno; nessuno"));
 }
 
 }  // namespace

@@ -7,16 +7,21 @@ namespace tarvel::contratto {
 namespace {
 
 // The main form F shows M modally, and M in its turn N; L stands beside whichever form shows it.
-struct Scena {
-  explicit Scena(Utente& utente) : u(utente) {}
+struct Scena : Passi {
+  explicit Scena(Utente& utente) : Passi{utente} {}
 
   void Stato(const Form& form) { u.Annota(form.nome + (u.Vede(form) ? " vista" : " via")); }
   void Apri(Form& form) {
     MostraFormModale(form);
     Stato(form);
   }
+  Passo Scatta(const std::string& riga) {
+    return [this, riga] {
+      AbilitaTimer(timer, true);
+      u.AspettaRiga(riga);
+    };
+  }
 
-  Utente& u;
   Temporizzatore timer;
   FormDiario f{u, "F"}, m{u, "M"}, n{u, "N"}, l{u, "L"};
   Controllo& a = f.Casella("A");
@@ -37,11 +42,10 @@ struct Scena {
   Controllo& nascondiL = l.Bottone("NascondiL", [this] { NascondiForm(l); });
 };
 
-TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksWhatWasThereBefore) {
-  const Esito esito = Prova([](Utente& u) {
+TEST(ContrattoForm, LaFormModaleTrattieneChiLaMostraEBloccaLeAltre) {
+  const std::string diario = Prova([](Utente& u) {
     Scena s(u);
-    const Passo premeL = [&] { u.Clicca(s.premiL); };
-    const Passo apreM = [&] { u.Clicca(s.apriM); };
+    const Passo premeL = s.Clicca(s.premiL), apreM = s.Clicca(s.apriM);
     s.f.alCaricamento = [&] { ScaricaForm(s.m); };
     s.m.alloScarico = s.f.alCaricamento;
     s.timer.scatto = [&] {
@@ -49,25 +53,19 @@ TEST(ContrattoForm, AModalFormHoldsItsCallerAndBlocksWhatWasThereBefore) {
       ScaricaForm(s.m);
       u.Annota("scatto");
     };
-    const Passo aspetta = [&] {
-      AbilitaTimer(s.timer, true);
-      u.AspettaRiga("scatto");
-    };
-    u.Esegui(s.f, {apreM, apreM, [&] { u.Chiudi(s.f); }, [&] { u.Clicca(s.mostraL); }, premeL,
-                   [&] { u.Clicca(s.apriN); }, premeL, [&] { u.Clicca(s.mostraL); }, apreM,
-                   [&] { u.Chiudi(s.n); }, premeL, apreM, [&] { u.Chiudi(s.m); }, premeL, apreM,
-                   [&] { u.Clicca(s.scaricaM); }, apreM, aspetta, premeL});
+    u.Esegui(s.f, {apreM, apreM, s.Chiude(s.f), s.Clicca(s.mostraL), premeL, s.Clicca(s.apriN), premeL,
+                   s.Clicca(s.mostraL), apreM, s.Chiude(s.n), premeL, apreM, s.Chiude(s.m), premeL, apreM,
+                   s.Clicca(s.scaricaM), apreM, s.Scatta("scatto"), premeL});
   });
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F; perso A ''; load M; load L; perso l '1'; click L; load N; unload N; N via; "
-            "click L; unload M; M via; click L; load M; unload M; M via; M via; load M; "
-            "unload M; scatto; M via; click L");
-  EXPECT_EQ(esito.stato, 0);
+  EXPECT_EQ(diario,
+            Righe("load F; perso A ''; load M; load L; perso l '1'; click L; load N; unload N; N via; "
+                  "click L; unload M; M via; click L; load M; unload M; M via; M via; load M; "
+                  "unload M; scatto; M via; click L"));
 }
 
 // The focus returns from a form without an event; a close box takes it with one, before the unload hook.
-TEST(ContrattoForm, AHiddenFormKeepsItsStateAndACloseBoxStoresWhatWasTyped) {
-  const Esito esito = Prova([](Utente& u) {
+TEST(ContrattoForm, LaFormNascostaTieneLoStatoEChiudereTieneIlBattuto) {
+  const std::string diario = Prova([](Utente& u) {
     Scena s(u);
     s.b.tasto = [&](int) { s.Apri(s.m); };
     s.timer.scatto = [] { TerminaProgramma(7); };
@@ -77,22 +75,21 @@ TEST(ContrattoForm, AHiddenFormKeepsItsStateAndACloseBoxStoresWhatWasTyped) {
       AbilitaTimer(s.timer, true);
     };
     u.Rispondi(Risposta::Si);
-    u.Esegui(s.f, {[&] { u.Vai(s.b); }, [&] { u.Invio(s.b); }, [&] { u.Scrivi(s.testoM, "2"); },
-                   [&] { u.Clicca(s.nascondiM); }, [&] { u.Vai(s.b); }, [&] { u.Invio(s.b); },
-                   [&] { u.Annota(u.Legge(s.testoM)); }, [&] { u.Invio(s.testoM); }, [&] { u.Chiudi(s.m); },
-                   [&] { u.Vai(s.b); }, [&] { u.Scrivi(s.a, "7"); }, [&] { u.Chiudi(s.f); },
-                   [&] { u.Chiudi(s.n); }, [&] { u.AspettaRiga("mai"); }});
+    u.Esegui(s.f, {s.Va(s.b), s.Invia(s.b), s.Scrive(s.testoM, "2"), s.Clicca(s.nascondiM), s.Va(s.b),
+                   s.Invia(s.b), s.Legge(s.testoM), s.Invia(s.testoM), s.Chiude(s.m), s.Va(s.b),
+                   s.Scrive(s.a, "7"), s.Chiude(s.f), s.Chiude(s.n), s.Aspetta("mai")});
   });
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F; perso A ''; load M; perso B ''; tasto m 50 '1'; perso m '2'; M via; perso B ''; "
+  EXPECT_EQ(
+      diario,
+      Righe("load F; perso A ''; load M; perso B ''; tasto m 50 '1'; perso m '2'; M via; perso B ''; "
             "2; tasto m 13 '2'; perso m '2'; unload M; M via; perso B ''; tasto A 55 ''; perso A '7'; "
-            "unload F; messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si; load N; unload N");
-  EXPECT_EQ(esito.stato, 7);
+            "unload F; messaggio informazione sino \"INFORMAZIONE\" \"Salvare?\" -> si; load N; unload N",
+            7));
 }
 
 // A control hears of a form that a handler shows only after the handler.
-TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
-  const Esito esito = Prova([](Utente& u) {
+TEST(ContrattoForm, FormNonModaliFiancoAFianco) {
+  const std::string diario = Prova([](Utente& u) {
     Scena s(u);
     s.f.alCaricamento = [&] {
       CaricaForm(s.l);
@@ -103,22 +100,21 @@ TEST(ContrattoForm, ModelessFormsAreUsedSideBySide) {
       MostraForm(s.l);
       u.Annota("mostrata");
     };
-    const Passo mostra = [&] { u.Invio(s.a); };
-    const Passo nasconde = [&] { u.Clicca(s.nascondiL); };
+    const Passo mostra = s.Invia(s.a), nasconde = s.Clicca(s.nascondiL);
     const Passo guarda = [&] { s.Stato(s.l); };
-    u.Esegui(s.f, {mostra, guarda, [&] { u.Scrivi(s.testoL, "2"); }, mostra, [&] { u.Invio(s.testoL); },
-                   nasconde, guarda, mostra, nasconde, [&] { u.Vai(s.b); }, mostra,
-                   [&] { u.Scrivi(s.testoL, "3"); }, [&] { u.Chiudi(s.l); }, guarda, [&] { u.Vai(s.b); }});
+    u.Esegui(s.f,
+             {mostra, guarda, s.Scrive(s.testoL, "2"), mostra, s.Invia(s.testoL), nasconde, guarda, mostra,
+              nasconde, s.Va(s.b), mostra, s.Scrive(s.testoL, "3"), s.Chiude(s.l), guarda, s.Va(s.b)});
   });
-  EXPECT_EQ(InRiga(esito.diario),
-            "load F; load L; L via; mostrata; perso A ''; L vista; tasto l 50 '1'; "
-            "perso l '2'; mostrata; perso A ''; tasto l 13 '2'; perso l '2'; L via; mostrata; "
-            "perso A ''; perso l '2'; perso A ''; perso B ''; mostrata; perso A ''; tasto l 51 '2'; "
-            "perso l '3'; unload L; L via; perso A ''");
+  EXPECT_EQ(diario,
+            Righe("load F; load L; L via; mostrata; perso A ''; L vista; tasto l 50 '1'; "
+                  "perso l '2'; mostrata; perso A ''; tasto l 13 '2'; perso l '2'; L via; mostrata; "
+                  "perso A ''; perso l '2'; perso A ''; perso B ''; mostrata; perso A ''; tasto l 51 '2'; "
+                  "perso l '3'; unload L; L via; perso A ''"));
 }
 
 // Whatever is open, the end is at once: no unload hook, no code after it, no further step.
-TEST(ContrattoForm, TheProgramEndsAtOnceWhereverItIs) {
+TEST(ContrattoForm, IlProgrammaFinisceSubitoOvunqueSia) {
   const std::string messaggio = std::string("; messaggio stop ok \"") + kTitoloProgramma +
                                 "\" \"Errore irreversibile: numero (riga 1)\" -> ok";
   enum Luogo { kCaricamento, kClick, kScatto, kScarico };
@@ -134,21 +130,14 @@ TEST(ContrattoForm, TheProgramEndsAtOnceWhereverItIs) {
         if (fatale) throw ErroreFatale(TipoErrore::Formato, "numero", "riga 1");
         TerminaProgramma(5);
       };
-      const Esito esito = Prova([&, dove = luogo](Utente& u) {
+      const std::string diario = Prova([&, dove = luogo](Utente& u) {
         Scena s(u);
         (dove == kCaricamento ? s.f.alCaricamento : s.n.alloScarico) = fine;
         s.premiN.click = s.timer.scatto = fine;
-        const Passo passi[] = {[] {}, [&] { u.Clicca(s.premiN); },
-                               [&] {
-                                 AbilitaTimer(s.timer, true);
-                                 u.AspettaRiga("mai");
-                               },
-                               [&] { u.Chiudi(s.n); }};
-        u.Esegui(s.f, {[&] { u.Clicca(s.apriM); }, [&] { u.Clicca(s.apriN); }, passi[dove],
-                       [&] { u.Annota("mai"); }});
+        const Passo passi[] = {[] {}, s.Clicca(s.premiN), s.Scatta("mai"), s.Chiude(s.n)};
+        u.Esegui(s.f, {s.Clicca(s.apriM), s.Clicca(s.apriN), passi[dove], s.Annota("mai")});
       });
-      EXPECT_EQ(InRiga(esito.diario), prime + (fatale ? messaggio : "")) << luogo;
-      EXPECT_EQ(esito.stato, fatale ? 1 : 5) << luogo;
+      EXPECT_EQ(diario, Righe(prime + (fatale ? messaggio : ""), fatale ? 1 : 5)) << luogo;
     }
 }
 

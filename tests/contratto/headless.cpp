@@ -1,8 +1,4 @@
 // The suite's user on the scripted desktop: events go straight to the platform's hand.
-#include <algorithm>
-#include <deque>
-#include <utility>
-
 #include "platform/comune/argomenti.h"
 #include "platform/headless/avvio.h"
 #include "platform/headless/desktop.h"
@@ -16,17 +12,15 @@ namespace {
 
 class UtenteHeadless : public Utente {
  public:
-  Esito esito;
-
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
     headless::ImpostaRigaComando(
         UnisciArgomenti(std::vector<std::string>(std::begin(kArgomenti), std::end(kArgomenti))));
     headless::ImpostaDecimale(',');
-    esito.stato = headless::Avvia(
+    const int stato = headless::Avvia(
         principale, {[&] { Agisce(); }, [&](const headless::Messaggio& m) { return Risponde(m); }});
+    Annota("fine " + std::to_string(stato));
   }
-  void Annota(const std::string& riga) override { esito.diario.push_back(riga); }
 
   void Vai(Controllo& c) override { headless::Vai(c); }
   void Clicca(Controllo& c) override { headless::Clicca(c); }
@@ -39,7 +33,6 @@ class UtenteHeadless : public Utente {
   void Seleziona(Controllo& c, const std::vector<int>& voci) override { headless::Seleziona(c, voci); }
   void DoppioClick(Controllo& c, int voce) override { headless::DoppioClick(c, voce); }
   void Chiudi(Form& form) override { headless::Chiudi(form); }
-  void Rispondi(Risposta risposta, int attesa) override { pronte_.push_back({risposta, attesa}); }
   void AspettaRiga(const std::string& riga) override {
     aspettata_ = riga;
     pazienza_ = 5000;
@@ -50,50 +43,36 @@ class UtenteHeadless : public Utente {
   Testo Legge(const Controllo& c) override {
     if (c.tipo != TipoControllo::Lista) return c.testo;
     Testo letto;
-    for (std::size_t i = 0; i < c.voci.size(); ++i) {
-      if (i > 0) letto += '|';
-      letto += (c.scelte[i] ? "*" : "") + c.voci[i];
-    }
+    for (std::size_t i = 0; i < c.voci.size(); ++i)
+      letto += Testo(i > 0 ? "|" : "") + (c.scelte[i] ? "*" : "") + c.voci[i];
     return letto;
   }
 
  private:
   void Agisce() {
-    const bool scritta =
-        std::find(esito.diario.begin(), esito.diario.end(), aspettata_) != esito.diario.end();
-    if (!scritta && pazienza_-- > 0) {
-      headless::LasciaPassare(1);
-      return;
-    }
+    if (!Scritta(aspettata_) && pazienza_-- > 0) return headless::LasciaPassare(1);
     pazienza_ = 0;
-    if (passi_.empty()) TerminaProgramma(0);
-    const Passo passo = std::move(passi_.front());
-    passi_.pop_front();
-    passo();
+    FaProssimo();
   }
 
   Risposta Risponde(const headless::Messaggio& m) {
-    if (pronte_.empty()) pronte_.push_back({m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok, 0});
-    const auto [risposta, attesa] = pronte_.front();
-    pronte_.pop_front();
+    const auto [risposta, attesa] = ProssimaRisposta(m.bottoni);
     headless::LasciaPassare(attesa);
     if (VedeClessidra()) Annota("clessidra");
     Annota(RigaMessaggio(m.icona, m.bottoni, m.titolo, m.testo, risposta));
     return risposta;
   }
 
-  std::deque<Passo> passi_;
-  std::deque<std::pair<Risposta, int>> pronte_;
   std::string aspettata_;
   int pazienza_ = 0;  // milliseconds, while a line is waited for
 };
 
 }  // namespace
 
-Esito Prova(const std::function<void(Utente&)>& caso) {
+std::string Prova(const std::function<void(Utente&)>& caso) {
   UtenteHeadless utente;
   caso(utente);
-  return utente.esito;
+  return utente.diario;
 }
 
 }  // namespace tarvel::contratto

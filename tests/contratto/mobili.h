@@ -1,8 +1,10 @@
-// Forms of the suite: their controls stand in one column, and every event writes a diary line.
+// Forms of the suite: their controls stand in one column, and every event writes a diary line. The user's
+// deeds as steps.
 #pragma once
 
 #include <deque>
 #include <functional>
+#include <regex>
 #include <string>
 #include <utility>
 
@@ -57,10 +59,7 @@ class FormDiario : public Form {
 
  private:
   Controllo& Nuovo(TipoControllo tipo, const Testo& n, int alto = 300) {
-    Controllo& c = propri_.emplace_back();
-    c.tipo = tipo;
-    c.nome = n;
-    c.posto = {100, altezza - 300, 3800, alto};
+    Controllo& c = propri_.emplace_back(NuovoControllo(tipo, n, {100, altezza - 300, 3800, alto}));
     altezza += alto + 100;
     controlli.push_back(&c);
     return c;
@@ -71,11 +70,33 @@ class FormDiario : public Form {
   std::deque<Controllo> propri_;
 };
 
-/// The diary with "; " between its lines.
-inline std::string InRiga(const std::vector<std::string>& diario) {
-  std::string riga;
-  for (const std::string& voce : diario) riga += (riga.empty() ? "" : "; ") + voce;
-  return riga;
+struct Passi {
+  Passo Preme(const Testo& tasti) {
+    return [&u = u, tasti] {
+      for (const char tasto : tasti) u.Premi(tasto);
+    };
+  }
+  Passo Va(Controllo& c) { return std::bind_front(&Utente::Vai, &u, std::ref(c)); }
+  Passo Clicca(Controllo& c) { return std::bind_front(&Utente::Clicca, &u, std::ref(c)); }
+  Passo Scrive(Controllo& c, const Testo& t) { return std::bind_front(&Utente::Scrivi, &u, std::ref(c), t); }
+  Passo Invia(Controllo& c) { return std::bind_front(&Utente::Invio, &u, std::ref(c)); }
+  Passo Sceglie(Controllo& c, const std::vector<int>& v) {
+    return std::bind_front(&Utente::Seleziona, &u, std::ref(c), v);
+  }
+  Passo DoppioClick(Controllo& c, int v) { return std::bind_front(&Utente::DoppioClick, &u, std::ref(c), v); }
+  Passo Chiude(Form& form) { return std::bind_front(&Utente::Chiudi, &u, std::ref(form)); }
+  Passo Annota(const std::string& riga) { return std::bind_front(&Utente::Annota, &u, riga); }
+  Passo Aspetta(const std::string& riga) { return std::bind_front(&Utente::AspettaRiga, &u, riga); }
+  Passo Legge(Controllo& c) {
+    return [&u = u, &c] { u.Annota(u.Legge(c)); };
+  }
+
+  Utente& u;
+};
+
+/// A diary written with "; " between its lines, and the end with this status.
+inline std::string Righe(const std::string& diario, int stato = 0) {
+  return std::regex_replace(diario, std::regex("; "), "\n") + "\nfine " + std::to_string(stato) + '\n';
 }
 
 }  // namespace tarvel::contratto

@@ -6,6 +6,7 @@
 // process of its own and leave it when the program ends.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
@@ -37,13 +38,13 @@ class Utente {
   virtual void Esegui(Form& principale, std::vector<Passo> passi) = 0;
 
   /// Adds a line to the diary, which keeps it whatever happens next.
-  virtual void Annota(const std::string& riga) = 0;
+  virtual void Annota(const std::string& riga) { diario += riga + '\n'; }
 
   // --- Inside a step. An action on something that cannot be used now has no effect.
 
   /// Goes to the control with Tab or, where nothing else comes of it, a click: only the focus moves.
   virtual void Vai(Controllo& controllo) = 0;
-  /// Buttons and boxes: a mouse click.
+  /// Buttons and boxes: a mouse click; one that is covered cannot be used.
   virtual void Clicca(Controllo& controllo) = 0;
   /// A key where the focus is: the code of its character, 9 Tab, 127 Delete, 22 paste.
   virtual void Premi(int tasto) = 0;
@@ -63,7 +64,7 @@ class Utente {
   /// milliseconds. Without an answer a note is dismissed by its close box; a question gets a No after
   /// Esc and the close box have been tried in vain. May also be called before Esegui. The platform notes each
   /// box in the diary once it is answered: RigaMessaggio.
-  virtual void Rispondi(Risposta risposta, int attesa = 0) = 0;
+  void Rispondi(Risposta risposta, int attesa = 0) { pronte_.push_back({risposta, attesa}); }
 
   /// Lets time pass, the program waiting for its user, until the diary holds this line; gives up
   /// after some seconds, so that the case fails on what the diary lacks. It may do so only after
@@ -77,15 +78,28 @@ class Utente {
   /// Text of a box, caption of a button or label; the entries of a list joined by '|', each
   /// selected one with a '*' before it ("A|*B|C").
   virtual Testo Legge(const Controllo& controllo) = 0;
+
+  std::string diario;
+
+ protected:
+  struct Pronta {
+    Risposta risposta;
+    int attesa;
+  };
+
+  void FaProssimo();
+  Pronta ProssimaRisposta(Bottoni bottoni);
+  bool Scritta(const std::string& riga) const {
+    return ('\n' + diario).find('\n' + riga + '\n') != std::string::npos;
+  }
+
+  std::deque<Passo> passi_;
+  std::deque<Pronta> pronte_;
 };
 
-struct Esito {
-  int stato = -1;  // the program's exit status
-  std::vector<std::string> diario;
-};
-
-/// Defined by each platform's test executable: calls `caso` with a user and an empty desktop.
-Esito Prova(const std::function<void(Utente&)>& caso);
+/// Defined by each platform's test executable: calls `caso` with a user and an empty desktop. The diary,
+/// one event a line; the last one is "fine 0", with the program's exit status.
+std::string Prova(const std::function<void(Utente&)>& caso);
 
 /// The diary's line of a message box: messaggio stop ok "TITLE" "TEXT" -> ok; icons nessuna, stop,
 /// esclamazione, informazione; buttons ok, sino; answers ok, si, no. '/' stands for a line break.

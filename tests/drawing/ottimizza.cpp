@@ -1,7 +1,6 @@
 // The compaction: what each of its phases drops, keeps and renumbers.
 #include "drawing/ottimizza.h"
 
-#include <tuple>
 #include <vector>
 
 #include "base/errore.h"
@@ -13,17 +12,18 @@ namespace {
 using Ottimizza = ConDisegno;
 
 TEST_F(Ottimizza, PuntoSuSegmento) {
-  const std::tuple<double, double, bool> casi[] = {{0, 0, true},
-                                                   {8, 6, true},
-                                                   {4, 3.001, true},
-                                                   {-0.00003, 0, true},
-                                                   {8.00003, 6.00003, true},
-                                                   {4, 3.1, false},
-                                                   {8.00005, 6.00005, false},
-                                                   {-1, -0.75, false},
-                                                   {9, 6.75, false}};
-  for (const auto& [x, y, atteso] : casi)
-    EXPECT_EQ(disegno::PuntoSuSegmento({x, y}, {0, 0}, {8, 6}), atteso) << x << ' ' << y;
+  const struct {
+    double x, y, fineX, fineY;
+    bool atteso;
+  } casi[] = {
+      {0, 0, 8, 6, true},      {8, 6, 8, 6, true},           {8.00003, 6.00003, 8, 6, true},
+      {4, 3.1, 8, 6, false},   {9, 6.75, 8, 6, false},       {8.00005, 6.00005, 8, 6, false},
+      {4, 3.001, 8, 6, true},  {-3e-5, 0, 8, 6, true},       {500, .2236, 1000, 0, true},
+      {-1, -.75, 8, 6, false}, {500, .2237, 1000, 0, false},
+  };
+  for (const auto& c : casi)
+    EXPECT_EQ(disegno::PuntoSuSegmento({c.x, c.y}, {0, 0}, {c.fineX, c.fineY}), c.atteso)
+        << c.x << ' ' << c.y;
 }
 
 template <class Voce, class Elenco>

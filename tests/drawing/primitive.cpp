@@ -71,16 +71,16 @@ TEST_F(Primitive, RegistranoConOrigineColoreETipo) {
   OrigineY = -1;
   ColoreCorrente = 4;
   TipoLineaCorrente = 2;
-  Linea({0, 0}, {1, 0});
-  Linea({1, 0}, {1, 2}, 0);
+  Linea({1, 0}, {0, 0});  // coordinate 0 starts the first circle
+  Linea({1, 2}, {1, 0}, 0);
   Cerchio({0, 0}, 2, 0);
   Cerchio({1, 2}, 2, {}, 0, std::numbers::pi / 2);
   Cerchio({0, 0}, 0.0001);
   Testo("x", {1, 2}, -90, 1.25, 0.04, 0);
   Testo("senza base", {0, 0}, 0, 0, 1, 1);
   EXPECT_EQ(Fotografia(),
-            "0x1.4p+3 -0x1p+0 ; 0x1.6p+3 -0x1p+0 ; 0x1.6p+3 0x1p+0 ; 0x1.8p+3 0x1p+0 ; 0x1.6p+3 0x1p+1 ; \n\n"
-            "0 1 4 2 ; 1 2 0 2 ; \n0 1 0 1 1 0 ; 2 3 2 4 4 0 ; \n2 -90 12 0 1 x ; \n");
+            "0x1.6p+3 -0x1p+0 ; 0x1.4p+3 -0x1p+0 ; 0x1.6p+3 0x1p+0 ; 0x1.8p+3 0x1p+0 ; 0x1.6p+3 0x1p+1 ; \n\n"
+            "0 1 4 2 ; 2 0 0 2 ; \n1 0 1 0 1 0 ; 2 3 2 4 4 0 ; \n2 -90 12 0 1 x ; \n");
   for (const auto& [misura, decimi] :
        {std::pair{0.05, 0}, {0.15, 2}, {0.25, 2}, {-3, -30}, {3276.74, 32767}}) {
     Testo("a", {0, 0}, 0, misura, 1, 1);
@@ -150,8 +150,11 @@ TEST_F(Quote, LineaPalliniETestimoni) {
   stile.coloreLinea = kSolaEtichetta;
   Quota("TITOLO", {0, 0}, {100, 0}, stile);
   Quota({3, 3}, {3.00009, 2.99991}, kStile);
+  Quota({-2, 0.0001}, {-2, 0}, kStile);  // exactly the tolerance: a label alone
   EXPECT_EQ(Disegno.Linee.numero + Disegno.Archi.numero, 0);
+  EXPECT_EQ(Disegno.Testi.numero, 2);
   EXPECT_EQ(Etichetta(0), "TITOLO @ 47 3 ang 0");
+  EXPECT_EQ(Etichetta(1), "0 @ -5 -0.49995 ang 90");
 }
 
 TEST_F(Quote, ValorePostoEAngoloDellEtichetta) {

@@ -17,7 +17,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <deque>
 #include <fstream>
 
 #include "platform/qt/avvio.h"
@@ -56,14 +55,9 @@ void Clic(QWidget* widget, QPoint punto, Qt::KeyboardModifiers con = {}) {
                     widget->mapTo(widget->window(), punto));
 }
 
-struct Pronta {
-  Risposta risposta;
-  int attesa;
-};
-
 class UtenteQt : public Utente {
  public:
-  explicit UtenteQt(const std::string& diario) : diario_(diario) {}
+  explicit UtenteQt(const std::string& tubo) : tubo_(tubo) {}
 
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
@@ -80,8 +74,8 @@ class UtenteQt : public Utente {
   }
 
   void Annota(const std::string& riga) override {
-    righe_.push_back(riga);
-    diario_ << riga << std::endl;
+    Utente::Annota(riga);
+    tubo_ << riga << std::endl;
   }
 
   void Vai(Controllo& controllo) override {
@@ -100,7 +94,9 @@ class UtenteQt : public Utente {
   }
 
   void Clicca(Controllo& controllo) override {
-    if (QWidget* widget = Usabile(controllo)) Clic(widget, widget->rect().center());
+    QWidget* const widget = Usabile(controllo);
+    if (widget != nullptr && widget->parentWidget()->childAt(widget->geometry().center()) == widget)
+      Clic(widget, widget->rect().center());
   }
 
   void Premi(int tasto) override {
@@ -147,8 +143,6 @@ class UtenteQt : public Utente {
   void Chiudi(Form& form) override {
     if (Finestra* finestra = FinestraDi(form)) finestra->windowHandle()->close();
   }
-
-  void Rispondi(Risposta risposta, int attesa) override { pronte_.push_back({risposta, attesa}); }
 
   void AspettaRiga(const std::string& riga) override {
     aspettata_ = riga;
@@ -199,31 +193,26 @@ class UtenteQt : public Utente {
     if (Occupato() || LivelloModale() <= livello_ || Attende()) return;
     if (FinestraAttiva() != nullptr && QApplication::activeWindow() != FinestraAttiva())
       return FinestraAttiva()->activateWindow();  // it is on its way
-    if (passi_.empty()) TerminaProgramma(0);
-    const Passo passo = std::move(passi_.front());
-    passi_.pop_front();
     const QScopedValueRollback<int> agisce(livello_, LivelloModale());
-    passo();
+    FaProssimo();
   }
 
-  bool Attende() const {
-    return !pazienza_.hasExpired() && std::find(righe_.begin(), righe_.end(), aspettata_) == righe_.end();
-  }
+  bool Attende() const { return !pazienza_.hasExpired() && !Scritta(aspettata_); }
 
   void Risponde(QMessageBox* riquadro) {
     if (riquadro == risposto_) return;
     risposto_ = riquadro;
     const bool domanda = riquadro->buttons().size() == 2;
     const bool pronta = !pronte_.empty();
-    const Pronta data = pronta ? pronte_.front() : Pronta{domanda ? Risposta::No : Risposta::Ok, 0};
-    if (pronta) pronte_.pop_front();
+    const Bottoni bottoni = domanda ? Bottoni::SiNo : Bottoni::Ok;
+    const Pronta data = ProssimaRisposta(bottoni);
     QTimer::singleShot(data.attesa, riquadro, [=, this] {
       static constexpr std::array kIcone{QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Warning,
                                          QMessageBox::Information};
       const auto icona = std::find(kIcone.begin(), kIcone.end(), riquadro->icon()) - kIcone.begin();
       if (VedeClessidra()) Annota("clessidra");
-      Annota(RigaMessaggio(static_cast<Icona>(icona), domanda ? Bottoni::SiNo : Bottoni::Ok,
-                           DaQt(riquadro->windowTitle()), DaQt(riquadro->text()), data.risposta));
+      Annota(RigaMessaggio(static_cast<Icona>(icona), bottoni, DaQt(riquadro->windowTitle()),
+                           DaQt(riquadro->text()), data.risposta));
       if (!pronta) {
         if (domanda) QTest::keyClick(riquadro, Qt::Key_Escape);
         riquadro->windowHandle()->close();
@@ -237,10 +226,7 @@ class UtenteQt : public Utente {
     });
   }
 
-  std::ofstream diario_;
-  std::vector<std::string> righe_;
-  std::deque<Passo> passi_;
-  std::deque<Pronta> pronte_;
+  std::ofstream tubo_;
   int livello_ = -1;  // modal forms shown at the innermost of the steps under way
   std::string aspettata_;
   QDeadlineTimer pazienza_;
@@ -249,7 +235,7 @@ class UtenteQt : public Utente {
 
 }  // namespace
 
-Esito Prova(const std::function<void(Utente&)>& caso) {
+std::string Prova(const std::function<void(Utente&)>& caso) {
   std::fflush(nullptr);
   int capi[2];
   if (pipe(capi) != 0) return {};
@@ -264,14 +250,13 @@ Esito Prova(const std::function<void(Utente&)>& caso) {
     std::_Exit(99);  // a case runs the program to its end
   }
   close(capi[1]);
-  Esito esito;
-  std::ifstream diario(cartellaCapi + std::to_string(capi[0]));
-  for (std::string riga; std::getline(diario, riga);) esito.diario.push_back(riga);
+  std::ifstream tubo(cartellaCapi + std::to_string(capi[0]));
+  std::string diario;
+  for (std::string riga; std::getline(tubo, riga);) diario += riga + '\n';
   close(capi[0]);
   int stato = 0;
   waitpid(figlio, &stato, 0);
-  if (WIFEXITED(stato)) esito.stato = WEXITSTATUS(stato);
-  return esito;
+  return diario + "fine " + std::to_string(WIFEXITED(stato) ? WEXITSTATUS(stato) : -1) + '\n';
 }
 
 }  // namespace tarvel::contratto

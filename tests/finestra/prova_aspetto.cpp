@@ -36,7 +36,7 @@ void Prepara(const Form& form, const QByteArray& piattaforma = "offscreen") {
   PreparaDesktop(1, argomenti, form);
 }
 
-TEST(Casella, TellsEveryChangeAndHoldsOnlyEightBitText) {
+TEST(Casella, DiceOgniCambioETieneSoloTestoAOttoBit) {
   Form form;
   form.larghezza = form.altezza = 3000;
   Controllo controllo = NuovoControllo(TipoControllo::Casella, "A", {100, 100, 1000, 300});
@@ -113,7 +113,7 @@ void ControllaTesti(Form& form) {
   }
 }
 
-TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
+TEST_P(AScala, NessunaScrittaENessunaNotaTagliata) {
   const auto [larghezza, altezza] = GetParam();
   const std::string file = ::testing::TempDir() + "schermo" + std::to_string(larghezza) + ".json";
   std::ofstream(file) << R"({"screens":[{"name":"s","x":0,"y":0,"logicalDpi":96,"dpr":1,"width":)"
@@ -125,12 +125,12 @@ TEST_P(AScala, NoCaptionAndNoNoteIsCutOff) {
   vuota.larghezza = FormPrincipale().larghezza;
   vuota.altezza = FormPrincipale().altezza;
   MostraForm(vuota);
-  EXPECT_TRUE(FinestraAttiva()->screen()->geometry().contains(FinestraAttiva()->geometry()));
+  const QRect schermo = FinestraAttiva()->screen()->geometry(), posto = FinestraAttiva()->frameGeometry();
+  EXPECT_TRUE(schermo.contains(posto) && posto.top() == schermo.top() && posto.left() <= Pixel(1350));
   ScaricaForm(vuota);
   FormSez elenco;
   FormSez2 multiplo;
-  for (Form* form : {&FormPrincipale(), static_cast<Form*>(&FormOpt::Unica()), static_cast<Form*>(&elenco),
-                     static_cast<Form*>(&multiplo)})
+  for (Form* form : std::initializer_list<Form*>{&FormPrincipale(), &FormOpt::Unica(), &elenco, &multiplo})
     ControllaTesti(*form);
 }
 
@@ -139,20 +139,24 @@ INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
                                            std::pair(1366, 768), std::pair(1440, 900), std::pair(1920, 1080),
                                            std::pair(3840, 2160)));
 
-TEST(Etichetta, ALongPathShowsBothEndsAndTheWholeAsAToolTip) {
-  Prepara(FormPrincipale());
-  auto& form = static_cast<tarvel1&>(FormPrincipale());
-  const Testo percorso = "\\dati\\" + Testo(200, 'x') + "\\lavori\\PR0042\\sezio_ut";
-  ImpostaTesto(form.nomute, percorso);
+// The second one is twice as tall as its font.
+TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
+  const Testo percorso = "\\dati dati\\" + Testo(200, 'x') + "\\sezio_ut";
+  Controllo riga = NuovoControllo(TipoControllo::Etichetta, "R", {0, 0, 1500, 269}, percorso);
+  Controllo nota = NuovoControllo(TipoControllo::Etichetta, "N", {0, 300, 1500, 270}, percorso);
+  Form form;
+  form.controlli = {&riga, &nota};
+  Prepara(form);
   const Finestra finestra(form);
-  const auto& etichetta = static_cast<const QLabel&>(*finestra.WidgetDi(form.nomute));
-  EXPECT_TRUE(etichetta.text().startsWith("\\dati\\"));
+  const auto& etichetta = static_cast<const QLabel&>(*finestra.WidgetDi(riga));
+  EXPECT_TRUE(etichetta.text().startsWith("\\dati "));
   EXPECT_TRUE(etichetta.text().endsWith("\\sezio_ut"));
   EXPECT_LE(etichetta.fontMetrics().horizontalAdvance(etichetta.text()), etichetta.width());
   EXPECT_EQ(etichetta.toolTip(), InQt(percorso));
+  EXPECT_EQ(static_cast<const QLabel&>(*finestra.WidgetDi(nota)).text(), InQt(percorso));
 }
 
-TEST(Tasti, SequencesAreReadInGroups) {
+TEST(Tasti, LeSequenzeSiLeggonoAGruppi) {
   const std::pair<const char*, std::vector<GruppoTasti>> casi[] = {
       {"%(fg)", {{true, {'f', 'g'}}}},
       {"%{F4}", {{true, {kF1 + 3}}}},

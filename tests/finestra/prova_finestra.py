@@ -19,24 +19,30 @@ from schermo import COL_CLICK, PAZIENZA, Schermo, attendi, finisce, programma
 QUI = Path(__file__).resolve().parent
 SESSIONE = QUI / "sessione.txt"
 
-# The forms' widths and, in tab order, where their controls are clicked; twips. None: reached by Tab.
-ORDINE = [15, 16, 17, 18, 19, 9, 10, 11, 12, 13, 2, 3, 4, 5, 6, 7, 20, 14, 0, 8, 1]
-FORME = {
-    "tarvel1": (9435, {f"Text1({i})": {0: (4674, 2592), 8: (3042, 3360)}.get(i) for i in ORDINE} | {
-        "nome": (8322, 4104), "Command1": (7806, 4470), "Command2": (8838, 4470), "Calcolo": (8838, 3462),
-        "Command4": (8838, 3078), "Command6": (8838, 2682), "Command7": (6192, 4488),
-        "Command5": (8838, 294)}),
-    "FormOpt": (7560, {f"TextOpt({i + 1})": (3180 + i // 8 * 3720, 255 + i % 8 * 330) for i in range(15)} | {
-        "Applica": (4800, 3045), "Chiudi": (6840, 3045)}),
-    "FormSez": (1590, {"Command1": (810, 210), "ListSez": (792, 568)}),  # lists: their first entry
-    "FormSez2": (1725, {"Command1": (398, 210), "Command2": (1190, 210), "ListSez": (792, 556)}),
-}
+PRIMA_VOCE = 100  # twips from the upper edge of a list to its first entry
 
-def clicca(schermo, form, controllo, volte=1, sfondo=False):
-    larghezza_form, controlli = FORME[form]
-    sinistra, alto, larghezza, *_ = schermo.posto((schermo.trova if sfondo else schermo.davanti)(form))
-    x, y = (int(twip * larghezza / larghezza_form) for twip in controlli[controllo])
-    schermo.mano("mousemove", sinistra + x, alto + y, *["click", 1] * volte)
+
+def forme(programmi, cartella):
+    """The program's own word for its forms: each one's width and, in tab order, the controls that can have
+    the focus, with their kind and where the mouse meets them; twips."""
+    copione = "layout,click Command6,layout,click Chiudi,click Command7,layout,close,type nome ?,click Command1,layout"
+    trovate = {}
+    for riga in recita_senza_schermo(programmi, cartella / "forme", copione.replace(",", "\n")).splitlines():
+        match riga.split():
+            case ["layout", nome, larghezza, _]:
+                controlli = {}
+                trovate[nome] = int(larghezza), controlli
+            case ["place", nome, tipo, *posto] if tipo != "label":
+                sinistra, alto, larga, alta = map(int, posto)
+                controlli[nome] = tipo, (sinistra + larga // 2,
+                                         alto + (PRIMA_VOCE if tipo == "list" else alta // 2))
+    return trovate
+
+
+def recita_senza_schermo(programmi, radice, copione, decimale="."):
+    """The script on the scripted desktop, in an installation of its own: the transcript."""
+    return subprocess.run([programmi / "tarvel1-headless", "--decimal", decimale, installa(radice, programmi)],
+                          input=copione, stdout=subprocess.PIPE, text=True, check=True, timeout=PAZIENZA).stdout
 
 
 def installa(radice, programmi, visore="normale"):
@@ -59,9 +65,10 @@ def installa(radice, programmi, visore="normale"):
 class Seduta:
     """The program at a screen, played by lines of a script."""
 
-    def __init__(self, schermo, radice, figlio):
-        self.schermo, self.radice, self.figlio = schermo, radice, figlio
-        self.form, self.ultimo = "tarvel1", None  # the control last used: it has the focus
+    def __init__(self, schermo, radice, figlio, forme):
+        self.schermo, self.radice, self.figlio, self.forme = schermo, radice, figlio, forme
+        self.form = "tarvel1"
+        self.ultimo = self.form, next(iter(forme[self.form][1]))  # the control that has the focus
 
     def diario(self):
         """What the viewer saw."""
@@ -83,7 +90,7 @@ class Seduta:
                 if verbo == "activate":  # as the task bar does
                     self.schermo.mano("windowactivate", self.schermo.trova(nome))
                 self.schermo.davanti(nome)
-                self.form = nome if nome in FORME else self.form
+                self.form = nome if nome in self.forme else self.form
             case ["viewer", riga]:
                 attendi(lambda: self.diario().endswith(riga + "\n"), f"the viewer's {riga}", self.diario)
             case ["log", *atteso]:
@@ -95,7 +102,7 @@ class Seduta:
                 self.schermo.mano(azione, self.schermo.trova(nome))
                 self.schermo.giro()
             case ["across", nome, controllo]:
-                clicca(self.schermo, nome, controllo, sfondo=True)
+                self.clicca(self.schermo.trova(nome), nome, controllo)
             case ["close", nome]:
                 self.schermo.chiudi(nome)
             case ["alt+F4" as tasti, nome]:
@@ -116,26 +123,36 @@ class Seduta:
             case [verbo, nome, *resto]:
                 self.agisci(verbo, nome, resto)
 
+    def clicca(self, finestra, form, controllo, volte=1):
+        larghezza_form, controlli = self.forme[form]
+        sinistra, alto, larghezza, *_ = self.schermo.posto(finestra)
+        x, y = (int(twip * larghezza / larghezza_form) for twip in controlli[controllo][1])
+        self.schermo.mano("mousemove", sinistra + x, alto + y, *["click", 1] * volte)
+
+    def raggiungi(self, finestra, nome):
+        """By Tab where that is the next control; what is already reached is typed over as it is."""
+        controlli = [*self.forme[self.form][1]]
+        form, prima = self.ultimo
+        passi = (controlli.index(nome) - controlli.index(prima)) % len(controlli) if form == self.form else None
+        if passi == 1:
+            self.schermo.mano("key", "Tab")
+        elif passi != 0:
+            self.clicca(finestra, self.form, nome)
+            self.schermo.mano("key", "ctrl+a")
+
     def agisci(self, verbo, nome, resto):
-        controlli = [*FORME[self.form][1]]
-        posto = controlli.index(nome)
-        prima = (self.form, controlli[posto - 1]) if posto else None  # the first has the focus at the start
-        self.schermo.davanti(self.form)
+        finestra = self.schermo.davanti(self.form)
         match verbo:
             case "click" | "dblclick":
-                clicca(self.schermo, self.form, nome, ["click", "dblclick"].index(verbo) + 1)
+                self.clicca(finestra, self.form, nome, ["click", "dblclick"].index(verbo) + 1)
             case "enter":
                 self.schermo.mano("key", "Return")
-            case "type":
-                # By Tab where that is the next control: the text is then selected.
-                if prima != self.ultimo:
-                    clicca(self.schermo, self.form, nome)
-                    self.schermo.mano("key", "ctrl+a")
-                elif prima:
-                    self.schermo.mano("key", "Tab")
-                self.schermo.mano("type", "--", *resto)
+            case "focus" | "type":
+                self.raggiungi(finestra, nome)
+                if resto:
+                    self.schermo.mano("type", "--", *resto)
             case "select":
-                clicca(self.schermo, self.form, nome)
+                self.clicca(finestra, self.form, nome)
                 for da, a in zip(map(int, resto), map(int, resto[1:])):
                     self.schermo.mano("key", *["ctrl+Down"] * (a - da), "ctrl+space")
             case _:
@@ -143,25 +160,41 @@ class Seduta:
         self.ultimo = (self.form, nome)
 
 
-def confronta(radice, programmi, decimale):
+def confronta(radice, programmi, copione, decimale):
     """With what the scripted desktop writes."""
     atteso = radice.with_name("atteso")
-    with programma(programmi / "tarvel1-headless", "--script", SESSIONE, "--decimal", decimale,
-                   installa(atteso, programmi), stdout=subprocess.DEVNULL) as headless:
-        finisce(headless, 0)
-    for nome in ("lavori/PR0042/sezio_ut", "lavori/PR0042/SezTmpPO.dis", "lavori/PR0042/U_PO_001.dis",
-                 "lavori/PR0042/U_PO_002.dis", "custom/CapSezDe.txt"):
-        scritto = (radice / nome).read_bytes()
-        assert scritto and scritto == (atteso / nome).read_bytes(), f"{nome} is not the scripted desktop's"
+    recita_senza_schermo(programmi, atteso, copione, decimale)
+
+    def scritti(da):
+        return {file.relative_to(da): file.read_bytes()
+                for cartella in ("lavori", "custom") for file in (da / cartella).rglob("*") if file.is_file()}
+
+    previsti, avuti = scritti(atteso), scritti(radice)
+    diversi = [str(nome) for nome in previsti.keys() | avuti.keys() if previsti.get(nome) != avuti.get(nome)]
+    assert previsti and not diversi, f"not the scripted desktop's: {sorted(diversi)}"
 
 
-# The session's groups: screen, locale, its decimal separator.
+def tabulazione(forme):
+    """Round the main form and the options by Tab alone; every box gets a number of its own."""
+    def giro(form, numero):
+        controlli = forme[form][1]
+        primo = next(iter(controlli))
+        return [f"type {nome} {numero + i}" if tipo == "box" else f"focus {nome}"
+                for i, (nome, (tipo, _)) in enumerate(controlli.items())] + [f"type {primo} {numero + len(controlli)}"]
+
+    return [*giro("tarvel1", 101), "click Command6", "#: form FormOpt", *giro("FormOpt", 201), "click Salva",
+            "click Chiudi", "#: form tarvel1", "click Command5", "answer no", "tick 50",
+            "#: message INFORMAZIONE no", "#: end 0"]
+
+
+# The groups whose files are compared: screen, locale, its decimal separator.
 SESSIONI = {"sessione-piccola": ("640x480", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
-            "sessione-grande": ("1920x1080", "de_DE.UTF-8", ",")}
-RIGHE_SESSIONE = [*SESSIONE.read_text().splitlines(), "end 0", "log avviato normale Alt+f Alt+g chiusura"]
+            "sessione-grande": ("1920x1080", "de_DE.UTF-8", ","), "tabulazione": ("1024x600", "C", ".")}
+RIGHE_SESSIONE = [*SESSIONE.read_text().splitlines(), "#: end 0", "#: log avviato normale Alt+f Alt+g chiusura"]
 INSERVIBILE = ["click Command4", "message ERRORE", "click Command5", "end 0"]
-# The others: the viewer, the lines to play.
+# The viewer, the lines to play or what makes them of the forms.
 GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
+    "tabulazione": ("normale", tabulazione),
     "visore-muore": ("muore", ["click Command4", "log avviato muore", "click Command4",
                                "log avviato muore avviato muore", "click Command5", "end 0"]),
     # The second click waits for the window.
@@ -216,6 +249,8 @@ def prova(gruppo, programmi, cartella):
     if gruppo == "senza-schermo":
         return senza_schermo(programmi)
     visore, righe = GRUPPI[gruppo]
+    trovate = forme(programmi, cartella)
+    righe = righe(trovate) if callable(righe) else righe
     misure, regione, decimale = SESSIONI.get(gruppo, ("1024x600", "C", "."))
     radice = cartella / "impianto"
     argomento = installa(radice, programmi, visore)
@@ -223,13 +258,13 @@ def prova(gruppo, programmi, cartella):
           programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
                     env=schermo.ambiente | {"LC_ALL": regione}) as figlio):
         try:
-            Seduta(schermo, radice, figlio).recita(righe)
+            Seduta(schermo, radice, figlio, trovate).recita(righe)
         except AssertionError:
             with contextlib.suppress(OSError):
                 schermo.chiedi("import", "-window", "root", f"guasto-{gruppo}.png")
             raise
     if gruppo in SESSIONI:
-        confronta(radice, programmi, decimale)
+        confronta(radice, programmi, "\n".join(righe), decimale)
 
 
 def main():

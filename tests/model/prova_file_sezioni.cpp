@@ -5,11 +5,11 @@
 #include <memory>
 #include <sstream>
 
-#include "aiuti.h"
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "model/file_sezioni.h"
 #include "properties/caratteristiche.h"
+#include "tests/aiuti.h"
 
 namespace tarvel {
 namespace {
@@ -139,24 +139,6 @@ TEST_F(ProvaFile, OgniRigaRovinata) {
         EXPECT_NE(errore.find(FileSezioni + ", riga " + std::to_string(i + 1)), Testo::npos)
             << "riga " << i + 1 << " \"" << guasto << "\": " << errore;
     }
-}
-
-TEST(NomiSezioni, PropostiENormalizzati) {
-  PrefissoNome = "U_PO_";
-  for (const auto& [n, nome] :
-       {std::pair{1, "U_PO_001"}, {42, "U_PO_042"}, {1000, "U_PO_000"}, {1234, "U_PO_234"}})
-    EXPECT_EQ(ProponiNome(n), nome);
-  const struct {
-    const char *nome, *voluto, *altro, *atteso;
-  } casi[] = {
-      {"U_PO_001", "G_", "U_", "G_PO_001"},
-      {"u_po_001", "G_", "U_", "G_po_001"},
-      {"g_x", "G_", "U_", "g_x"},
-      {"  altro ", "G_", "U_", "G_altro"},
-      {"", "U_", "G_", "U_"},
-      {"U", "G_", "U_", "G_U"},
-  };
-  for (const auto& c : casi) EXPECT_EQ(NormalizzaNome(c.nome, c.voluto, c.altro), c.atteso) << c.nome;
 }
 
 }  // namespace

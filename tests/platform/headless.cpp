@@ -44,7 +44,7 @@ Esito RecitaTesto(Form& form, const std::string& copione) {
   return {stato, errori.str(), verbale.str()};
 }
 
-TEST(Headless, AScriptThatIsNoText) {
+TEST(Headless, CopioneCheNonETesto) {
   for (const auto& [copione, errore] :
        {std::pair{std::string("print nome\nprint \0nome", 23), "2: the line holds a NUL character"},
         {std::string(5'000'000, 'x'), "1: the line is too long"}}) {
@@ -55,7 +55,7 @@ TEST(Headless, AScriptThatIsNoText) {
   }
 }
 
-TEST(Headless, FormsAtOneAddressAreTwoForms) {
+TEST(Headless, FormAUnoStessoIndirizzoSonoDue) {
   FormMadre form;
   std::optional<FormScelta> scelta;
   const char* testi[] = {"uno", "due"};
@@ -65,7 +65,13 @@ TEST(Headless, FormsAtOneAddressAreTwoForms) {
             "madre\nend 0\n");
 }
 
-TEST(Headless, AProgramThatDoesNotEndIsGivenUp) {
+TEST(Headless, UnTastoPuoNascondereLaSuaForm) {
+  FormMadre form;
+  form.casella.tasto = [&](int) { NascondiForm(form); };
+  EXPECT_EQ(RecitaTesto(form, "type nome x").verbale, "show madre\nhide madre\nend 0\n");
+}
+
+TEST(Headless, UnProgrammaCheNonFinisceSiAbbandona) {
   FormMadre quieta;
   EXPECT_EQ(RecitaTesto(quieta, "").stato, 0) << "without a timer nothing can happen any more";
 
@@ -79,7 +85,7 @@ TEST(Headless, AProgramThatDoesNotEndIsGivenUp) {
 
 // The timer closes the modal form 10 ms into the tick; its caller goes on at once, not after the rest
 // of the tick.
-TEST(Headless, TimePassesInTheLoopThatWaits) {
+TEST(Headless, IlTempoPassaNelCicloCheAttende) {
   FormMadre form;
   int scatti = 0, alRitorno = 0, allaFine = 0;
   form.timer.scatto = [&] {

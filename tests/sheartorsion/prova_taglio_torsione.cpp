@@ -1,13 +1,11 @@
-// Torsion against Bredt's closed form; axis crossings, labels and degenerate widths of the points.
+// Torsion against Bredt's closed form; axis crossings; cut-off parts.
 #include <gtest/gtest.h>
 
-#include "aiuti.h"
 #include "base/errore.h"
-#include "properties/caratteristiche.h"
 #include "sheartorsion/asse.h"
 #include "sheartorsion/tagli.h"
-#include "sheartorsion/tau_punti.h"
 #include "sheartorsion/torsione.h"
+#include "tests/aiuti.h"
 
 namespace tarvel {
 namespace {
@@ -53,44 +51,55 @@ TEST(Asse, LatiAttraversati) {
   const RecordSezione esempio = Costruita(Esempio());
   const struct {
     double YG;
-    bool trovato;
-    int esterno, interno;
+    int esterno, interno;  // 0: not found
+    double z14, z15;
   } casi[] = {
-      {-61.2612, true, 4, 1},                       // both webs
-      {-41.5, true, 4, 1},                          // exactly a vertex of the cell: the first edge wins
-      {-37.5, true, 3, 2},                          // exactly O4: the edge that ends there wins
-      {-25, true, 2, 2},                            // cantilever and upper fillet
-      {-15, true, 1, 3},      {-150, true, 4, 11},  // lower fillet: the closing edge of the cell
-      {-170, false, 4, 0},                          // bottom slab
-      {10, false, 0, 0},      {-190, false, 0, 0},
+      {-61.25, 4, 1, 304.75, 343.95},                // both webs
+      {-41.5, 4, 1, 300.8, 340},                     // exactly a vertex of the cell: the first edge wins
+      {-37.5, 3, 2, 300, 340 + 4 * 60 / 21.5},       // exactly O4: the edge that ends there wins
+      {-28.75, 2, 2, 250, 340 + 12.75 * 60 / 21.5},  // O3, and the upper fillet
+      {-15, 1, 3, 0, 400 + 150. / 1.75},
+      {-150, 4, 11, 322.5, 379.7},  // lower fillet: the closing edge of the cell
+      {-170, 0, 0, 0, 0},           // bottom slab
+      {-190, 0, 0, 0, 0},
   };
   for (const auto& c : casi) {
     RecordSezione r = esempio;
     r.YG = c.YG;
     r.PuntoY[14] = 1;
     const AsseBaricentrico asse = CercaAsseBaricentrico(r);
-    ASSERT_EQ(asse.TrovatoAsse, c.trovato) << c.YG;
-    EXPECT_EQ(r.PuntoY[14], c.trovato ? c.YG : 1);
-    if (!c.trovato) continue;
+    ASSERT_EQ(asse.TrovatoAsse, c.esterno > 0) << c.YG;
+    EXPECT_EQ(r.PuntoY[14], c.esterno > 0 ? c.YG : 1);
     EXPECT_EQ(asse.LatoEsterno, c.esterno) << c.YG;
     EXPECT_EQ(asse.LatoInterno, c.interno) << c.YG;
-    EXPECT_GT(r.PuntoZ[15], r.PuntoZ[14]) << c.YG;
+    EXPECT_NEAR(r.PuntoZ[14].Valore(), c.z14, 1e-9) << c.YG;
+    EXPECT_NEAR(r.PuntoZ[15].Valore(), c.z15, 1e-9) << c.YG;
   }
 }
 
-// An abscissa is compared with an ordinate on horizontal edges: O3 -> O4 at the height YG, crossed by
-// no other edge of the outline.
-TEST(Asse, LatoOrizzontale) {
-  for (const auto& [YG, z] : {std::pair{-30.0, 300.0}, {400.0, 250.0}}) {
+// On an edge that lies on the axis an abscissa is compared with an ordinate, whichever side it is of.
+TEST(Asse, LatiOrizzontali) {
+  const struct {
+    double YG;
+    bool chiusura;       // C11 -> C1 lies on the axis, not C1 -> C2
+    double z, z14, z15;  // of the first end of both edges; the other is 50 farther right
+  } casi[] = {
+      {-30, false, 250, 300, 250}, {400, false, 250, 250, 300}, {300, false, 250, 300, 300},
+      {-30, true, 250, 300, 250},  {400, true, 250, 250, 300},  {300, true, 250, 300, 300},
+  };
+  for (const auto& c : casi) {
     RecordSezione r;
-    r.YG = YG;
-    for (const int v : {1, 2}) r.ImpostaVertice(1, v, {0, YG - 20});
-    r.ImpostaVertice(1, 3, {250, YG});
-    r.ImpostaVertice(1, 4, {300, YG});
-    r.ImpostaVertice(2, 1, {350, YG - 5});
-    r.ImpostaVertice(2, 2, {340, YG + 5});
+    r.YG = c.YG;
+    for (const int v : {1, 2}) r.ImpostaVertice(1, v, {0, c.YG - 20});
+    r.ImpostaVertice(1, 3, {c.z, c.YG});
+    r.ImpostaVertice(1, 4, {c.z + 50, c.YG});
+    for (const int v : {1, 2, 3, 4, 5, 6, 11}) r.ImpostaVertice(2, v, {0, c.YG - 20});
+    const auto& [da, a] = c.chiusura ? std::pair{11, 1} : std::pair{1, 2};
+    r.ImpostaVertice(2, da, {c.z, c.YG});
+    r.ImpostaVertice(2, a, {c.z + 50, c.YG});
     ASSERT_TRUE(CercaAsseBaricentrico(r).TrovatoAsse);
-    EXPECT_EQ(r.PuntoZ[14], z) << YG;
+    EXPECT_EQ(r.PuntoZ[14], c.z14) << c.YG;
+    EXPECT_EQ(r.PuntoZ[15], c.z15) << c.YG << ' ' << c.chiusura;
   }
 }
 
@@ -118,26 +127,6 @@ TEST(Tagli, TroppiPuntiAlPunto14) {
   EXPECT_EQ(flusso(1, 4), 0);
   EXPECT_EQ(flusso(2, 5), 0);
   EXPECT_THROW(flusso(1, 5), ErroreFatale);
-}
-
-TEST(Punti, LarghezzeNulleSegnate) {
-  VettoreParametri p = Esempio();
-  p[kSolettaMezzeria] = 0;  // no top slab under the crown zone: points 2, 3 and 4 have no width
-  RecordSezione r = Costruita(p);
-  CalcolaCaratteristiche(r);
-  EXPECT_EQ(r.TauVy[2], kSenzaLarghezza);
-  EXPECT_EQ(r.TauVy[4], -kSenzaLarghezza);
-  EXPECT_EQ(r.TauVy[11], kSenzaLarghezza) << "usa la larghezza del punto 2";
-  EXPECT_EQ(r.TauVz[3], kSenzaLarghezza) << "positivo anche dove la formula ha il segno meno";
-  EXPECT_EQ(r.TauT[4], kSenzaLarghezza);
-
-  p = Esempio();
-  p[kSolettaInferiore] = 0;
-  r = Costruita(p);
-  CalcolaCaratteristiche(r);
-  EXPECT_EQ(r.TauVy[10], kSenzaLarghezza);
-  EXPECT_EQ(r.TauT[10], kSenzaLarghezza);
-  EXPECT_EQ(r.TauT[6], -Assoluto(r.TauT[9])) << "il minore dei due, negativo";
 }
 
 }  // namespace
