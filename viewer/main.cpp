@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/comune/argomenti.h"
 #include "platform/comune/scala.h"
 #include "platform/qt/schermo.h"
 #include "viewer/avvio.h"
@@ -20,7 +21,8 @@ namespace {
 constexpr char kFileAvvio[] = "ostrel.inp";
 
 int Fallito(const QString& messaggio) {
-  std::fprintf(stderr, "%s\n", qPrintable(messaggio));
+  tarvel::PreparaFlussi();
+  std::fprintf(stderr, "%s\n", qUtf8Printable(messaggio));
   return 1;
 }
 
@@ -94,6 +96,9 @@ int Esegui(int argc, char** argv) {
 }  // namespace ostrel
 
 int main(int argc, char** argv) {
-  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return std::puts("ostrel " VERSIONE) < 0;
+  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+    tarvel::PreparaFlussi();
+    return std::puts("ostrel " VERSIONE) < 0;
+  }
   return ostrel::Esegui(argc, argv);
 }
