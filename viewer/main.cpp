@@ -79,10 +79,10 @@ int Esegui(int argc, char** argv) {
   riga.addOptions(
       {{"esporta", "Scrive il disegno in un file .png, .svg, .pdf o .dxf, senza finestra.", "file"},
        {"senza-sorveglianza", "Ricarica il disegno soltanto a comando."},
-       {"version", "Dice la versione."}});
+       {"version", "Dice la versione."},
+       {{"h", "help"}, "Mostra questo aiuto."}});
   riga.addPositionalArgument("disegno", "File .dis da mostrare; senza, quello nominato da \"ostrel.inp\".",
                              "[disegno]");
-  riga.addHelpOption();
   if (!riga.parse(QCoreApplication::arguments())) return Fallito(riga.errorText());
   if (riga.isSet("help")) riga.showHelp();
   const QStringList argomenti = riga.positionalArguments();
