@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/comune/argomenti.h"
 #include "platform/comune/scala.h"
 #include "platform/qt/schermo.h"
 #include "viewer/avvio.h"
@@ -20,7 +21,8 @@ namespace {
 constexpr char kFileAvvio[] = "ostrel.inp";
 
 int Fallito(const QString& messaggio) {
-  std::fprintf(stderr, "%s\n", qPrintable(messaggio));
+  tarvel::PreparaFlussi();
+  std::fprintf(stderr, "%s\n", qUtf8Printable(messaggio));
   return 1;
 }
 
@@ -77,10 +79,10 @@ int Esegui(int argc, char** argv) {
   riga.addOptions(
       {{"esporta", "Scrive il disegno in un file .png, .svg, .pdf o .dxf, senza finestra.", "file"},
        {"senza-sorveglianza", "Ricarica il disegno soltanto a comando."},
-       {"version", "Dice la versione."}});
+       {"version", "Dice la versione."},
+       {{"h", "help"}, "Mostra questo aiuto."}});
   riga.addPositionalArgument("disegno", "File .dis da mostrare; senza, quello nominato da \"ostrel.inp\".",
                              "[disegno]");
-  riga.addHelpOption();
   if (!riga.parse(QCoreApplication::arguments())) return Fallito(riga.errorText());
   if (riga.isSet("help")) riga.showHelp();
   const QStringList argomenti = riga.positionalArguments();
@@ -94,6 +96,9 @@ int Esegui(int argc, char** argv) {
 }  // namespace ostrel
 
 int main(int argc, char** argv) {
-  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return std::puts("ostrel " VERSIONE) < 0;
+  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+    tarvel::PreparaFlussi();
+    return std::puts("ostrel " VERSIONE) < 0;
+  }
   return ostrel::Esegui(argc, argv);
 }

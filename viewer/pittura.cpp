@@ -45,7 +45,7 @@ class Pittura {
   }
 
   void Scritte() {
-    QFont carattere("DejaVu Sans Mono");
+    QFont carattere({"DejaVu Sans Mono", "Consolas"});
     carattere.setStyleHint(QFont::Monospace);
     carattere.setPixelSize(kCorpo);
     carattere.setHintingPreference(QFont::PreferNoHinting);

@@ -3,9 +3,7 @@
 
 #include <QApplication>
 #include <QFont>
-#include <QLibraryInfo>
 #include <QPalette>
-#include <QTranslator>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -15,6 +13,7 @@
 #include "platform/qt/gestori.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/schermo.h"
+#include "platform/qt/sistema.h"
 
 namespace tarvel {
 namespace {
@@ -40,10 +39,7 @@ Testo RigaComando() {
 void PreparaDesktop(int argc, char** argv, const Form& principale) {
   rigaComando = RigaComandoPassata(argc, argv);
 
-  // Keys for the viewer go through X11, natively or by the X server that Wayland desktops run.
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
-    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-
+  ScegliAmbiente();
   // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,
   // and so does the application object, which the process's end takes away.
   static int solo = 1;
@@ -53,9 +49,6 @@ void PreparaDesktop(int argc, char** argv, const Form& principale) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle("Fusion");
   QApplication::setPalette(Chiara());
-  auto* italiano = new QTranslator(qApp);
-  if (italiano->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    QApplication::installTranslator(italiano);
 
   ScegliScala(principale);
   QFont messaggi = QApplication::font();

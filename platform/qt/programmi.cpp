@@ -1,17 +1,11 @@
-// Other programs: started free of this one, so that they outlive it and leave nothing behind.
+// Other programs: the tasks of this run, and how long their windows are waited for.
 #include "platform/programmi.h"
 
-#include <poll.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
 #include <QFileInfo>
-#include <QProcess>
 #include <vector>
 
 #include "platform/comune/percorso.h"
-#include "platform/qt/finestre_x11.h"
-#include "platform/qt/tasti.h"
+#include "platform/qt/sistema.h"
 
 namespace tarvel {
 namespace {
@@ -19,60 +13,49 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kAttesaFinestra = 8s;     // after its start a program has so long to show a window
-constexpr auto kAttesaAttivazione = 3s;  // and the window manager so long to activate one
+constexpr auto kAttesaAttivazione = 3s;  // and the desktop so long to bring one to the front
 
 struct Compito {
-  int processo = 0;  // a descriptor that becomes readable when the process ends
-  int sessione = 0;  // of processes, its own: whatever it starts belongs to it
+  Processo processo;
   Orologio::time_point avvio = Orologio::now();
 };
 
-std::vector<Compito> compiti;           // task id - 1
-std::optional<FinestraX> destinataria;  // the main window that keys are for
-
-bool Finito(const Compito& compito) {
-  pollfd stato{compito.processo, POLLIN, 0};
-  return compito.processo < 0 || poll(&stato, 1, 0) > 0;
-}
+std::vector<Compito> compiti;                // task id - 1
+std::optional<FinestraAltrui> destinataria;  // the main window that keys are for
 
 }  // namespace
 
 std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t) {
   const auto trovato = PercorsoHost(percorso);
   if (!trovato) return std::nullopt;
-  const QString host = QString::fromStdString(*trovato);
-  QProcess avvio;
-  avvio.setProgram(QFileInfo(host).absoluteFilePath());
-  avvio.setWorkingDirectory(QFileInfo(host).absolutePath());
-  qint64 processo = 0;
-  if (!avvio.startDetached(&processo)) return std::nullopt;
-  const auto pid = static_cast<pid_t>(processo);
-  compiti.push_back({static_cast<int>(syscall(SYS_pidfd_open, pid, 0)), getsid(pid)});
+  const QFileInfo programma(QString::fromStdString(*trovato));
+  const auto processo =
+      Lancia(programma.absoluteFilePath().toStdString(), programma.absolutePath().toStdString());
+  if (!processo) return std::nullopt;
+  compiti.push_back({*processo});
   return static_cast<std::int32_t>(compiti.size());
 }
 
 bool AttivaProgramma(std::int32_t id) {
   destinataria.reset();
   if (id < 1 || std::size_t(id) > compiti.size()) return false;
-  const Compito& compito = compiti[std::size_t(id) - 1];
-  if (Finito(compito) || ConnessioneX() == nullptr) return !Finito(compito);
+  const auto& [processo, avvio] = compiti[std::size_t(id) - 1];
+  if (Finito(processo) || !FinestreInVista()) return !Finito(processo);
   Aspetta(
       [&] {
-        if (!Finito(compito)) destinataria = FinestraPrincipale(compito.sessione);
-        return destinataria || Finito(compito);
+        if (!Finito(processo)) destinataria = FinestraPrincipale(processo);
+        return destinataria || Finito(processo);
       },
-      compito.avvio + kAttesaFinestra, compito.processo);
+      avvio + kAttesaFinestra, &processo);
   if (destinataria) ChiediAttivazione(*destinataria);
-  return !Finito(compito);
+  return !Finito(processo);
 }
 
 void InviaTasti(const Testo& sequenza) {
   if (!destinataria) return;
-  const auto attiva = [] { return FinestraColFuoco() == *destinataria; };
-  Aspetta([&] { return attiva() || Bloccata(*destinataria); }, Orologio::now() + kAttesaAttivazione, -1);
-  // Between the look and the keys no other window may come to the front.
-  const ServerFermo fermo;
-  if (attiva()) PremiTasti(ConnessioneX(), LeggiSequenza(sequenza));
+  Aspetta([] { return ColFuoco(*destinataria) || Bloccata(*destinataria); },
+          Orologio::now() + kAttesaAttivazione);
+  PremiTasti(*destinataria, LeggiSequenza(sequenza));
 }
 
 }  // namespace tarvel

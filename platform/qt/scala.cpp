@@ -23,12 +23,14 @@ double PuntiPerPixel() {
   return 72 / QGuiApplication::primaryScreen()->logicalDotsPerInchY();
 }
 
-// Narrow faces with open shapes first: they stay readable at eight pixels.
+// Narrow faces with open shapes first: they stay readable at eight pixels. None that is a picture a
+// size, as the smallest ones of Windows are: the scale asks for sizes between them.
 QString Famiglia(const char* chiesta) {
   const QStringList presenti = QFontDatabase::families();
   for (const char* famiglia : {chiesta, "DejaVu Sans Condensed", "Liberation Sans Narrow", "DejaVu Sans",
-                               "Liberation Sans", "Noto Sans"})
-    if (presenti.contains(QLatin1String(famiglia))) return QLatin1String(famiglia);
+                               "Tahoma", "Liberation Sans", "Noto Sans"})
+    if (presenti.contains(QLatin1String(famiglia)) && QFontDatabase::isSmoothlyScalable(famiglia))
+      return QLatin1String(famiglia);
   return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
 }
 

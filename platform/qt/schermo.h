@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QStringList>
+#include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -12,7 +14,7 @@ namespace tarvel {
 
 inline QStringList avvisiAvvio;
 
-/// Makes the application object. Only the toolkit knows which
+/// Makes the application object; the toolkit's own texts are Italian. Only the toolkit knows which
 /// display systems it can reach; its way to say that there is none is to abort. In place of that and
 /// of the warnings that lead to it: one line on the standard error, exit status 1.
 inline std::unique_ptr<QApplication> ApreSchermo(int& argc, char** argv) {
@@ -27,6 +29,9 @@ inline std::unique_ptr<QApplication> ApreSchermo(int& argc, char** argv) {
       });
   auto applicazione = std::make_unique<QApplication>(argc, argv);
   qInstallMessageHandler(solito);
+  auto* const italiano = new QTranslator(applicazione.get());
+  if (italiano->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(italiano);
   for (const QString& avviso : std::exchange(avvisiAvvio, {})) qWarning("%s", qPrintable(avviso));
   return applicazione;
 }

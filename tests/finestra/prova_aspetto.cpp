@@ -157,14 +157,13 @@ TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
 }
 
 TEST(Tasti, LeSequenzeSiLeggonoAGruppi) {
-  const unsigned long f4 = 0xffc1;  // the keysym of F4
   const std::pair<const char*, std::vector<GruppoTasti>> casi[] = {
       {"%(fg)", {{true, {'f', 'g'}}}},
-      {"%{F4}", {{true, {f4}}}},
+      {"%{F4}", {{true, {kF1 + 3}}}},
       {"%fG1", {{true, {'f'}}, {false, {'g'}}, {false, {'1'}}}},
-      {"(ab){F12}", {{false, {'a', 'b'}}, {false, {f4 + 8}}}},
+      {"(ab){F12}", {{false, {'a', 'b'}}, {false, {kF1 + 11}}}},
       {"%(f", {{true, {'f'}}}},
-      {"{F13}{F}{x}{F4", {{false, {f4}}}},
+      {"{F13}{F}{x}{F4", {{false, {kF1 + 3}}}},
       {"%", {}},
   };
   for (const auto& [sequenza, attesi] : casi) EXPECT_EQ(LeggiSequenza(sequenza), attesi) << sequenza;

@@ -1,7 +1,5 @@
 // The windows of other programs, on an X server: found by the process that owns them, brought to
 // the front as window managers expect it (EWMH), or directly where none serves.
-#include "platform/qt/finestre_x11.h"
-
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -10,6 +8,9 @@
 
 #include <algorithm>
 #include <array>
+
+#include "platform/qt/sistema.h"
+#include "platform/qt/x11/connessione.h"
 
 namespace tarvel {
 namespace {
@@ -21,7 +22,7 @@ Atom Nome(const char* nome) {
 }
 
 // The items of a property of 32-bit values; none where it is missing or of another type.
-std::vector<unsigned long> Proprieta(FinestraX finestra, const char* nome, Atom tipo) {
+std::vector<unsigned long> Proprieta(Window finestra, const char* nome, Atom tipo) {
   Atom trovato = None;
   int formato = 0;
   unsigned long quanti = 0;
@@ -38,7 +39,7 @@ std::vector<unsigned long> Proprieta(FinestraX finestra, const char* nome, Atom 
   return esito;
 }
 
-FinestraX Radice() {
+Window Radice() {
   return DefaultRootWindow(display);
 }
 
@@ -49,11 +50,11 @@ bool GestoreServe(const char* protocollo) {
 }
 
 struct Albero {
-  FinestraX padre = None;
-  std::vector<FinestraX> figlie;
+  Window padre = None;
+  std::vector<Window> figlie;
 };
 
-Albero Parenti(FinestraX finestra) {
+Albero Parenti(Window finestra) {
   Albero esito;
   Window radice = None;
   Window* figlie = nullptr;
@@ -66,10 +67,10 @@ Albero Parenti(FinestraX finestra) {
 
 // The programs' windows, the oldest first: as the window manager lists them, iconified ones
 // included; where none does, what stands on the screen.
-std::vector<FinestraX> FinestreAperte() {
+std::vector<Window> FinestreAperte() {
   if (GestoreServe("_NET_CLIENT_LIST")) return Proprieta(Radice(), "_NET_CLIENT_LIST", XA_WINDOW);
-  std::vector<FinestraX> esito;
-  for (const FinestraX finestra : Parenti(Radice()).figlie) {
+  std::vector<Window> esito;
+  for (const Window finestra : Parenti(Radice()).figlie) {
     XWindowAttributes stato;
     if (XGetWindowAttributes(display, finestra, &stato) != 0 && stato.map_state == IsViewable &&
         !stato.override_redirect)
@@ -78,41 +79,19 @@ std::vector<FinestraX> FinestreAperte() {
   return esito;
 }
 
-bool Principale(FinestraX finestra) {
+bool Principale(Window finestra) {
   if (!Proprieta(finestra, "WM_TRANSIENT_FOR", XA_WINDOW).empty()) return false;
   const auto tipi = Proprieta(finestra, "_NET_WM_WINDOW_TYPE", XA_ATOM);
   return tipi.empty() ||
          std::find(tipi.begin(), tipi.end(), Nome("_NET_WM_WINDOW_TYPE_NORMAL")) != tipi.end();
 }
 
-bool DellaSessione(FinestraX finestra, int sessione) {
+bool DellaSessione(Window finestra, std::intptr_t sessione) {
   const auto processo = Proprieta(finestra, "_NET_WM_PID", XA_CARDINAL);
   return !processo.empty() && getsid(static_cast<pid_t>(processo[0])) == sessione;
 }
 
-int IgnoraErrore(Display*, XErrorEvent*) {
-  return 0;
-}
-
-}  // namespace
-
-Display* ConnessioneX() {
-  if (display != nullptr) return display;
-  display = XOpenDisplay(nullptr);
-  if (display == nullptr) return nullptr;
-  XSetErrorHandler(IgnoraErrore);
-  // Windows that come and go and change hands, with and without a window manager.
-  XSelectInput(display, Radice(), PropertyChangeMask | SubstructureNotifyMask);
-  return display;
-}
-
-std::optional<FinestraX> FinestraPrincipale(int sessione) {
-  for (const FinestraX finestra : FinestreAperte())
-    if (DellaSessione(finestra, sessione) && Principale(finestra)) return finestra;
-  return std::nullopt;
-}
-
-FinestraX FinestraColFuoco() {
+Window FinestraColFuoco() {
   if (GestoreServe("_NET_ACTIVE_WINDOW")) {
     const auto attiva = Proprieta(Radice(), "_NET_ACTIVE_WINDOW", XA_WINDOW);
     if (attiva.empty() || attiva[0] == None) return None;
@@ -131,25 +110,46 @@ FinestraX FinestraColFuoco() {
   return fuoco > PointerRoot ? fuoco : None;
 }
 
-bool Bloccata(FinestraX finestra) {
+int IgnoraErrore(Display*, XErrorEvent*) {
+  return 0;
+}
+
+}  // namespace
+
+Display* ConnessioneX() {
+  if (display != nullptr) return display;
+  display = XOpenDisplay(nullptr);
+  if (display == nullptr) return nullptr;
+  XSetErrorHandler(IgnoraErrore);
+  // Windows that come and go and change hands, with and without a window manager.
+  XSelectInput(display, Radice(), PropertyChangeMask | SubstructureNotifyMask);
+  return display;
+}
+
+bool FinestreInVista() {
+  return ConnessioneX() != nullptr;
+}
+
+std::optional<FinestraAltrui> FinestraPrincipale(const Processo& processo) {
+  for (const Window finestra : FinestreAperte())
+    if (DellaSessione(finestra, processo.gruppo) && Principale(finestra)) return finestra;
+  return std::nullopt;
+}
+
+bool ColFuoco(FinestraAltrui finestra) {
+  return FinestraColFuoco() == finestra;
+}
+
+bool Bloccata(FinestraAltrui finestra) {
   const auto aperte = FinestreAperte();
-  return std::any_of(aperte.begin(), aperte.end(), [&](FinestraX dialogo) {
+  return std::any_of(aperte.begin(), aperte.end(), [&](Window dialogo) {
     const auto stati = Proprieta(dialogo, "_NET_WM_STATE", XA_ATOM);
-    return Proprieta(dialogo, "WM_TRANSIENT_FOR", XA_WINDOW) == std::vector{finestra} &&
+    return Proprieta(dialogo, "WM_TRANSIENT_FOR", XA_WINDOW) == std::vector<Window>{finestra} &&
            std::find(stati.begin(), stati.end(), Nome("_NET_WM_STATE_MODAL")) != stati.end();
   });
 }
 
-ServerFermo::ServerFermo() {
-  XGrabServer(display);
-}
-
-ServerFermo::~ServerFermo() {
-  XUngrabServer(display);
-  XSync(display, False);
-}
-
-void ChiediAttivazione(FinestraX finestra) {
+void ChiediAttivazione(FinestraAltrui finestra) {
   if (GestoreServe("_NET_ACTIVE_WINDOW")) {
     XEvent richiesta{};
     richiesta.xclient.type = ClientMessage;
@@ -166,9 +166,11 @@ void ChiediAttivazione(FinestraX finestra) {
   XSync(display, False);
 }
 
-bool Aspetta(const std::function<bool()>& condizione, Orologio::time_point scadenza, int descrittore) {
+bool Aspetta(const std::function<bool()>& condizione, Orologio::time_point scadenza,
+             const Processo* processo) {
   // Some changes, as the keyboard's arrival at a window, are not reported to bystanders.
   constexpr std::chrono::milliseconds kRiprova{20};
+  const int descrittore = processo == nullptr ? -1 : static_cast<int>(processo->stesso);
   while (!condizione()) {
     if (Orologio::now() >= scadenza) return false;
     std::array<pollfd, 2> attesi{{{ConnectionNumber(display), POLLIN, 0}, {descrittore, POLLIN, 0}}};
