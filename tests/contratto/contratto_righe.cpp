@@ -134,7 +134,7 @@ const Riga kRighe[] = {
        return std::vector<Passo>{
            [&s] { s.u.Annota(RigaComando() + SeparatoreDecimale() + SeparatoreMigliaia()); }};
      },
-     " |x=\"a b\"|  perch\xE9,."},
+     "|x=\"a b\"|  perch\xE9,."},
 };
 
 TEST(ContrattoRighe, Tutte) {

@@ -21,7 +21,7 @@ using Passo = std::function<void()>;
 
 /// The program is started with these arguments, in a region with a decimal comma and points between
 /// the thousands.
-inline constexpr const char* kArgomenti[] = {"", "|x=\"a b\"|", "", "perch\xC3\xA9"};
+inline constexpr const char* kArgomenti[] = {"|x=\"a b\"|", "", "perch\xC3\xA9"};
 inline constexpr char kAppunti[] = "1\t2";  // what the clipboard holds
 
 class Utente {

@@ -1,7 +1,6 @@
 // The suite's user at a real window, by mouse and keyboard events. Every case runs the program in a
-// process of its own, as the program leaves its process when it ends; the diary comes by a pipe.
-#include <sys/wait.h>
-#include <unistd.h>
+// process of its own, as the program leaves its process when it ends; the diary comes by a file.
+#include <QtCore/qtestsupport_core.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,12 +10,9 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QScopedValueRollback>
-#include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 
 #include "platform/qt/avvio.h"
@@ -25,13 +21,15 @@
 #include "platform/qt/gestori.h"
 #include "platform/qt/testo_qt.h"
 #include "tests/contratto/utente.h"
+#include "tests/finestra/gesti.h"
+#include "tests/finestra/processo_proprio.h"
 
 namespace tarvel::contratto {
 namespace {
 
 constexpr int kTastoCanc = 127;
-constexpr int kPazienza = 5000;      // milliseconds for a line that does not come
-constexpr unsigned kTempoCaso = 20;  // seconds after which a case that hangs is ended
+constexpr int kPazienza = 5000;  // milliseconds for a line that does not come
+constexpr auto kPreme = QEvent::MouseButtonPress, kLascia = QEvent::MouseButtonRelease;
 
 Finestra* FinestraCon(const std::function<bool(const Finestra&)>& quale) {
   for (QWidget* widget : QApplication::topLevelWidgets())
@@ -51,13 +49,12 @@ QWidget* WidgetDi(const Controllo& controllo) {
 }
 
 void Clic(QWidget* widget, QPoint punto, Qt::KeyboardModifiers con = {}) {
-  QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, con,
-                    widget->mapTo(widget->window(), punto));
+  Mouse(widget->window()->windowHandle(), widget->mapTo(widget->window(), punto), {kPreme, kLascia}, con);
 }
 
 class UtenteQt : public Utente {
  public:
-  explicit UtenteQt(const std::string& tubo) : tubo_(tubo) {}
+  explicit UtenteQt(const std::filesystem::path& diarioFuori) : fuori_(diarioFuori, std::ios::binary) {}
 
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
@@ -65,7 +62,6 @@ class UtenteQt : public Utente {
     parole.insert(parole.end(), std::begin(kArgomenti), std::end(kArgomenti));
     std::vector<char*> argomenti;
     for (std::string& parola : parole) argomenti.push_back(parola.data());
-    setenv("LC_ALL", "it_IT.UTF-8", 1);
     PreparaDesktop(int(argomenti.size()), argomenti.data(), principale);
     QApplication::clipboard()->setText(kAppunti);
     Guarda();
@@ -75,7 +71,7 @@ class UtenteQt : public Utente {
 
   void Annota(const std::string& riga) override {
     Utente::Annota(riga);
-    tubo_ << riga << std::endl;
+    fuori_ << riga << std::endl;
   }
 
   void Vai(Controllo& controllo) override {
@@ -88,9 +84,8 @@ class UtenteQt : public Utente {
     if (controllo.tipo == TipoControllo::Lista)
       return Clic(widget, widget->rect().bottomLeft() + QPoint(9, -9));
     // A button pressed and left with the mouse held is no click.
-    QTest::mousePress(finestra, Qt::LeftButton, {}, widget->geometry().center());
-    QTest::mouseMove(finestra, QPoint(1, 1));
-    QTest::mouseRelease(finestra, Qt::LeftButton, {}, QPoint(1, 1));
+    Mouse(finestra, widget->geometry().center(), {kPreme});
+    Mouse(finestra, QPoint(1, 1), {QEvent::MouseMove, kLascia});
   }
 
   void Clicca(Controllo& controllo) override {
@@ -101,9 +96,9 @@ class UtenteQt : public Utente {
 
   void Premi(int tasto) override {
     QWindow* const finestra = QApplication::focusWindow();
-    if (tasto == kTastoIncolla) return QTest::keyClick(finestra, Qt::Key_V, Qt::ControlModifier);
-    if (tasto == kTastoCanc) return QTest::keyClick(finestra, Qt::Key_Delete);
-    QTest::keyClick(finestra, static_cast<char>(tasto));
+    if (tasto == kTastoIncolla) return Batti(finestra, Qt::Key_V, {}, Qt::ControlModifier);
+    if (tasto == kTastoCanc) return Batti(finestra, Qt::Key_Delete, "\x7F");
+    Batti(finestra, static_cast<char>(tasto));
   }
 
   void AltroProgramma() override {
@@ -114,14 +109,13 @@ class UtenteQt : public Utente {
 
   void Scrivi(Controllo& casella, const Testo& testo) override {
     if (!Raggiunge(casella)) return;
-    QTest::keyClick(QApplication::focusWindow(), Qt::Key_A, Qt::ControlModifier);
-    if (testo.empty()) return QTest::keyClick(QApplication::focusWindow(), Qt::Key_Backspace);
-    for (const QChar c : InQt(testo))
-      QTest::sendKeyEvent(QTest::Click, QApplication::focusWindow(), Qt::Key_unknown, QString(c), {});
+    Batti(QApplication::focusWindow(), Qt::Key_A, {}, Qt::ControlModifier);
+    if (testo.empty()) return Batti(QApplication::focusWindow(), '\b');
+    for (const QChar c : InQt(testo)) Batti(QApplication::focusWindow(), Qt::Key_unknown, QString(c));
   }
 
   void Invio(Controllo& controllo) override {
-    if (Raggiunge(controllo)) QTest::keyClick(QApplication::focusWindow(), Qt::Key_Return);
+    if (Raggiunge(controllo)) Batti(QApplication::focusWindow(), '\r');
   }
 
   void Seleziona(Controllo& controllo, const std::vector<int>& voci) override {
@@ -136,8 +130,8 @@ class UtenteQt : public Utente {
     auto* const lista = static_cast<QListWidget*>(Usabile(controllo));
     if (lista == nullptr) return;
     const QPoint punto = lista->visualItemRect(lista->item(voce)).center();
-    QTest::mouseDClick(lista->window()->windowHandle(), Qt::LeftButton, {},
-                       lista->viewport()->mapTo(lista->window(), punto));
+    Mouse(lista->window()->windowHandle(), lista->viewport()->mapTo(lista->window(), punto),
+          {kPreme, kLascia, kPreme, kLascia});
   }
 
   void Chiudi(Form& form) override {
@@ -214,19 +208,19 @@ class UtenteQt : public Utente {
       Annota(RigaMessaggio(static_cast<Icona>(icona), bottoni, DaQt(riquadro->windowTitle()),
                            DaQt(riquadro->text()), data.risposta));
       if (!pronta) {
-        if (domanda) QTest::keyClick(riquadro, Qt::Key_Escape);
+        if (domanda) Batti(riquadro->windowHandle(), '\x1B');
         riquadro->windowHandle()->close();
         if (riquadro->isVisible() != domanda) Annota(domanda ? "sparita" : "rimasta");
         if (!domanda) return;
       }
       // The first button is the default one.
-      if (data.risposta != Risposta::No) return QTest::keyClick(riquadro, Qt::Key_Return);
+      if (data.risposta != Risposta::No) return Batti(riquadro->windowHandle(), '\r');
       QAbstractButton* const bottone = riquadro->buttons()[1];
       Clic(bottone, bottone->rect().center());
     });
   }
 
-  std::ofstream tubo_;
+  std::ofstream fuori_;
   int livello_ = -1;  // modal forms shown at the innermost of the steps under way
   std::string aspettata_;
   QDeadlineTimer pazienza_;
@@ -236,27 +230,11 @@ class UtenteQt : public Utente {
 }  // namespace
 
 std::string Prova(const std::function<void(Utente&)>& caso) {
-  std::fflush(nullptr);
-  int capi[2];
-  if (pipe(capi) != 0) return {};
-  const std::string cartellaCapi = "/dev/fd/";
-  const pid_t figlio = fork();
-  if (figlio == 0) {
-    alarm(kTempoCaso);
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    unsetenv("DISPLAY");
-    UtenteQt utente(cartellaCapi + std::to_string(capi[1]));
+  const Svolto svolto = InProcessoProprio([&](const std::filesystem::path& diario) {
+    UtenteQt utente(diario);
     caso(utente);
-    std::_Exit(99);  // a case runs the program to its end
-  }
-  close(capi[1]);
-  std::ifstream tubo(cartellaCapi + std::to_string(capi[0]));
-  std::string diario;
-  for (std::string riga; std::getline(tubo, riga);) diario += riga + '\n';
-  close(capi[0]);
-  int stato = 0;
-  waitpid(figlio, &stato, 0);
-  return diario + "fine " + std::to_string(WIFEXITED(stato) ? WEXITSTATUS(stato) : -1) + '\n';
+  });
+  return svolto.diario + "fine " + std::to_string(svolto.stato) + '\n';
 }
 
 }  // namespace tarvel::contratto

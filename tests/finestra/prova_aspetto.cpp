@@ -1,5 +1,6 @@
 // What the user can read and do to a box, in one process without a screen: every caption is whole
 // at every scale, every change of a box is told, and only what a box can hold gets into it.
+#include <QtWidgets/qtestsupport_widgets.h>
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -11,7 +12,6 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
-#include <QTest>
 #include <fstream>
 
 #include "app/form_sez.h"
@@ -24,6 +24,7 @@
 #include "platform/qt/scala.h"
 #include "platform/qt/tasti.h"
 #include "platform/qt/testo_qt.h"
+#include "tests/finestra/gesti.h"
 
 namespace tarvel {
 namespace {
@@ -55,7 +56,7 @@ TEST(Casella, DiceOgniCambioETieneSoloTestoAOttoBit) {
 
   using Gesto = std::function<void()>;
   const auto tasto = [&](int quale, Qt::KeyboardModifiers con = {}) -> Gesto {
-    return [=, &casella] { QTest::keyClick(&casella, Qt::Key(quale), con); };
+    return [=, &casella] { Batti(casella.window()->windowHandle(), quale, {}, con); };
   };
   QInputMethodEvent composto;
   composto.setCommitString("é€");

@@ -3,10 +3,14 @@
 watched. What it writes is what the scripted desktop writes for the same session.
 
 Usage: prova_finestra.py FOLDER [GROUP...], the folder that of the programs.
-A failure at the screen leaves its picture, guasto-GROUP.png, in the working folder.
+A failure at the screen leaves its picture, guasto-GROUP.png, in the working folder. In the environment:
+TARVEL_EMULATORE, what programs for Windows are run with; TARVEL_PARAGONE, the folder of the scripted desktop
+where that is another; TARVEL_IMMAGINI, a folder for pictures of whatever form or message is first seen.
 """
 import contextlib
 import os
+import shlex
+import shutil
 import signal
 import subprocess
 import sys
@@ -19,6 +23,8 @@ from schermo import COL_CLICK, PAZIENZA, Schermo, attendi, finisce, programma
 QUI = Path(__file__).resolve().parent
 SESSIONE = QUI / "sessione.txt"
 
+EMULATORE = shlex.split(os.environ.get("TARVEL_EMULATORE", ""))
+IMMAGINI = os.environ.get("TARVEL_IMMAGINI")
 PRIMA_VOCE = 100  # twips from the upper edge of a list to its first entry
 
 
@@ -41,25 +47,60 @@ def forme(programmi, cartella):
 
 def recita_senza_schermo(programmi, radice, copione, decimale="."):
     """The script on the scripted desktop, in an installation of its own: the transcript."""
-    return subprocess.run([programmi / "tarvel1-headless", "--decimal", decimale, installa(radice, programmi)],
-                          input=copione, stdout=subprocess.PIPE, text=True, check=True, timeout=PAZIENZA).stdout
+    programma_scritto = Path(os.environ.get("TARVEL_PARAGONE", programmi)) / "tarvel1-headless"
+    Impianto(radice).installa(programmi)
+    esito = subprocess.run([programma_scritto, "--decimal", decimale, f"|diroot={radice}|"], input=copione,
+                           stdout=subprocess.PIPE, text=True, timeout=PAZIENZA)
+    assert esito.returncode != 2, esito.stdout  # a mistake in the script
+    return esito.stdout
 
 
-def installa(radice, programmi, visore="normale"):
-    """An installation with one job; its viewer is the stand-in, or no program with these rights."""
-    for cartella in ("impostazioni", "lavori/PR0042", "progra", "custom"):
-        (radice / cartella).mkdir(parents=True)
-    (radice / "impostazioni/dirlav").write_text(f"{radice}/lavori")
-    (radice / "impostazioni/lavoro").write_text("PR0042")
-    (radice / "progra/modo").write_text(str(visore))
-    os.mkfifo(radice / "progra/mostra")
-    ostrel = radice / "progra/ostrel.exe"
-    if isinstance(visore, str):
-        ostrel.symlink_to(programmi / "visore-finto")
-    else:
-        ostrel.write_text("no program\n")
-        ostrel.chmod(visore)
-    return f"|diroot={radice}|"
+class Impianto:
+    """An installation with one job. `nomi`: what the program calls its root and the folder of its jobs."""
+
+    def __init__(self, radice, lavori=None, nomi=None):
+        self.radice, self.lavori = radice, lavori or radice / "lavori"
+        self.nomi = nomi or (str(self.radice), str(self.lavori))
+
+    def installa(self, programmi, visore="normale"):
+        """Its viewer is our own, the stand-in, or no program with these rights."""
+        for cartella in (self.radice / "impostazioni", self.lavori / "PR0042", self.radice / "progra",
+                         self.radice / "custom"):
+            cartella.mkdir(parents=True)
+        (self.radice / "impostazioni/dirlav").write_text(self.nomi[1], encoding="cp1252")
+        (self.radice / "impostazioni/lavoro").write_text("PR0042")
+        (self.radice / "progra/modo").write_text(str(visore))
+        ostrel = self.radice / "progra/ostrel.exe"
+        if visore == "vero":
+            shutil.copy(eseguibile(programmi, "ostrel"), ostrel)
+        elif isinstance(visore, str):
+            ostrel.symlink_to(eseguibile(programmi, "visore-finto"))
+        else:
+            ostrel.write_text("no program\n")
+            ostrel.chmod(visore)
+
+    def scritti(self):
+        return {(cartella.name.lower(), file.relative_to(cartella)): file.read_bytes()
+                for cartella in (self.lavori, self.radice / "custom")
+                for file in cartella.rglob("*") if file.is_file()}
+
+
+def impianto(cartella, gruppo):
+    """The folder's own, as the host or Windows calls it; or one on two drives of Windows."""
+    if gruppo != "unita":
+        radice = cartella / "impianto"
+        return Impianto(radice, nomi=EMULATORE and ["Z:" + f"{radice}{sotto}".replace("/", "\\")
+                                                    for sotto in ("", "/lavori")])
+    prefisso = Path(os.environ["WINEPREFIX"])
+    radice, dati = prefisso / "drive_c/Inst perché", prefisso / "dosdevices/d:"
+    shutil.rmtree(radice, ignore_errors=True)
+    dati.unlink(missing_ok=True)
+    dati.symlink_to(cartella)
+    return Impianto(radice, cartella / "Dati è/Lavori", ("C:\\Inst perché\\", "D:\\Dati è\\Lavori"))
+
+
+def eseguibile(programmi, nome):
+    return programmi / (nome + ".exe" if EMULATORE else nome)
 
 
 class Seduta:
@@ -67,6 +108,7 @@ class Seduta:
 
     def __init__(self, schermo, radice, figlio, forme):
         self.schermo, self.radice, self.figlio, self.forme = schermo, radice, figlio, forme
+        self.viste = set()
         self.form = "tarvel1"
         self.ultimo = self.form, next(iter(forme[self.form][1]))  # the control that has the focus
 
@@ -75,10 +117,18 @@ class Seduta:
         file = self.radice / "progra/visore.log"
         return file.read_text() if file.exists() else ""
 
+    def vede(self, nome):
+        """The window of this name in front, with a picture for who wants to look at it."""
+        finestra = self.schermo.davanti(nome)
+        if IMMAGINI and nome not in self.viste:
+            self.viste.add(nome)
+            self.schermo.ritrai(Path(IMMAGINI) / f"{self.radice.name}-{nome}.png")
+        return finestra
+
     def recita(self, righe):
         for riga in righe:
             try:
-                self.esegui(riga.removeprefix("#: ").split())
+                self.esegui(shlex.split(riga.removeprefix("#: ")))
             except Exception as guasto:
                 raise AssertionError(f"cannot play '{riga}': {guasto}") from guasto
 
@@ -89,14 +139,22 @@ class Seduta:
             case ["form" | "activate" as verbo, nome]:
                 if verbo == "activate":  # as the task bar does
                     self.schermo.mano("windowactivate", self.schermo.trova(nome))
-                self.schermo.davanti(nome)
+                self.vede(nome)
                 self.form = nome if nome in self.forme else self.form
+            case ["raised", nome]:  # of what one program does to another's window the emulated screen is not told
+                if not EMULATORE:
+                    self.vede(nome)
             case ["viewer", riga]:
                 attendi(lambda: self.diario().endswith(riga + "\n"), f"the viewer's {riga}", self.diario)
             case ["log", *atteso]:
                 attendi(lambda: self.diario().split() == atteso, f"the viewer's {atteso}", self.diario)
             case ["show"]:
-                self.schermo.chiedi("cp", "/dev/null", self.radice / "progra/mostra")
+                (self.radice / "progra/mostra").touch()
+            case ["title", nome, testo]:
+                attendi(lambda: testo in self.schermo.titolo(self.schermo.trova(nome)), f"the title {testo}",
+                        self.schermo.aperte)
+            case ["gone", nome]:
+                attendi(lambda: nome not in map(self.schermo.nome, self.schermo.finestre()), f"{nome} to go")
             case ["minimize" | "restore" as verbo, nome]:
                 azione = {"minimize": "windowminimize", "restore": "windowactivate"}[verbo]
                 self.schermo.mano(azione, self.schermo.trova(nome))
@@ -109,7 +167,7 @@ class Seduta:
                 self.schermo.davanti(nome)
                 self.schermo.mano("key", tasti)
             case ["message", titolo, *risposta]:
-                riquadro = self.schermo.davanti(titolo)
+                riquadro = self.vede(titolo)
                 if risposta:  # nothing else answers a question
                     self.schermo.mano("key", "Escape", "alt+F4")
                     self.schermo.chiudi(titolo)
@@ -160,16 +218,11 @@ class Seduta:
         self.ultimo = (self.form, nome)
 
 
-def confronta(radice, programmi, copione, decimale):
+def confronta(installato, programmi, cartella, copione, decimale):
     """With what the scripted desktop writes."""
-    atteso = radice.with_name("atteso")
+    atteso = cartella / "atteso"
     recita_senza_schermo(programmi, atteso, copione, decimale)
-
-    def scritti(da):
-        return {file.relative_to(da): file.read_bytes()
-                for cartella in ("lavori", "custom") for file in (da / cartella).rglob("*") if file.is_file()}
-
-    previsti, avuti = scritti(atteso), scritti(radice)
+    previsti, avuti = Impianto(atteso).scritti(), installato.scritti()
     diversi = [str(nome) for nome in previsti.keys() | avuti.keys() if previsti.get(nome) != avuti.get(nome)]
     assert previsti and not diversi, f"not the scripted desktop's: {sorted(diversi)}"
 
@@ -189,12 +242,22 @@ def tabulazione(forme):
 
 # The groups whose files are compared: screen, locale, its decimal separator.
 SESSIONI = {"sessione-piccola": ("640x480", "C", "."), "sessione-media": ("1440x900", "xx_YY.bogus", "."),
-            "sessione-grande": ("1920x1080", "de_DE.UTF-8", ","), "tabulazione": ("1024x600", "C", ".")}
+            "sessione-grande": ("1920x1080", "de_DE.UTF-8", ","), "tabulazione": ("1024x600", "C", "."),
+            "unita": ("1024x600", "C", "."), "fatale": ("1024x600", "C", "."), "visore-vero": ("1024x600", "C", ".")}
 RIGHE_SESSIONE = [*SESSIONE.read_text().splitlines(), "#: end 0", "#: log avviato normale Alt+f Alt+g chiusura"]
+ANTEPRIMA = RIGHE_SESSIONE[:RIGHE_SESSIONE.index("#: form ostrel") + 2]
 INSERVIBILE = ["click Command4", "message ERRORE", "click Command5", "end 0"]
 # The viewer, the lines to play or what makes them of the forms.
 GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
     "tabulazione": ("normale", tabulazione),
+    # Ours: started, sent the keys to reload, closed.
+    "visore-vero": ("vero", [*ANTEPRIMA, "type nome SECONDA", "click Calcolo", "#: message INFORMAZIONE",
+                             "click Command2", "#: message INFORMAZIONE", "click Command4", "#: raised ostrel",
+                             "#: title ostrel SECONDA", "#: activate tarvel1", "click Command5", "tick 50",
+                             "#: end 0", "#: gone ostrel"]),
+    # The section file of the table so far is written before the end.
+    "fatale": ("normale", [*ANTEPRIMA, "type Text1(16) 1e300", "click Calcolo",
+                           "#: message 'SEZIONE UTENTE TIPO PONTE 1'", "#: end 1"]),
     "visore-muore": ("muore", ["click Command4", "log avviato muore", "click Command4",
                                "log avviato muore avviato muore", "click Command5", "end 0"]),
     # The second click waits for the window.
@@ -206,7 +269,7 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
                                "log avviato sordo chiusura", "form ostrel"]),
     # Keys are for its main window or for none.
     "visore-dialogo": ("dialogo", ["click Command4", "activate dialogo", "activate tarvel1", "click Command4",
-                                   "form dialogo", "activate tarvel1", "click Command5", "end 0",
+                                   "raised dialogo", "activate tarvel1", "click Command5", "end 0",
                                    "log avviato dialogo"]),
     "visore-non-programma": (0o700, INSERVIBILE),
     "visore-non-eseguibile": (0o400, INSERVIBILE),
@@ -224,6 +287,10 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
                                "click Command1", "form tarvel1", "click Command5", "end 0"]),
     "argomento": ("normale", ["message ERRORE", "end 1"]),
 }
+
+
+# What a window manager has its part in: forms minimized and covered, no screen at all.
+DEL_GESTORE = ["ridotte", "altra-form", "senza-schermo"]
 
 
 def congeda(cartella):
@@ -245,41 +312,81 @@ def senza_schermo(programmi):
                 nome, altro, fine)
 
 
-def prova(gruppo, programmi, cartella):
+def imposta_regione(schermo, decimale):
+    """The region of the user of Windows."""
+    for nome, segno in (("sDecimal", decimale), ("sThousand", ",."[decimale == ","])):
+        subprocess.run([*EMULATORE, "reg", "add", r"HKCU\Control Panel\International", "/v", nome, "/d", segno, "/f"],
+                       env=schermo.ambiente, check=True, stdout=subprocess.DEVNULL)
+
+
+def contratto(programmi, schermo):
+    """The contract of the seam, which shows the window of another program for a moment."""
+    imposta_regione(schermo, ",")
+    esito = subprocess.run([*EMULATORE, programmi / "contratto-qt.exe"], env=schermo.ambiente, timeout=PAZIENZA * 4,
+                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
+    assert esito.returncode == 0, esito.stdout
+    attendi(lambda: not schermo.finestre(), "the other program to close", schermo.aperte)
+
+
+def prova(gruppo, programmi, cartella, schermo=None):
+    """Seconds until the main form was shown."""
     if gruppo == "senza-schermo":
         return senza_schermo(programmi)
+    if gruppo == "contratto":
+        return contratto(programmi, schermo)
     visore, righe = GRUPPI[gruppo]
     trovate = forme(programmi, cartella)
     righe = righe(trovate) if callable(righe) else righe
     misure, regione, decimale = SESSIONI.get(gruppo, ("1024x600", "C", "."))
-    radice = cartella / "impianto"
-    argomento = installa(radice, programmi, visore)
-    with (Schermo(misure, cartella, COL_CLICK if gruppo == "altra-form" else "") as schermo,
-          programma(programmi / "tarvel1", "lavoro" if gruppo == "argomento" else argomento,
-                    env=schermo.ambiente | {"LC_ALL": regione}) as figlio):
+    installato = impianto(cartella, gruppo)
+    installato.installa(programmi, visore)
+    # Windows hands on what stands on the command line as it stands there, a blank in a name included.
+    argomenti = ["lavoro"] if gruppo == "argomento" else f"|diroot={installato.nomi[0]}|".split(" ")
+    with contextlib.ExitStack() as pila:
+        schermo = schermo or pila.enter_context(
+            Schermo(misure, cartella, COL_CLICK if gruppo == "altra-form" else ""))
+        if EMULATORE:
+            imposta_regione(schermo, decimale)
+        inizio = time.monotonic()
+        figlio = pila.enter_context(programma(
+            *EMULATORE, eseguibile(programmi, "tarvel1"), *argomenti,
+            env=schermo.ambiente | {"LC_ALL": "C.UTF-8" if EMULATORE else regione}))
         try:
-            Seduta(schermo, radice, figlio, trovate).recita(righe)
+            mostrata = gruppo != "argomento" and schermo.davanti("tarvel1") and time.monotonic() - inizio
+            Seduta(schermo, installato.radice, figlio, trovate).recita(righe)
         except AssertionError:
             with contextlib.suppress(OSError):
-                schermo.chiedi("import", "-window", "root", f"guasto-{gruppo}.png")
+                schermo.ritrai(f"guasto-{gruppo}.png")
             raise
     if gruppo in SESSIONI:
-        confronta(radice, programmi, "\n".join(righe), decimale)
+        confronta(installato, programmi, cartella, "\n".join(righe), decimale)
+    return mostrata
 
 
 def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    programmi, gruppi, falliti = Path(sys.argv[1]).resolve(), sys.argv[2:] or [*GRUPPI, "senza-schermo"], 0
-    for gruppo in gruppi:
-        esito, inizio = "ok", time.monotonic()
-        with tempfile.TemporaryDirectory(prefix="finestra") as cartella:
-            try:
-                prova(gruppo, programmi, Path(cartella))
-            except Exception as guasto:
-                esito, falliti = f"FAILED: {guasto!r}", falliti + 1
-            finally:
-                congeda(cartella)
-        print(f"{gruppo}: {esito} ({time.monotonic() - inizio:.1f} s)", flush=True)
+    programmi, falliti = Path(sys.argv[1]).resolve(), 0
+    # Windows is started at the one screen that it then shows its windows at.
+    solo_qui = [*DEL_GESTORE, "sessione-media", "sessione-grande"] if EMULATORE else ["contratto", "unita"]
+    gruppi = sys.argv[2:] or [g for g in (*GRUPPI, "senza-schermo", "contratto") if g not in solo_qui]
+    with contextlib.ExitStack() as pila:
+        schermo = None
+        if EMULATORE:
+            regole = Path(pila.enter_context(tempfile.TemporaryDirectory()))
+            schermo = pila.enter_context(Schermo("1024x768", regole, COL_CLICK))
+            subprocess.run([*EMULATORE, "--avvia"], env=schermo.ambiente, check=True)
+            pila.callback(subprocess.run, [*EMULATORE, "--ferma"], env=schermo.ambiente)
+        for gruppo in gruppi:
+            esito, inizio, mostrata = "ok", time.monotonic(), None
+            with tempfile.TemporaryDirectory(prefix="finestra") as cartella:
+                try:
+                    mostrata = prova(gruppo, programmi, Path(cartella), schermo)
+                except Exception as guasto:
+                    esito, falliti = f"FAILED: {guasto!r}", falliti + 1
+                finally:
+                    congeda(cartella)
+            dopo = f", shown after {mostrata:.2f} s" if mostrata else ""
+            print(f"{gruppo}: {esito} ({time.monotonic() - inizio:.1f} s{dopo})", flush=True)
     print(f"{len(gruppi) - falliti} passed, {falliti} failed")
     return 1 if falliti else 0
 

@@ -10,6 +10,9 @@ import subprocess
 import time
 
 PAZIENZA, RIPROVA = 30, 0.02  # seconds
+PROGRAMMA = "SEZIONE UTENTE TIPO PONTE 1"
+TITOLI = {PROGRAMMA: "tarvel1", "OPZIONI di DISEGNO": "FormOpt"}
+SENZA_TITOLO = dict.fromkeys(("FormSez", "FormSez2"), " ")
 
 # The user's own settings stay out. Without a binding for clicks into windows the manager holds none
 # back, so that keys cannot overtake them; with one a click makes its window the active one first.
@@ -79,12 +82,25 @@ class Schermo(contextlib.ExitStack):
     def finestre(self, quali="_NET_CLIENT_LIST"):
         return re.findall(r"0x\w+", self.chiedi("xprop", "-root", quali))
 
+    def proprieta(self, finestra):
+        testo = self.chiedi("xprop", "-id", finestra, "WM_WINDOW_ROLE", "_NET_WM_NAME", "WM_TRANSIENT_FOR")
+        return dict(re.findall(r'^(\w+)\(\w+\)(?: =|:) "?(.*?)"?$', testo, re.M))
+
+    def titolo(self, finestra):
+        return self.proprieta(finestra).get("_NET_WM_NAME", "")
+
     def nome(self, finestra):
-        """Its role (a form's name) or, where it has none of its own, its title."""
-        testo = self.chiedi("xprop", "-id", finestra, "WM_WINDOW_ROLE", "_NET_WM_NAME")
-        nomi = dict(re.findall(r'^(\w+)\(\w+\) = "(.*)"$', testo, re.M))
-        ruolo = nomi.get("WM_WINDOW_ROLE", "messaggio")
-        return nomi.get("_NET_WM_NAME") if ruolo == "messaggio" else ruolo
+        """Its role (a form's name) or, where it has none of its own, its title: that of a drawing's window ends
+        with its program. Windows has no roles: its forms have their titles."""
+        dice = self.proprieta(finestra)
+        titolo = dice.get("_NET_WM_NAME", "").split(" - ")[-1]
+        ruolo = dice.get("WM_WINDOW_ROLE", "messaggio")
+        if ruolo != "messaggio":
+            return ruolo
+        return TITOLI.get(titolo, titolo) if "WM_TRANSIENT_FOR" not in dice or titolo != PROGRAMMA else titolo
+
+    def ha_nome(self, finestra, nome):
+        return self.nome(finestra) in (nome, SENZA_TITOLO.get(nome))
 
     def aperte(self):
         """What is on the screen, for who waits in vain."""
@@ -92,13 +108,13 @@ class Schermo(contextlib.ExitStack):
         return [self.nome(f) or "?" for f in self.finestre()], "in front", [self.nome(f) for f in davanti]
 
     def trova(self, nome):
-        return attendi(lambda: next((f for f in self.finestre() if self.nome(f) == nome), None), f"a window {nome}", self.aperte)
+        return attendi(lambda: next((f for f in self.finestre() if self.ha_nome(f, nome)), None), f"a window {nome}", self.aperte)
 
     def davanti(self, nome):
         """The window of this name, as soon as it has the keyboard."""
         def cerca():
             fuoco = hex(int(self.chiedi("xdotool", "getwindowfocus", "-f") or 0))
-            return [fuoco] == self.finestre("_NET_ACTIVE_WINDOW") and self.nome(fuoco) == nome and fuoco
+            return [fuoco] == self.finestre("_NET_ACTIVE_WINDOW") and self.ha_nome(fuoco, nome) and fuoco
         return attendi(cerca, f"{nome} in front", self.aperte)
 
     def posto(self, finestra):
@@ -107,6 +123,14 @@ class Schermo(contextlib.ExitStack):
         return [int(re.search(rf"{voce}: +(-?\d+)", testo)[1]) for voce in (
             "Absolute upper-left X", "Absolute upper-left Y", "Width",
             "Relative upper-left X", "Relative upper-left Y")]
+
+    def ritrai(self, file):
+        """A picture of the screen, once nothing moves on it any more."""
+        prima, adesso = None, ""
+        while prima != adesso:
+            time.sleep(10 * RIPROVA)
+            prima, adesso = adesso, self.chiedi("import", "-window", "root", "ppm:-")
+        self.chiedi("import", "-window", "root", file)
 
     def chiudi(self, nome):
         """Clicks the close box, at the right end of the title bar."""

@@ -1,10 +1,12 @@
-// Files of Windows: how paths are found, what is no file.
+// Files and programs of Windows: how paths are found, what is no file, programs started.
 #include <gtest/gtest.h>
 #include <windows.h>
 
 #include <filesystem>
 
+#include "platform/programmi.h"
 #include "tests/contratto/cartella_prova.h"
+#include "tests/contratto/mobili.h"
 
 namespace tarvel::contratto {
 namespace {
@@ -48,6 +50,27 @@ TEST_F(ContrattoFile, IDispositiviNonSonoFileUnoNascostoResta) {
   EXPECT_EQ(ScriviFile(Percorso("nascosto"), "nuovo"), EsitoScrittura::Scritto);
   EXPECT_EQ(Letto("nascosto"), "nuovo");
   EXPECT_NE(GetFileAttributesW((cartella_ / "nascosto").c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+}
+
+// The last one stays until its window is sent the keys that close it.
+TEST_F(ContrattoFile, IdentificativiNuoviESoloDiProgrammiAvviati) {
+  const std::string diario = Prova([](Utente& u) {
+    FormDiario form(u, "F");
+    form.alCaricamento = [&] {
+      Testo sistema(MAX_PATH, '\0');
+      sistema.resize(GetSystemDirectoryA(sistema.data(), MAX_PATH));
+      const auto uno = AvviaProgramma(sistema + "\\hostname.exe", 1);
+      const auto due = AvviaProgramma(sistema + "\\hostname.exe", 1);
+      u.Annota(uno && due && *uno != 0 && *due != 0 && *uno != *due ? "diversi" : "guasto");
+      for (const Testo& percorso : {sistema + "\\non c'e'", sistema, Testo()})
+        u.Annota(AvviaProgramma(percorso, 1) ? "avviato" : "niente");
+      const std::int32_t vivo = AvviaProgramma(sistema + "\\notepad.exe", 1).value_or(0);
+      for (const std::int32_t id : {0, -1, 12345, vivo}) u.Annota(AttivaProgramma(id) ? "attivo" : "nessuno");
+      InviaTasti("%{F4}");
+    };
+    u.Esegui(form, {});
+  });
+  EXPECT_EQ(diario, Righe("load F; diversi; niente; niente; niente; nessuno; nessuno; nessuno; attivo"));
 }
 
 }  // namespace
