@@ -39,14 +39,15 @@ std::optional<std::int32_t> AvviaProgramma(const Testo& percorso, std::int16_t) 
 bool AttivaProgramma(std::int32_t id) {
   destinataria.reset();
   if (id < 1 || std::size_t(id) > compiti.size()) return false;
-  const auto& [processo, avvio] = compiti[std::size_t(id) - 1];
+  const Compito& compito = compiti[std::size_t(id) - 1];
+  const Processo& processo = compito.processo;
   if (Finito(processo) || !FinestreInVista()) return !Finito(processo);
   Aspetta(
       [&] {
         if (!Finito(processo)) destinataria = FinestraPrincipale(processo);
         return destinataria || Finito(processo);
       },
-      avvio + kAttesaFinestra, &processo);
+      compito.avvio + kAttesaFinestra, &processo);
   if (destinataria) ChiediAttivazione(*destinataria);
   return !Finito(processo);
 }

@@ -38,9 +38,10 @@ TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
 }
 
 TEST(Schema, AltezzeNereBasiBluPendenzeVerdi) {
+  constexpr Colore kBlu{0, 0, 255}, kVerde{0, 128, 0};
   const auto caselle = CaselleSchema();
   for (std::size_t i = 0; i < caselle.size(); ++i)
-    EXPECT_EQ(caselle[i].colore, i < 9 ? kNero : i < 16 ? Colore(0, 0, 255) : Colore(0, 128, 0)) << i;
+    EXPECT_EQ(caselle[i].colore, i < 9 ? kNero : i < 16 ? kBlu : kVerde) << i;
 }
 
 }  // namespace

@@ -17,8 +17,8 @@ HANDLE Di(Ospite::Maniglia file) {
 // A handle, where what was opened is a file of a disk: a device (CON, NUL, a port) would swallow a drawing
 // of its name, or wait for ever.
 std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DWORD condiviso, DWORD come) {
-  const HANDLE file =
-      CreateFileW(PercorsoLargo(percorso).c_str(), modo, condiviso, nullptr, come, FILE_ATTRIBUTE_NORMAL, nullptr);
+  const HANDLE file = CreateFileW(PercorsoLargo(percorso).c_str(), modo, condiviso, nullptr, come,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return std::nullopt;
   if (GetFileType(file) == FILE_TYPE_DISK) return reinterpret_cast<Ospite::Maniglia>(file);
   CloseHandle(file);
