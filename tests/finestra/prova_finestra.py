@@ -324,7 +324,9 @@ def contratto(programmi, schermo):
     imposta_regione(schermo, ",")
     esito = subprocess.run([*EMULATORE, programmi / "contratto-qt.exe"], env=schermo.ambiente, timeout=PAZIENZA * 4,
                            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
-    assert esito.returncode == 0, esito.stdout
+    if esito.returncode != 0:
+        print(esito.stdout)
+    assert esito.returncode == 0, "the contract"
     attendi(lambda: not schermo.finestre(), "the other program to close", schermo.aperte)
 
 
