@@ -159,6 +159,9 @@ class Seduta:
                 azione = {"minimize": "windowminimize", "restore": "windowactivate"}[verbo]
                 self.schermo.mano(azione, self.schermo.trova(nome))
                 self.schermo.giro()
+            case ["aside", nome]:  # below the main form
+                self.schermo.mano("windowmove", self.schermo.trova(nome), 0, 380)
+                self.schermo.giro()
             case ["across", nome, controllo]:
                 self.clicca(self.schermo.trova(nome), nome, controllo)
             case ["close", nome]:
@@ -282,15 +285,15 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
                             "form FormSez2", "minimize FormSez2", "form FormOpt", "restore tarvel1",
                             "form FormSez2", "click Command1", "form tarvel1", "click Command5", "end 0"]),
     # The box left has something to say first.
-    "altra-form": ("normale", ["click Command6", "form FormOpt", "click TextOpt(1)", "type TextOpt(2) x",
-                               "across tarvel1 Command7", "message ATTENZIONE", "form FormSez2",
+    "altra-form": ("normale", ["click Command6", "form FormOpt", "aside FormOpt", "click TextOpt(1)",
+                               "type TextOpt(2) x", "across tarvel1 Command7", "message ATTENZIONE", "form FormSez2",
                                "click Command1", "form tarvel1", "click Command5", "end 0"]),
     "argomento": ("normale", ["message ERRORE", "end 1"]),
 }
 
 
-# What a window manager has its part in: forms minimized and covered, no screen at all.
-DEL_GESTORE = ["ridotte", "altra-form", "senza-schermo"]
+# On Windows there is a screen, and nothing to minimize a form of these with.
+DI_X = ["ridotte", "senza-schermo"]
 
 
 def congeda(cartella):
@@ -369,7 +372,7 @@ def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     programmi, falliti = Path(sys.argv[1]).resolve(), 0
     # Windows is started at the one screen that it then shows its windows at.
-    solo_qui = [*DEL_GESTORE, "sessione-media", "sessione-grande"] if EMULATORE else ["contratto", "unita"]
+    solo_qui = [*DI_X, "sessione-media", "sessione-grande"] if EMULATORE else ["contratto", "unita"]
     gruppi = sys.argv[2:] or [g for g in (*GRUPPI, "senza-schermo", "contratto") if g not in solo_qui]
     with contextlib.ExitStack() as pila:
         schermo = None
