@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
-#include <fstream>
 
 #include "app/form_sez.h"
 #include "app/tarvel1.h"
@@ -24,6 +23,7 @@
 #include "platform/qt/scala.h"
 #include "platform/qt/tasti.h"
 #include "platform/qt/testo_qt.h"
+#include "tests/cartella.h"
 #include "tests/finestra/gesti.h"
 
 namespace tarvel {
@@ -116,9 +116,10 @@ void ControllaTesti(Form& form) {
 
 TEST_P(AScala, NessunaScrittaENessunaNotaTagliata) {
   const auto [larghezza, altezza] = GetParam();
-  const std::string file = ::testing::TempDir() + "schermo" + std::to_string(larghezza) + ".json";
-  std::ofstream(file) << R"({"screens":[{"name":"s","x":0,"y":0,"logicalDpi":96,"dpr":1,"width":)"
-                      << larghezza << ",\"height\":" << altezza << "}]}";
+  const prove::Cartella cartella;  // its own: the tests may be run twice at once
+  const std::string file = (cartella / "schermo.json").string();
+  prove::Scrivi(file, R"({"screens":[{"name":"s","x":0,"y":0,"logicalDpi":96,"dpr":1,"width":)" +
+                          std::to_string(larghezza) + ",\"height\":" + std::to_string(altezza) + "}]}");
   Prepara(FormPrincipale(), ("offscreen:configfile=" + file).c_str());
   EXPECT_LE(Pixel(FormPrincipale().larghezza), std::max(629, larghezza * 2 / 3));
   EXPECT_LE(Pixel(FormPrincipale().altezza), std::max(319, altezza * 2 / 3));
