@@ -106,8 +106,8 @@ def eseguibile(programmi, nome):
 class Seduta:
     """The program at a screen, played by lines of a script."""
 
-    def __init__(self, schermo, radice, figlio, forme):
-        self.schermo, self.radice, self.figlio, self.forme = schermo, radice, figlio, forme
+    def __init__(self, gruppo, schermo, radice, figlio, forme):
+        self.gruppo, self.schermo, self.radice, self.figlio, self.forme = gruppo, schermo, radice, figlio, forme
         self.viste = set()
         self.form = "tarvel1"
         self.ultimo = self.form, next(iter(forme[self.form][1]))  # the control that has the focus
@@ -122,7 +122,7 @@ class Seduta:
         finestra = self.schermo.davanti(nome)
         if IMMAGINI and nome not in self.viste:
             self.viste.add(nome)
-            self.schermo.ritrai(Path(IMMAGINI) / f"{self.radice.name}-{nome}.png")
+            self.schermo.ritrai(Path(IMMAGINI) / f"{self.gruppo}-{nome}.png")
         return finestra
 
     def recita(self, righe):
@@ -358,7 +358,7 @@ def prova(gruppo, programmi, cartella, schermo=None):
             env=schermo.ambiente | {"LC_ALL": "C.UTF-8" if EMULATORE else regione}))
         try:
             mostrata = gruppo != "argomento" and schermo.davanti("tarvel1") and time.monotonic() - inizio
-            Seduta(schermo, installato.radice, figlio, trovate).recita(righe)
+            Seduta(gruppo, schermo, installato.radice, figlio, trovate).recita(righe)
         except AssertionError:
             with contextlib.suppress(OSError):
                 schermo.ritrai(f"guasto-{gruppo}.png")

@@ -29,7 +29,7 @@ def prova(ostrel, disegno, cartella):
           programma(ostrel, "--senza-sorveglianza", cwd=progra, env=schermo.ambiente | sanificato) as figlio):
         def titolo(parola):
             def cerca():
-                return [f for f in schermo.finestre() if parola in schermo.nome(f) and "ostrel" in schermo.nome(f)]
+                return [f for f in schermo.finestre() if parola in schermo.titolo(f) and "ostrel" in schermo.titolo(f)]
             return attendi(cerca, f"the title {parola}", schermo.aperte)
 
         finestra, = titolo("U_PO_001")
