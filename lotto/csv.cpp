@@ -12,7 +12,6 @@ constexpr std::size_t kBlocco = 1 << 16;
 /// How far the end of a quoted cell is looked for.
 constexpr std::size_t kVirgoletteMassime = 1 << 16;
 constexpr std::string_view kSeparatori = "\t;,";
-constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
 constexpr auto npos = std::string::npos;
 
 // Appends a block, what was read before it going first; false at the end.

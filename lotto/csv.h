@@ -12,6 +12,9 @@
 
 namespace tarvel::lotto {
 
+/// The byte order mark.
+inline constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
+
 enum class Codifica { Utf8, Utf8ConSegno, Windows1252 };
 
 struct FormatoCsv {

@@ -35,7 +35,7 @@ void ControllaDecimali(const std::vector<std::string>& celle, bool virgola) {
     const bool cosi = NumeroCella(cella, virgola).has_value(),
                diversa = NumeroCella(cella, !virgola).has_value();
     if (cosi && !diversa) return;
-    if (diversa && !cosi) altro = &cella;
+    if (diversa && !cosi && altro == nullptr) altro = &cella;
   }
   if (altro == nullptr) return;
   throw ErroreFatale(TipoErrore::Formato,

@@ -77,8 +77,9 @@ struct Lotto {
   Avanzamento avanzamento;
 };
 
-void Scrivi(Lotto& l, const std::string& testo) {
-  if (std::fwrite(testo.data(), 1, testo.size(), stdout) == testo.size()) return;
+// What became of a write; a closed pipe is for whoever asked to end.
+void Controlla(Lotto& l, bool scritto) {
+  if (scritto) return;
   // Windows has no code of its own for a closed pipe.
   l.tuboChiuso = errno == EPIPE || errno == EINVAL;
   if (!l.tuboChiuso) throw ErroreFatale(TipoErrore::File, "l'uscita non si scrive");
@@ -111,7 +112,7 @@ bool Consegna(Lotto& l, std::vector<Riga>& righe) {
     ++l.righe;
     if (!riga.motivo.empty()) ++l.errori;
   }
-  Scrivi(l, testo);
+  Controlla(l, std::fwrite(testo.data(), 1, testo.size(), stdout) == testo.size());
   l.avanzamento.Mostra(l.righe, l.errori);
   return !l.tuboChiuso;
 }
@@ -137,7 +138,7 @@ int Esegui(Lotto& l) {
                                     .consegna = [&](Blocco& b) { return Consegna(l, b.righe); },
                                     .smetti = [] { return gInterrotto.load(); }});
   if (!tutto && !l.tuboChiuso) return kInterrotto;
-  if (!l.tuboChiuso && std::fflush(stdout) != 0) Scrivi(l, " ");  // says why
+  if (!l.tuboChiuso) Controlla(l, std::fflush(stdout) == 0);
   if (l.tuboChiuso) return kTuboChiuso;
   if (l.salvataggi.sezioni) ScriviSezioni(l.salvataggi, l.richieste.sezio);
   return l.errori > 0 ? kRigheConErrore : kFinito;

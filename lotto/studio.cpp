@@ -127,7 +127,7 @@ void CalcolaRiga(Riga& riga, const Uscita& uscita, bool conserva) {
 }
 
 std::string ComponiIntestazione(const Uscita& uscita) {
-  std::string testo = "nome";
+  std::string testo = uscita.formato.codifica == Codifica::Utf8ConSegno ? Testo(kSegnoUtf8) + "nome" : "nome";
   for (const char* nome :
        {"larghezza", "altezza", "ZG", "YG", "An", "Aty", "Atz", "Jt", "Jyg", "Jzg", "errore"})
     (testo += uscita.formato.separatore) += nome;
