@@ -259,6 +259,7 @@ def memoria(righe):
                 processo.stdin.write(blocco)
             os._exit(0)
         processo.stdin.close()
+        time.sleep(.5)  # a reader that is slow
         scritte = sum(pezzo.count(b"\n") for pezzo in iter(lambda: processo.stdout.read(1 << 16), b""))
         _, stato, risorse = os.wait4(processo.pid, 0)
         processo.returncode = stato
