@@ -70,6 +70,7 @@ struct Lotto {
   std::vector<Riletta> rilette;
   Ingresso ingresso;
   Uscita uscita;
+  bool conserva = false;    // of each row its section, to be saved or drawn
   bool deciso = false;      // the output is as the first file is
   bool cominciato = false;  // its header is written
   bool tuboChiuso = false;
@@ -97,6 +98,10 @@ bool Leggi(Lotto& l, std::vector<Riga>& righe) {
     l.deciso = true;
   }
   return altre;
+}
+
+void Calcola(const Lotto& l, std::vector<Riga>& righe) {
+  for (Riga& riga : righe) CalcolaRiga(riga, l.uscita, l.conserva);
 }
 
 bool Consegna(Lotto& l, std::vector<Riga>& righe) {
@@ -128,14 +133,12 @@ int Esegui(Lotto& l) {
   l.uscita.punti = l.richieste.punti;
   if (!l.richieste.da.empty()) l.rilette = Rileggi(l.richieste.da);
 
-  const bool conserva = l.salvataggi.sezioni || l.salvataggi.disegni;
+  l.conserva = l.salvataggi.sezioni || l.salvataggi.disegni;
+  // Threads may outlive this call: what they use is the Lotto's.
   const bool tutto =
-      Lavora(l.richieste.processi, {.leggi = [&](Blocco& b) { return Leggi(l, b.righe); },
-                                    .lavora =
-                                        [&](Blocco& b) {
-                                          for (Riga& r : b.righe) CalcolaRiga(r, l.uscita, conserva);
-                                        },
-                                    .consegna = [&](Blocco& b) { return Consegna(l, b.righe); },
+      Lavora(l.richieste.processi, {.leggi = [&l](Blocco& b) { return Leggi(l, b.righe); },
+                                    .lavora = [&l](Blocco& b) { Calcola(l, b.righe); },
+                                    .consegna = [&l](Blocco& b) { return Consegna(l, b.righe); },
                                     .smetti = [] { return gInterrotto.load(); }});
   if (!tutto && !l.tuboChiuso) return kInterrotto;
   if (!l.tuboChiuso) Controlla(l, std::fflush(stdout) == 0);
