@@ -54,7 +54,7 @@ void ControllaQuante(const Riga& riga, const std::vector<std::string>& celle) {
 
 void LeggiValori(Riga& riga, VettoreParametri& p) {
   const FormatoCsv& formato = riga.tracciato->formato;
-  thread_local std::vector<std::string> celle;
+  std::vector<std::string> celle;
   Celle(riga.record.testo, formato.separatore, celle);
   LeggiNome(riga, celle);
   if (riga.record.guasto != nullptr) Rifiuta(riga, riga.record.guasto);
