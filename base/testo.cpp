@@ -77,6 +77,12 @@ std::string InUtf8(std::string_view testo) {
   return utf8;
 }
 
+bool Utf8Valido(std::string_view testo) {
+  while (!testo.empty())
+    if (Preleva(testo) == kMalformato) return false;
+  return true;
+}
+
 char Minuscola(char c) {
   const auto u = static_cast<unsigned char>(c);
   if ((u >= 'A' && u <= 'Z') || (u >= 0xC0 && u <= 0xDE && u != 0xD7)) return static_cast<char>(u + 32);

@@ -15,6 +15,9 @@ Testo DaUtf8(std::string_view utf8);
 /// The UTF-8 text of an 8-bit one; the five codes without a character become U+FFFD.
 std::string InUtf8(std::string_view testo);
 
+/// Whether it can be UTF-8: no malformed byte.
+bool Utf8Valido(std::string_view testo);
+
 /// Literals with accented letters: "già"_t.
 inline Testo operator""_t(const char* utf8, std::size_t lunghezza) {
   return DaUtf8({utf8, lunghezza});

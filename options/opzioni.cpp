@@ -40,17 +40,20 @@ std::optional<Reale> Valore(int i, std::string_view parola) {
 }  // namespace
 
 void LeggiOpzioni() {
+  LeggiOpzioni(FileOpzioni());
+}
+
+void LeggiOpzioni(const Testo& percorso) {
   Opzioni = Predefinite();
-  auto file = FileInLettura::Apri(FileOpzioni());
+  auto file = FileInLettura::Apri(percorso);
   if (!file) return;
   VettoreOpzioni lette;
   for (int i = 1; i <= kNumOpzioni; ++i) {
     auto riga = file->ProssimaRiga();
     const auto valore = riga ? Valore(i, PrimaParola(*riga)) : std::nullopt;
     if (!valore) {
-      MostraMessaggio(
-          "File " + FileOpzioni() + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i),
-          "ERRORE", Icona::Esclamazione);
+      MostraMessaggio("File " + percorso + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i),
+                      "ERRORE", Icona::Esclamazione);
       return;
     }
     lette[i] = *valore;

@@ -80,6 +80,8 @@ inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
 /// The options of "CapOpSez.txt" in DirCustom; the built-in defaults when it cannot be opened
 /// (silently) or is short or spoiled (with a message that names the line, the option and what it may be).
 void LeggiOpzioni();
+/// The same of another file.
+void LeggiOpzioni(const Testo& percorso);
 
 /// Writes Opzioni to the file; a message when that fails, Opzioni are as they were.
 void ScriviOpzioni();

@@ -1,4 +1,4 @@
-"""A fresh installation, and the names of a section file that is whole."""
+"""A fresh installation, dimensions for it, and the names of a section file that is whole."""
 import os
 
 # The worked example as a defaults file.
@@ -14,6 +14,17 @@ def installa(radice):
         with open(os.path.join(radice, nome), "w", newline="") as file:
             file.write(testo)
     return os.path.join(radice, "Lavori", "PR0001")
+
+
+def dimensioni(caso):
+    """A box girder of any proportion, in centimetres, hundredths included."""
+    larga, alta = caso.uniform(600, 1800), caso.uniform(120, 400)
+    alte = [alta, alta * caso.uniform(.08, .15), caso.uniform(12, 25), caso.uniform(26, 35), caso.uniform(36, 48),
+            caso.uniform(36, 55), caso.uniform(22, 35), caso.uniform(20, 30), alta * caso.uniform(.05, .12)]
+    basi = [larga * caso.uniform(*tra) for tra in ((.12, .22), (.01, .05), (.03, .06), (.08, .12), (.03, .06),
+                                                   (.02, .05), (1, 1))]
+    pendenze = [caso.uniform(-4, 4) for _ in range(4)] + [caso.uniform(2, 30)]
+    return [f"{v:.2f}" for v in alte + basi + pendenze]
 
 
 def nomi(percorso):

@@ -1,0 +1,131 @@
+#include "lotto/colonne.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+#include "base/errore.h"
+#include "base/numeri.h"
+#include "lotto/csv.h"
+
+namespace tarvel::lotto {
+namespace {
+
+struct NomiColonna {
+  const char* breve;
+  const char* guida;  // as the guide says it, where that is longer
+};
+
+// In UTF-8.
+constexpr std::array<NomiColonna, kNumParametri> kNomi = {{
+    {"altezza totale", "altezza totale, in mezzeria"},
+    {"soletta inferiore", ""},
+    {"estremità sbalzi", "estremità degli sbalzi"},
+    {"attacco sbalzi", "attacco degli sbalzi"},
+    {"sommità esterna anime", "sommità esterna delle anime"},
+    {"sommità interna anime", "sommità interna delle anime"},
+    {"soletta fine raccordo", "soletta alla fine del raccordo"},
+    {"soletta mezzeria", "soletta in mezzeria"},
+    {"altezza raccordo inferiore", ""},
+    {"sbalzo", ""},
+    {"da sbalzo ad anima", "dall'attacco dello sbalzo all'anima"},
+    {"raccordo superiore", ""},
+    {"da raccordo a colmo", "dal raccordo superiore al colmo"},
+    {"da colmo a mezzeria", "dal colmo alla mezzeria"},
+    {"base raccordo inferiore", ""},
+    {"larghezza totale", ""},
+    {"pendenza sinistra", "dall'estremo sinistro al primo colmo"},
+    {"pendenza colmo sinistra", "dal primo colmo alla mezzeria"},
+    {"pendenza colmo destra", "dalla mezzeria al secondo colmo"},
+    {"pendenza destra", "dal secondo colmo all'estremo destro"},
+    {"inclinazione anime", "inclinazione delle anime"},
+}};
+
+constexpr char kAmbigua[] = "raccordo inferiore";  // in the guide a height and a base
+
+// Letters and digits alone, small and without accents; a blank for whatever stands between them.
+Testo Chiave(const Testo& nome) {
+  static const Testo kAccentate = "àáâèéêìíîòóôùúû"_t;
+  constexpr std::string_view kSemplici = "aaaeeeiiiooouuu";
+  Testo chiave;
+  for (char c : Minuscole(nome)) {
+    if (const auto i = kAccentate.find(c); i != Testo::npos) c = kSemplici[i];
+    const bool tenuta = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+    if (!tenuta && (chiave.empty() || chiave.back() == ' ')) continue;
+    chiave += tenuta ? c : ' ';
+  }
+  return Testo(SenzaBlanchi(chiave));
+}
+
+// A column's meaning by its key.
+int Significato(const Testo& chiave) {
+  if (chiave == "nome") return kNome;
+  for (int i = 0; i < kNumParametri; ++i) {
+    const NomiColonna& nomi = kNomi[static_cast<std::size_t>(i)];
+    if (chiave == Chiave(DaUtf8(nomi.breve)) || chiave == "p" + std::to_string(i) ||
+        (nomi.guida[0] != '\0' && chiave == Chiave(DaUtf8(nomi.guida))))
+      return i;
+  }
+  return kAltra;
+}
+
+Testo Elenco(const std::vector<Testo>& nomi) {
+  Testo elenco;
+  for (const Testo& nome : nomi) elenco += (elenco.empty() ? "" : ", ") + nome;
+  return elenco;
+}
+
+[[noreturn]] void Rifiuta(const Testo& cosa) {
+  throw ErroreFatale(TipoErrore::Formato, "intestazione: " + cosa);
+}
+
+}  // namespace
+
+Testo NomeDimensione(int i) {
+  return DaUtf8(kNomi[static_cast<std::size_t>(i)].breve);
+}
+
+std::optional<Colonne> LeggiIntestazione(const std::vector<std::string>& celle) {
+  for (const std::string& cella : celle)
+    if (NumeroCella(cella, false) || NumeroCella(cella, true)) return std::nullopt;
+
+  Colonne colonne;
+  std::array<int, kNumParametri + 1> volte{};
+  for (const std::string& cella : celle) {
+    const Testo nome = TestoCella(cella), chiave = Chiave(nome);
+    if (chiave == kAmbigua)
+      Rifiuta("\""_t + nome + "\" è ambiguo: \"altezza raccordo inferiore\" o \"base raccordo inferiore\""_t);
+    const int significato = Significato(chiave);
+    colonne.significato.push_back(significato);
+    if (significato == kAltra) {
+      if (!nome.empty()) colonne.altre.push_back("\"" + nome + "\"");
+    } else if (++volte[static_cast<std::size_t>(significato)] > 1) {
+      Rifiuta("\"" + nome + "\" ripete una colonna");
+    }
+  }
+  std::vector<Testo> mancanti;
+  for (int i = 0; i < kNumParametri; ++i)
+    if (volte[static_cast<std::size_t>(i)] == 0)
+      mancanti.push_back(NomeDimensione(i) + " (p" + std::to_string(i) + ")");
+  if (!mancanti.empty())
+    Rifiuta("manca " + Elenco(mancanti) +
+            (colonne.altre.empty() ? "" : "; nomi non riconosciuti: " + Elenco(colonne.altre)));
+  return colonne;
+}
+
+Colonne SenzaIntestazione() {
+  Colonne colonne;
+  colonne.significato.resize(kNumParametri);
+  std::iota(colonne.significato.begin(), colonne.significato.end(), 0);
+  return colonne;
+}
+
+std::optional<Reale> NumeroCella(std::string_view cella, bool virgola) {
+  if (!virgola) return NumeroInvariante(cella);
+  if (cella.find('.') != std::string_view::npos) return std::nullopt;
+  Testo numero(cella);
+  std::replace(numero.begin(), numero.end(), ',', '.');
+  return NumeroInvariante(numero);
+}
+
+}  // namespace tarvel::lotto

@@ -1,0 +1,217 @@
+#include "lotto/csv.h"
+
+#include <algorithm>
+
+#include "base/errore.h"
+#include "platform/file.h"
+
+namespace tarvel::lotto {
+namespace {
+
+constexpr std::size_t kBlocco = 1 << 16;
+/// How far the end of a quoted cell is looked for.
+constexpr std::size_t kVirgoletteMassime = 1 << 16;
+constexpr std::string_view kSeparatori = "\t;,";
+constexpr auto npos = std::string::npos;
+
+// Appends a block, what was read before it going first; false at the end.
+bool Riempi(LettoreCsv& lettore) {
+  if (lettore.finito) return false;
+  lettore.blocco.erase(0, lettore.posto);
+  lettore.posto = 0;
+  const std::size_t prima = lettore.blocco.size();
+  lettore.blocco.resize(prima + kBlocco);
+  lettore.ingresso.read(lettore.blocco.data() + prima, static_cast<std::streamsize>(kBlocco));
+  if (lettore.ingresso.bad()) throw ErroreFatale(TipoErrore::File, "lettura non riuscita");
+  lettore.blocco.resize(prima + static_cast<std::size_t>(lettore.ingresso.gcount()));
+  lettore.finito = !lettore.ingresso;
+  return lettore.blocco.size() > prima;
+}
+
+bool Separa(char c, char separatore) {
+  return separatore == '\0' ? kSeparatori.find(c) != npos : c == separatore;
+}
+
+// Runs over a text from cell to cell; `fuori(i)` for what stands outside quotes, until it says stop.
+// Quotes count at a cell's beginning only: 12" is a cell like others. Returns whether they are closed.
+template <class Fuori>
+bool PerOgniFuori(std::string_view testo, char separatore, Fuori fuori) {
+  bool inizioCella = true, dentro = false;
+  for (std::size_t i = 0; i < testo.size(); ++i) {
+    const char c = testo[i];
+    if (dentro) {
+      if (c != '"') continue;
+      if (i + 1 < testo.size() && testo[i + 1] == '"')
+        ++i;
+      else
+        dentro = false;
+      continue;
+    }
+    if (c == '"' && inizioCella) {
+      dentro = true;
+    } else if (!fuori(i)) {
+      return true;
+    }
+    inizioCella = Separa(c, separatore) || c == '\n' || (inizioCella && c == ' ');
+  }
+  return !dentro;
+}
+
+// Where the line at `da` ends; npos while its end is not in the block.
+std::size_t FineRiga(const LettoreCsv& lettore) {
+  const std::size_t fine = lettore.blocco.find('\n', lettore.posto);
+  return fine == npos && lettore.finito ? lettore.blocco.size() : fine;
+}
+
+// The line at the reader's place and, of one with quotes, those that belong to it.
+RecordCsv Estrai(LettoreCsv& lettore) {
+  RecordCsv record{.testo = {}, .riga = lettore.riga};
+  const auto prendi = [&](std::size_t fine) {
+    record.testo.assign(lettore.blocco, lettore.posto, fine - lettore.posto);
+    lettore.posto = std::min(fine + 1, lettore.blocco.size());
+    lettore.riga += 1 + std::count(record.testo.begin(), record.testo.end(), '\n');
+    if (record.testo.ends_with('\r')) record.testo.pop_back();
+  };
+  std::size_t fine = FineRiga(lettore);
+  for (; fine == npos; fine = FineRiga(lettore)) {
+    if (lettore.blocco.size() - lettore.posto > kRigaMassima) {
+      // No text: it is passed over to its end, without being kept.
+      record.guasto = "riga troppo lunga";
+      lettore.posto = lettore.blocco.size();
+    }
+    Riempi(lettore);
+  }
+  if (record.guasto != nullptr) {
+    prendi(fine);
+    record.testo.clear();
+    return record;
+  }
+  if (std::string_view(lettore.blocco).substr(lettore.posto, fine - lettore.posto).find('"') == npos ||
+      lettore.blocco[lettore.posto] == '#') {
+    prendi(fine);
+    return record;
+  }
+  for (;;) {
+    const auto resto = std::string_view(lettore.blocco).substr(lettore.posto, kVirgoletteMassime);
+    std::size_t aCapo = npos;
+    const bool chiuse = PerOgniFuori(resto, lettore.separatore, [&](std::size_t i) {
+      if (resto[i] == '\n') aCapo = i;
+      return aCapo == npos;
+    });
+    if (aCapo == npos && resto.size() < kVirgoletteMassime && Riempi(lettore)) continue;
+    if (aCapo != npos) {
+      fine = lettore.posto + aCapo;
+    } else if (chiuse && resto.size() < kVirgoletteMassime) {
+      fine = lettore.posto + resto.size();
+    } else {
+      record.guasto = "virgolette aperte e mai chiuse";
+      fine = FineRiga(lettore);  // the block may have moved
+    }
+    prendi(fine);
+    return record;
+  }
+}
+
+bool Utf8(std::string_view testo) {
+  return std::all_of(testo.begin(), testo.end(), [](char c) { return static_cast<signed char>(c) >= 0; }) ||
+         Utf8Valido(testo);
+}
+
+}  // namespace
+
+FormatoCsv RiconosciCodifica(LettoreCsv& lettore) {
+  FormatoCsv formato;
+  Riempi(lettore);
+  const std::string_view inizio = lettore.blocco;
+  const auto rifiuta = [](const char* cosa) { throw ErroreFatale(TipoErrore::Formato, cosa); };
+  if (inizio.starts_with("PK\x03\x04"))
+    rifiuta("è una cartella di lavoro: va salvata dal foglio di calcolo come CSV"_t.c_str());
+  if (inizio.starts_with("\xFF\xFE") || inizio.starts_with("\xFE\xFF") || inizio.find('\0') != npos)
+    rifiuta("è in UTF-16: va salvato come CSV UTF-8"_t.c_str());
+  if (inizio.starts_with(kSegnoUtf8)) {
+    formato.codifica = Codifica::Utf8ConSegno;
+    lettore.posto = kSegnoUtf8.size();
+  } else if (const auto intere = inizio.substr(0, inizio.rfind('\n') + 1);
+             !Utf8(intere.empty() ? inizio : intere)) {
+    formato.codifica = Codifica::Windows1252;
+  }
+  const std::size_t aCapo = inizio.find('\n');
+  if (aCapo != npos && aCapo > 0 && inizio[aCapo - 1] == '\r') formato.fineRiga = "\r\n";
+  return formato;
+}
+
+char RiconosciSeparatore(std::string_view testo) {
+  std::size_t migliore = kSeparatori.size();
+  PerOgniFuori(testo, '\0', [&](std::size_t i) {
+    migliore = std::min(migliore, kSeparatori.find(testo[i]));
+    return true;
+  });
+  return migliore < kSeparatori.size() ? kSeparatori[migliore] : FormatoCsv().separatore;
+}
+
+std::optional<RecordCsv> ProssimoRecord(LettoreCsv& lettore) {
+  for (;;) {
+    if (lettore.posto == lettore.blocco.size() && !Riempi(lettore)) return std::nullopt;
+    RecordCsv record = Estrai(lettore);
+    const auto vuota = [&](char c) { return c == ' ' || Separa(c, lettore.separatore); };
+    const bool daSaltare =
+        record.testo.starts_with('#') || std::all_of(record.testo.begin(), record.testo.end(), vuota);
+    if (record.guasto != nullptr || !daSaltare) return record;
+  }
+}
+
+void Celle(std::string_view testo, char separatore, std::vector<std::string>& celle) {
+  std::size_t n = 0;
+  const auto aggiungi = [&](std::size_t da, std::size_t a) {
+    if (n == celle.size()) celle.emplace_back();
+    std::string& cella = celle[n++];
+    std::string_view parte = SenzaBlanchi(testo.substr(da, a - da));
+    if (!parte.starts_with('"')) {
+      cella = parte;
+      return;
+    }
+    cella.clear();
+    for (std::size_t i = 1; i < parte.size(); ++i) {
+      if (parte[i] == '"' && parte.substr(i + 1, 1) != "\"") {
+        cella += parte.substr(i + 1);  // what stands after the quotes, which no spreadsheet writes
+        break;
+      }
+      if (parte[i] == '"') ++i;
+      cella += parte[i];
+    }
+    cella = SenzaBlanchi(cella);
+  };
+  std::size_t inizio = 0;
+  PerOgniFuori(testo, separatore, [&](std::size_t i) {
+    if (testo[i] == separatore) {
+      aggiungi(inizio, i);
+      inizio = i + 1;
+    }
+    return true;
+  });
+  aggiungi(inizio, testo.size());
+  celle.resize(n);
+}
+
+Testo TestoCella(std::string_view cella) {
+  return Utf8(cella) ? DaUtf8(cella) : Testo(cella);
+}
+
+void AccodaCella(std::string& uscita, std::string_view testo, const FormatoCsv& formato) {
+  const std::string codificato =
+      formato.codifica == Codifica::Windows1252 ? std::string(testo) : InUtf8(testo);
+  const bool virgolette = codificato.find_first_of("\"\r\n") != npos || codificato.starts_with('#') ||
+                          codificato.find(formato.separatore) != npos;
+  if (!virgolette) {
+    uscita += codificato;
+    return;
+  }
+  uscita += '"';
+  for (const char c : codificato) {
+    if (c == '"') uscita += '"';
+    uscita += c;
+  }
+  uscita += '"';
+}
+
+}  // namespace tarvel::lotto

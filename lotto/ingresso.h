@@ -1,0 +1,32 @@
+// Where the rows come from: CSV files one after the other, or the sections of a section file.
+#pragma once
+
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "lotto/studio.h"
+
+namespace tarvel::lotto {
+
+struct Ingresso {
+  std::vector<std::string> file;  // the host's paths, in UTF-8; "-": standard input
+  bool virgola = false;
+
+  std::size_t prossimo = 0;  // of `file`
+  std::ifstream flusso;
+  std::unique_ptr<LettoreCsv> lettore;  // of the file that is being read
+  std::shared_ptr<const Tracciato> tracciato;
+  long long righe = 0;  // read so far
+};
+
+/// Adds the next rows; false when there are none after them. A file that cannot be read, or has no proper
+/// header, is fatal. Columns that are not used are told on standard error.
+bool LeggiRighe(Ingresso& ingresso, std::vector<Riga>& righe);
+
+/// The sections of a file, each with the dimensions that Leggi would bring back. A file that is missing or
+/// malformed is fatal. Uses the program's own table.
+std::vector<Riletta> Rileggi(const Testo& percorso);
+
+}  // namespace tarvel::lotto

@@ -1,0 +1,78 @@
+#include "lotto/salva.h"
+
+#include "base/errore.h"
+#include "drawing/disegno_sezione.h"
+#include "lavoro/cartelle.h"
+#include "lavoro/nome_disegno.h"
+#include "lotto/piattaforma.h"
+#include "model/file_sezioni.h"
+#include "model/tabella_sezioni.h"
+#include "options/opzioni.h"
+#include "platform/file.h"
+
+namespace tarvel::lotto {
+namespace {
+
+// What the reader of the section file would make another name of.
+bool SiRilegge(const Testo& nome) {
+  return !nome.starts_with('"') && nome.find(',') == Testo::npos;
+}
+
+Testo Disegna(const Testo& nome) {
+  NomeFileDisegno = DisegnoDellaSezione(nome);
+  if (GenereFile(DirLavori + NomeFileDisegno) != TipoVoce::Assente)
+    return "il disegno " + NomeFileDisegno.substr(1) +
+           " esiste già: porta il nome dei primi 8 caratteri del nome della sezione"_t;
+  try {
+    GeneraDisegno(disegno::ModoAvviso::Errori);
+  } catch (const ErroreFatale& errore) {
+    return errore.Messaggio();
+  }
+  return PrendiMessaggio();
+}
+
+}  // namespace
+
+Salvataggi PreparaSalvataggi(const Richieste& richieste) {
+  Salvataggi s;
+  s.sezioni = !richieste.sezio.empty();
+  s.disegni = !richieste.disegni.empty();
+  DirLavori = richieste.disegni;
+  SezioneCalcolata = true;
+  LeggiOpzioni(richieste.opzioni);
+  if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
+  return s;
+}
+
+Testo Salva(Salvataggi& s, const Calcolata& sezione) {
+  const Testo& nome = sezione.record.Nome;
+  SezioneCorrente = 1;
+  if (s.sezioni) {
+    if (!SiRilegge(nome)) return "un file di sezioni non tiene un nome con la virgola o le virgolette";
+    if (!s.nomi.contains(nome) && s.nomi.size() == kMaxSezioni) {
+      ++s.oltre;
+    } else if (!s.nomi.insert(nome).second) {
+      return "il nome è già di un'altra sezione"_t;
+    }
+    SezioneCorrente = static_cast<long long>(s.nomi.size());
+  }
+  TabellaSezioni[SezioneCorrente] = sezione.record;
+  ParametriSezione = sezione.p;
+  return s.disegni ? Disegna(nome) : Testo();
+}
+
+void ScriviSezioni(const Salvataggi& s, const Testo& percorso) {
+  const auto rifiuta = [&](const Testo& cosa) {
+    throw ErroreFatale(TipoErrore::File, percorso + " non è scritto: "_t + cosa);
+  };
+  if (s.nomi.empty()) rifiuta("nessuna sezione calcolata");
+  if (s.oltre > 0)
+    rifiuta("le sezioni sono " + std::to_string(kMaxSezioni + s.oltre) + ", un file ne tiene al massimo " +
+            std::to_string(kMaxSezioni));
+  FileSezioni = percorso;
+  NumeroSezioni = static_cast<long long>(s.nomi.size());
+  ScriviFileSezioni();
+  if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
+}
+
+}  // namespace tarvel::lotto

@@ -1,0 +1,28 @@
+// What Salva would write: the section file and the drawings. Of the main thread alone: drawings are made in
+// the program's own tables.
+#pragma once
+
+#include <unordered_set>
+
+#include "lotto/riga_comando.h"
+#include "lotto/studio.h"
+
+namespace tarvel::lotto {
+
+struct Salvataggi {
+  bool sezioni = false, disegni = false;
+  std::unordered_set<Testo> nomi;  // of the sections for the file
+  long long oltre = 0;             // sections that the file has no room for
+};
+
+/// Folders and options; options that are malformed are fatal.
+Salvataggi PreparaSalvataggi(const Richieste& richieste);
+
+/// Puts a calculated section into the table and draws it. Returns why not, or "".
+Testo Salva(Salvataggi& salvataggi, const Calcolata& sezione);
+
+/// The section file of all that were put into the table. Fatal where it cannot be written or has no room
+/// for them; then there is none.
+void ScriviSezioni(const Salvataggi& salvataggi, const Testo& percorso);
+
+}  // namespace tarvel::lotto

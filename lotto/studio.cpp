@@ -1,0 +1,172 @@
+#include "lotto/studio.h"
+
+#include <algorithm>
+
+#include "base/errore.h"
+#include "base/numeri.h"
+#include "model/file_sezioni.h"
+#include "model/geometria.h"
+#include "model/tabella_sezioni.h"
+#include "properties/caratteristiche.h"
+
+namespace tarvel::lotto {
+namespace {
+
+constexpr int kPunti = 14;  // at most; the last one is missing where the axis crosses no web
+
+bool DiComando(char c) {
+  return static_cast<unsigned char>(c) < ' ';
+}
+
+// The program's own proposal has three digits, the table's capacity; a study may have more rows.
+Testo NomeProposto(long long numero) {
+  return numero < 1000 ? ProponiNome(numero) : PrefissoNome + std::to_string(numero);
+}
+
+void LeggiNome(Riga& riga, const std::vector<std::string>& celle) {
+  const auto& significato = riga.tracciato->colonne.significato;
+  const auto posto = std::find(significato.begin(), significato.end(), kNome);
+  const auto i = static_cast<std::size_t>(posto - significato.begin());
+  if (posto != significato.end() && i < celle.size()) riga.nome = TestoCella(celle[i]);
+  if (riga.nome.empty()) riga.nome = NomeProposto(riga.numero);
+}
+
+[[noreturn]] void Rifiuta(const Riga& riga, const Testo& cosa, const Testo& colonna = {}) {
+  throw ErroreFatale(TipoErrore::Formato, cosa,
+                     Luogo(*riga.tracciato, riga.record) + (colonna.empty() ? "" : ", " + colonna));
+}
+
+void ControllaQuante(const Riga& riga, const std::vector<std::string>& celle) {
+  const auto& significato = riga.tracciato->colonne.significato;
+  const auto ultima = std::find_if(significato.rbegin(), significato.rend(),
+                                   [](int s) { return s >= 0 && s < kNumParametri; });
+  const auto servono = static_cast<std::size_t>(significato.rend() - ultima);
+  const bool troppe =
+      std::any_of(celle.begin() + static_cast<std::ptrdiff_t>(std::min(significato.size(), celle.size())),
+                  celle.end(), [](const std::string& cella) { return !cella.empty(); });
+  if (celle.size() >= servono && !troppe) return;
+  Testo cosa =
+      "colonne: " + std::to_string(celle.size()) + " invece di " + std::to_string(significato.size());
+  if (troppe && riga.tracciato->formato.separatore == ',')
+    cosa += ". Con la virgola decimale le colonne si separano con ; o tabulazione";
+  Rifiuta(riga, cosa);
+}
+
+void LeggiValori(Riga& riga, VettoreParametri& p) {
+  const FormatoCsv& formato = riga.tracciato->formato;
+  std::vector<std::string> celle;
+  Celle(riga.record.testo, formato.separatore, celle);
+  LeggiNome(riga, celle);
+  if (riga.record.guasto != nullptr) Rifiuta(riga, riga.record.guasto);
+  ControllaQuante(riga, celle);
+  if (std::any_of(riga.nome.begin(), riga.nome.end(), DiComando))
+    Rifiuta(riga, "il nome non è su una riga sola"_t);
+  const auto& significato = riga.tracciato->colonne.significato;
+  for (std::size_t i = 0; i < std::min(celle.size(), significato.size()); ++i) {
+    const int quale = significato[i];
+    if (quale < 0 || quale >= kNumParametri) continue;
+    const std::string& cella = celle[i];
+    if (const auto valore = NumeroCella(cella, formato.virgola)) {
+      p[quale] = *valore;
+      continue;
+    }
+    if (cella.empty()) Rifiuta(riga, "manca il valore", NomeDimensione(quale));
+    const char* consiglio = !NumeroCella(cella, !formato.virgola) ? ""
+                            : formato.virgola ? ": con --virgola i decimali hanno la virgola"
+                                              : ": la virgola decimale vuole --virgola";
+    Rifiuta(riga, "\"" + TestoCella(cella).substr(0, 40) + "\" non è un numero"_t + consiglio,
+            NomeDimensione(quale));
+  }
+}
+
+void Calcola(Riga& riga, Calcolata& c, bool conserva) {
+  if (riga.riletta != nullptr) {
+    c = riga.riletta->sezione;
+    riga.nome = c.record.Nome;
+    if (!riga.riletta->motivo.empty()) {
+      riga.motivo = riga.riletta->motivo;
+      return;
+    }
+  } else {
+    LeggiValori(riga, c.p);
+    c.record.Nome = riga.nome;
+  }
+  const auto contorno = [&] { Durante("contorno", [&] { CostruisciGeometria(c.record, c.p); }); };
+  const auto calcola = [&] {
+    // A section of a file keeps the outline that it has there.
+    if (riga.riletta == nullptr) contorno();
+    CalcolaCaratteristiche(c.record, c.p, VerticiPoligono);
+  };
+  Durante([&] { return SullaSezione("calcolo", riga.nome); }, calcola, kNonCassone);
+  if (conserva) Durante([&] { return SullaSezione("salvataggio", riga.nome); }, contorno, kNonCassone);
+}
+
+void AccodaNumero(std::string& testo, Reale valore, const FormatoCsv& formato) {
+  const bool virgolette = formato.virgola && formato.separatore == ',';
+  (testo += formato.separatore) += virgolette ? "\"" : "";
+  tarvel::AccodaNumero(testo, valore, formato.virgola ? ',' : '.', true);
+  if (virgolette) testo += '"';
+}
+
+}  // namespace
+
+Testo Luogo(const Tracciato& tracciato, const RecordCsv& record) {
+  return tracciato.file + (tracciato.file.empty() ? "" : ", ") + "riga " + std::to_string(record.riga);
+}
+
+void CalcolaRiga(Riga& riga, const Uscita& uscita, bool conserva) {
+  auto c = std::make_unique<Calcolata>();
+  try {
+    Calcola(riga, *c, conserva);
+  } catch (const ErroreFatale& errore) {
+    riga.motivo = errore.Messaggio();
+  }
+  const bool riuscita = riga.motivo.empty();
+  ComponiRiga(riga, riuscita ? &c->record : nullptr, uscita);
+  if (riuscita && conserva) riga.calcolata = std::move(c);
+}
+
+std::string ComponiIntestazione(const Uscita& uscita) {
+  std::string testo = uscita.formato.codifica == Codifica::Utf8ConSegno ? Testo(kSegnoUtf8) + "nome" : "nome";
+  for (const char* nome :
+       {"larghezza", "altezza", "ZG", "YG", "An", "Aty", "Atz", "Jt", "Jyg", "Jzg", "errore"})
+    (testo += uscita.formato.separatore) += nome;
+  for (int k = 1; uscita.punti && k <= kPunti; ++k)
+    for (const char* nome : {"z", "y", "tauT", "tauVy", "tauVz"})
+      (testo += uscita.formato.separatore) += "P" + std::to_string(k) + " " + nome;
+  return testo + uscita.formato.fineRiga;
+}
+
+void ComponiRiga(Riga& riga, const RecordSezione* sezione, const Uscita& uscita) {
+  constexpr std::size_t kCaratteristiche = 10, kValoriPunto = 5;
+  const FormatoCsv& formato = uscita.formato;
+  std::string& testo = riga.testo;
+  testo.clear();
+  std::replace_if(riga.nome.begin(), riga.nome.end(), DiComando, ' ');
+  std::replace_if(riga.motivo.begin(), riga.motivo.end(), DiComando, ' ');
+  const auto vuote = [&](std::size_t quante) { testo.append(quante, formato.separatore); };
+
+  AccodaCella(testo, riga.nome, formato);
+  if (sezione == nullptr) {
+    vuote(kCaratteristiche);
+  } else {
+    const RecordSezione& r = *sezione;
+    for (const Reale valore :
+         {r.BaseTotale, r.AltezzaTotale, r.ZG, r.YG, r.An, r.Aty, r.Atz, r.Jt, r.Jyg, r.Jzg})
+      AccodaNumero(testo, valore, formato);
+  }
+  testo += formato.separatore;
+  AccodaCella(testo, riga.motivo, formato);
+  for (int k = 1; uscita.punti && k <= kPunti; ++k) {
+    if (sezione == nullptr || k > sezione->NumPunti) {
+      vuote(kValoriPunto);
+      continue;
+    }
+    const RecordSezione& r = *sezione;
+    for (const Reale valore : {r.PuntoZ[k], r.PuntoY[k], r.TauT[k], r.TauVy[k], r.TauVz[k]})
+      AccodaNumero(testo, valore, formato);
+  }
+  testo += formato.fineRiga;
+}
+
+}  // namespace tarvel::lotto

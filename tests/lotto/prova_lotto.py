@@ -1,0 +1,327 @@
+#!/usr/bin/env python3
+"""The filter against the scripted desktop, what it makes of bad rows, and how it stops.
+
+    prova_lotto.py LOTTO HEADLESS
+"""
+import csv
+import os
+import random
+import re
+import shlex
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+QUI = os.path.dirname(os.path.realpath(__file__))
+sys.path.insert(0, os.path.join(QUI, "..", "app"))
+from installazione import ESEMPIO, dimensioni, installa  # noqa: E402
+
+EMULATORE = shlex.split(os.environ.get("TARVEL_EMULATORE", ""))
+LOTTO, HEADLESS = (os.path.abspath(p) for p in sys.argv[1:3])
+VALORI = ESEMPIO.split()
+RIGA = ";".join(VALORI)
+INTESTAZIONE = ";".join(f"p{i}" for i in range(21))
+errori = 0
+
+
+def controlla(cosa, avuto, atteso):
+    global errori
+    if avuto != atteso:
+        errori += 1
+        print(f"{cosa}\n  atteso: {atteso!r}\n  avuto:  {avuto!r}")
+
+
+def lotto(argomenti, ingresso=b"", **altro):
+    if isinstance(ingresso, str):
+        ingresso = ingresso.encode()
+    return subprocess.run([*EMULATORE, LOTTO, *argomenti], input=ingresso, capture_output=True, timeout=120, **altro)
+
+
+def tabella(esito, separatore=";"):
+    return [riga.split(separatore) for riga in esito.stdout.decode().splitlines()]
+
+
+def byte(percorso):
+    with open(percorso, "rb") as file:
+        return file.read()
+
+
+def desktop(radice, copione, *opzioni):
+    with open(os.path.join(radice, "copione"), "w") as file:
+        file.write(copione)
+    esito = subprocess.run([*EMULATORE, HEADLESS, "--script", os.path.join(radice, "copione"), *opzioni, "--",
+                            f"|diroot={radice}|"], stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
+    controlla("desktop", (esito.returncode, esito.stderr), (0, b""))
+
+
+def come_il_desktop(base):
+    """20 sections: the section file and every drawing byte for byte; the rows are what the file has cut."""
+    caso = random.Random(7)
+    sezioni = [VALORI] + [dimensioni(caso) for _ in range(19)]
+    radice = os.path.join(base, "inst")
+    lavoro = installa(radice)
+    disegni = {"punto": os.path.join(base, "disegni"), "virgola": os.path.join(base, "disegni,"),
+               "rilette": os.path.join(base, "disegni rilette")}
+    for cartella in disegni.values():
+        os.mkdir(cartella)
+    opzioni = os.path.join(radice, "custom", "CapOpSez.txt")
+    salva = "".join("".join(f"type Text1({i}) {v}\n" for i, v in enumerate(s)) +
+                    f"type nome U_PO_{n:03}\nclick Calcolo\nclick Command2\n" for n, s in enumerate(sezioni, 1))
+
+    def uguali(cosa, cartella, sezio):
+        controlla(cosa + ": sezio_ut", byte(sezio), byte(os.path.join(lavoro, "sezio_ut")))
+        controlla(cosa + ": disegni", sorted(os.listdir(cartella)), [f"U_PO_{n:03}.dis" for n in range(1, 21)])
+        for nome in os.listdir(cartella):
+            controlla(f"{cosa}: {nome}", byte(os.path.join(cartella, nome)), byte(os.path.join(lavoro, nome)))
+
+    desktop(radice, salva)
+    sezio = os.path.join(base, "sezio_ut")
+    testo = "\n".join(";".join(s) for s in sezioni)
+    esito = lotto(["--punti", "--sezio", sezio, "--disegni", disegni["punto"]], testo)
+    controlla("stato", (esito.returncode, esito.stderr), (0, b""))
+    uguali("punto", disegni["punto"], sezio)
+
+    # Row by row: cut to the file's decimals, the numbers are the file's.
+    testa, *righe = tabella(esito)
+    file = iter(byte(sezio).decode("cp1252").split("\r\n"))
+    next(file)
+    for riga in righe:
+        avuti = dict(zip(testa, riga))
+        numeri = [next(file)]
+        for nome in ("larghezza", "altezza", "ZG", "YG"):
+            numeri.append(avuti[nome])
+        controlla("nome", riga[0], numeri[0])
+        letti = next(file).split()
+        for _ in range(int(next(file))):
+            for _ in range(int(next(file))):
+                next(file)
+        letti += next(file).split() + next(file).split()[:3]
+        numeri += [avuti[nome] for nome in ("An", "Aty", "Atz", "Jt", "Jyg", "Jzg")]
+        for k in range(1, int(next(file)) + 1):
+            letti += next(file).split()[:2] + [next(file).split()[0] for _ in range(3)]
+            numeri += [avuti[f"P{k} {nome}"].lstrip("-" if nome.startswith("tau") else "") for nome in
+                       ("z", "y", "tauT", "tauVy", "tauVz")]
+        next(file), next(file)
+        diversi = [(n, l) for n, l in zip(numeri[1:], letti) if not 0 <= float(n) - float(l) < .01 + abs(float(n)) * 1e-14]
+        controlla(f"{riga[0]}: valori", (diversi, len(numeri) - 1), ([], len(letti)))
+        controlla("cifre", all(len(re.sub(r"\D", "", n.split("E")[0]).lstrip("0")) <= 15 for n in numeri[1:]), True)
+
+    # The desktop of a region with the comma, with options of its own.
+    with open(opzioni, "w", newline="") as scritte:
+        for v in "4 1 2 100 6 3 2 4 8 12 5 -1 5 15 18".split():
+            scritte.write(f"{v}          \r\n")
+    os.remove(os.path.join(lavoro, "sezio_ut"))
+    desktop(radice, salva, "--decimal", ",")
+    sezio += ","
+    esito = lotto(["--virgola", "--opzioni", opzioni, "--sezio", sezio, "--disegni", disegni["virgola"]],
+                  testo.replace(".", ","))
+    controlla("stato", (esito.returncode, esito.stderr), (0, b""))
+    uguali("virgola", disegni["virgola"], sezio)
+    controlla("righe con la virgola", tabella(esito), [[c.replace(".", ",") for c in r[:12]] for r in [testa, *righe]])
+
+    # Each section read back, recalculated and saved.
+    desktop(radice, "".join(f"type nome U_PO_{n:03}\nclick Command1\nclick Calcolo\nanswer yes\nclick Command2\n"
+                            for n in range(1, 21)))
+    esito = lotto(["--da", sezio, "--opzioni", opzioni, "--sezio", sezio + "2", "--disegni", disegni["rilette"]])
+    controlla("--da", (esito.returncode, esito.stderr), (0, b""))
+    uguali("--da", disegni["rilette"], sezio + "2")
+    controlla("--da: nomi", [r[0] for r in tabella(esito)[1:]], [f"U_PO_{n:03}" for n in range(1, 21)])
+    return righe
+
+
+def forme(base):
+    """The same section in whatever way a spreadsheet writes it."""
+    atteso = lotto([], RIGA).stdout.decode().splitlines()[1].split(";")[1:]
+    with open(os.path.join(QUI, "..", "..", "docs", "guida.md"), encoding="utf-8") as guida:
+        celle = re.findall(r"\| (\d+) \| ([^|]+?) (?=\|)", guida.read())
+    nomi = [""] * 21
+    for n, nome in celle:
+        nomi[int(n)] = {8: "altezza ", 14: "base "}.get(int(n), "") + nome if "raccordo inferiore" == nome else nome
+    controlla("nomi della guida", all(nomi), True)
+    virgolette = ",".join(f'"{n}"' for n in nomi)
+    giro = random.Random(3).sample(range(21), 21)
+    misto = ";".join(f"P{i}" if i % 2 else nomi[i].upper() for i in giro) + ";Nome;note"
+    riga_mista = ";".join(VALORI[i] for i in giro)
+    senza_accenti = ";".join(nomi).translate(str.maketrans("àèéìòù", "aeeiou"))
+    righe = [  # arguments, input, name, separator, encoding of the output, line end
+        ([], RIGA + "\r\n", "U_PO_001", ";", "utf-8", "\r\n"),
+        ([], "\n# nota\n;;;\n \n" + RIGA.replace(";", "\t"), "U_PO_001", "\t", "utf-8", "\n"),
+        ([], virgolette + "\n" + ",".join(VALORI), "U_PO_001", ",", "utf-8", "\n"),
+        ([], "\ufeff" + misto + "\n" + riga_mista + ';"è ""A"""; a;\n', 'è "A"', ";", "utf-8-sig", "\n"),
+        ([], (misto + "\n" + riga_mista + ";perché;\n").encode("cp1252"), "perché", ";", "cp1252", "\n"),
+        ([], misto + "\n" + riga_mista + ';perché;"due\nrighe"\n', "perché", ";", "utf-8", "\n"),
+        ([], senza_accenti + "\n" + RIGA, "U_PO_001", ";", "utf-8", "\n"),
+        ([], ";".join(nomi).replace(" ", "_") + ";;\n" + RIGA + ";;", "U_PO_001", ";", "utf-8", "\n"),
+        (["--virgola"], ",".join(f'"{v}"'.replace(".", ",") for v in VALORI), "U_PO_001", ",", "utf-8", "\n"),
+        (["--virgola"], RIGA.replace(".", ","), "U_PO_001", ";", "utf-8", "\n"),
+        (["-", "-"], RIGA, "U_PO_001", ";", "utf-8", "\n"),
+    ]
+    for argomenti, testo, nome, separatore, codice, fine in righe:
+        ingresso = testo if isinstance(testo, bytes) else testo.encode()
+        esito = lotto(argomenti, ingresso)
+        uscita = esito.stdout.decode(codice)
+        controlla(f"{testo!r}: stato", esito.returncode, 0)
+        controlla(f"{testo!r}: fine riga", uscita.count(fine), uscita.count("\n"))
+        controlla(f"{testo!r}: segno", esito.stdout.startswith(b"\xef\xbb\xbf"), codice == "utf-8-sig")
+        scritto = nome if '"' not in nome else '"' + nome.replace('"', '""') + '"'
+        righe_uscita = uscita.splitlines()
+        trovato = righe_uscita[1] if len(righe_uscita) == 2 else uscita
+        numeri = [v.replace(".", ",") for v in atteso] if "--virgola" in argomenti else atteso
+        if "--virgola" in argomenti and separatore == ",":
+            numeri = [f'"{v}"' if v else "" for v in numeri]
+        controlla(f"{testo!r}", trovato, separatore.join([scritto, *numeri]))
+
+
+def cambiata(**celle):
+    valori = list(VALORI)
+    for chiave, valore in celle.items():
+        valori[int(chiave[1:])] = valore
+    return ";".join(valori)
+
+
+def sbagliate(base):
+    """What is wrong is said; of a row in its place, of the whole before anything is written."""
+    con_nome = "nome;" + INTESTAZIONE + "\n"
+    piena = os.path.join(base, "piena")
+    os.mkdir(piena)
+    righe = [  # a bad row between two good ones: its reason
+        ("200;25;20", "colonne: 3 invece di 21 (riga 2)"),
+        (RIGA + ";1", "colonne: 22 invece di 21 (riga 2)"),
+        (cambiata(p1=""), "manca il valore (riga 2, soletta inferiore)"),
+        (cambiata(p1="25cm"), '"25cm" non è un numero (riga 2, soletta inferiore)'),
+        (cambiata(p1="25,5"), '"25,5" non è un numero: la virgola decimale vuole --virgola (riga 2, soletta inferiore)'),
+        (cambiata(p20="1e999"), '"1e999" non è un numero (riga 2, inclinazione anime)'),
+        (cambiata(p20="nan"), '"nan" non è un numero (riga 2, inclinazione anime)'),
+        (cambiata(p0='"200'), "virgolette aperte e mai chiuse (riga 2)"),
+        (";".join(["0"] * 21), "calcolo della sezione U_PO_002, costante di torsione: divisione per zero. "
+                               "Le dimensioni non formano una sezione a cassone."),
+        (cambiata(p15="1e200"), "calcolo della sezione U_PO_002, area e baricentro: numero troppo grande. "
+                                "Le dimensioni non formano una sezione a cassone."),
+        ("x" * 2000000, "riga troppo lunga (riga 2)"),
+    ]
+    for riga, motivo in righe:
+        esito = lotto([], f"{RIGA}\n{riga}\n{RIGA}\n")
+        avute = tabella(esito)
+        cella = [*csv.reader(esito.stdout.decode().splitlines()[2:3], delimiter=";")][0]
+        controlla(f"{riga[:60]}: stato", (esito.returncode, len(avute)), (3, 4))
+        controlla(f"{riga[:60]}: le altre", avute[1][1:], avute[-1][1:])
+        controlla(f"{riga[:60]}: motivo", (cella[1:11], cella[-1]), ([""] * 10, motivo))
+    intere = [  # arguments, input: status, message
+        ([], RIGA.replace(".", ","), 1, '"2,5": la virgola decimale vuole --virgola (riga 1; standard input)'),
+        (["--virgola"], RIGA, 1, 'con --virgola i decimali hanno la virgola, non "2.5"'),
+        ([], INTESTAZIONE.replace("p7;", "p8;") + "\n", 1, '"p8" ripete una colonna'),
+        ([], INTESTAZIONE.replace("p7", "spessore") + "\n", 1,
+         'manca soletta mezzeria (p7); nomi non riconosciuti: "spessore"'),
+        ([], INTESTAZIONE.replace("p8", "raccordo inferiore") + "\n", 1, "ambiguo"),
+        ([], "PK\x03\x04", 1, "cartella di lavoro"),
+        ([], RIGA.encode("utf-16"), 1, "UTF-16"),
+        (["manca.csv"], "", 1, "il file non si legge (manca.csv)"),
+        (["--da", "manca"], "", 1, "File manca non trovato"),
+        (["--da", __file__], "", 1, "riga 1"),
+        (["--da", "x", "y"], "", 2, "l'uno o l'altro"),
+        (["--boh"], "", 2, "opzione sconosciuta: --boh"),
+        (["--sezio"], "", 2, "dopo --sezio manca il valore"),
+        (["--processi", "0"], "", 2, "un numero da 1 a 256"),
+        (["--sezio", __file__], "", 2, "non viene sostituito"),
+        (["--sezio", os.path.join(base, "manca", "x")], "", 2, "la cartella"),
+        (["--disegni", os.path.join(base, "manca")], "", 2, "non esiste"),
+        (["--opzioni", __file__], "", 2, "--opzioni senza --disegni"),
+        (["--opzioni", __file__, "--disegni", piena], "", 1, "riga 1"),
+        (["--sezio", os.path.join(base, "niente")], "", 1, "nessuna sezione calcolata"),
+    ]
+    for argomenti, testo, stato, detto in intere:
+        esito = lotto(argomenti, testo, cwd=base)
+        messaggio = esito.stderr.decode()
+        controlla(f"{argomenti} {testo[:40]!r}", (esito.returncode, detto in messaggio, messaggio), (stato, True, messaggio))
+        controlla(f"{argomenti}: righe", len(tabella(esito)) <= 1, True)
+
+    # Names that stand twice, or that a section file or a folder cannot hold apart.
+    esito = lotto(["--sezio", os.path.join(base, "nomi"), "--disegni", piena], con_nome + "".join(
+        f"{n};{RIGA}\n" for n in ("variante_1", "variante_1", "variante_2", '"a,b"', "")))
+    controlla("nomi", [(r[0], bool(r[1]), r[-1].split(" ")[:2]) for r in tabella(esito)[1:]],
+              [("variante_1", True, [""]), ("variante_1", True, ["il", "nome"]), ("variante_2", True, ["il", "disegno"]),
+               ("a,b", True, ["un", "file"]), ("U_PO_005", True, [""])])
+    controlla("nomi: sezio_ut", byte(os.path.join(base, "nomi"))[:1], b"3")
+    controlla("nomi: disegni", sorted(os.listdir(piena)), ["U_PO_005.dis", "variante.dis"])
+    oltre = lotto(["--sezio", os.path.join(base, "501")], f"{RIGA}\n" * 501)
+    controlla("501", (oltre.returncode, len(tabella(oltre)), os.path.exists(os.path.join(base, "501"))), (1, 502, False))
+
+
+def memoria(righe):
+    """Rows of a pipe, and what they have taken at most."""
+    blocco = f"{RIGA}\n".encode() * 1000
+    with subprocess.Popen([LOTTO, "--processi", "2"], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as processo:
+        if os.fork() == 0:
+            processo.stdout.close()
+            for _ in range(righe // 1000):
+                processo.stdin.write(blocco)
+            os._exit(0)
+        processo.stdin.close()
+        time.sleep(.5)  # a reader that is slow
+        scritte = massima = 0
+        for pezzo in iter(lambda: processo.stdout.read(1 << 16), b""):
+            scritte += pezzo.count(b"\n")
+            with open(f"/proc/{processo.pid}/status") as file:
+                massima = max([massima, *map(int, re.findall(r"VmHWM:\s+(\d+)", file.read()))])
+        stato = processo.wait()
+        os.wait()
+    controlla(f"{righe} righe", (stato, scritte), (0, righe + 1))
+    return massima
+
+
+def fine(base):
+    """Order, memory, Ctrl+C, a closed pipe, a full disk, a watcher's line."""
+    tante = "".join(cambiata(p0=str(150 + n % 200)) + "\n" for n in range(5000))
+    una, otto = (lotto(["--punti", "--processi", n], tante).stdout for n in ("1", "8"))
+    controlla("ordine", una == otto and una.count(b"\n") == 5001, True)
+    poche, molte = memoria(5000), memoria(100000)
+    # The sanitizer keeps what is freed.
+    with open(LOTTO, "rb") as programma:
+        custodita = b"__asan_init" in programma.read()
+    controlla(f"memoria costante ({poche} e {molte} kB)", custodita or molte < poche + 2000, True)
+    for segnale in (signal.SIGINT, signal.SIGTERM):
+        with tempfile.TemporaryFile() as file, subprocess.Popen(
+                [LOTTO, "--sezio", os.path.join(base, "interrotto")], stdin=subprocess.PIPE, stdout=file,
+                stderr=subprocess.PIPE) as processo:
+            processo.stdin.write(f"{RIGA}\n".encode() * 3000)
+            processo.stdin.flush()
+            time.sleep(.5)  # the rows that have come are written, the others never come
+            processo.send_signal(segnale)
+            controlla("interrotto", (processo.wait(10), b"interrotto dopo" in processo.stderr.read()), (130, True))
+            file.seek(0)
+            uscita = file.read()
+        larghe = {riga.count(b";") for riga in uscita.splitlines()}
+        controlla("interrotto: righe intere", (larghe, uscita[-1:], len(uscita.splitlines()) > 1000), ({11}, b"\n", True))
+    controlla("interrotto: sezio_ut", os.path.exists(os.path.join(base, "interrotto")), False)
+    for preparazione in (None, lambda: signal.signal(signal.SIGPIPE, signal.SIG_DFL)):
+        with subprocess.Popen([LOTTO, "-"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                              preexec_fn=preparazione) as processo:
+            processo.stdout.close()
+            try:
+                processo.stdin.write(f"{RIGA}\n".encode() * 20000)
+                processo.stdin.flush()
+            except BrokenPipeError:
+                pass
+            controlla("tubo chiuso", (processo.wait(10), processo.stderr.read()), (141, b""))
+            try:
+                processo.stdin.close()
+            except BrokenPipeError:
+                pass
+    with open("/dev/full", "w") as pieno:
+        esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
+        controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
+    padrone, terminale = os.openpty()
+    subprocess.run([LOTTO], input=tante.encode() * 40, stdout=subprocess.DEVNULL, stderr=terminale)
+    controlla("avanzamento", b" righe, 0 con errore" in os.read(padrone, 1 << 16), True)
+
+
+with tempfile.TemporaryDirectory(prefix="Lotto_") as temporanea:
+    come_il_desktop(temporanea)
+    forme(temporanea)
+    sbagliate(temporanea)
+    if not EMULATORE:
+        fine(temporanea)
+print(f"{errori} errori")
+sys.exit(errori > 0)
