@@ -82,13 +82,15 @@ Testo TestoDxf(std::string_view testo) {
   return esito;
 }
 
-void ScriviTestata(Dxf& dxf, const Riquadro& tutto) {
+void ScriviTestata(Dxf& dxf, const Riquadro& tutto, Unita unita) {
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "HEADER");
   Gruppo(dxf, 9, "$ACADVER");
   Gruppo(dxf, 1, "AC1009");
   Gruppo(dxf, 9, "$DWGCODEPAGE");
   Gruppo(dxf, 3, "ANSI_1252");
+  Gruppo(dxf, 9, "$INSUNITS");
+  GruppoIntero(dxf, 70, Voce(unita).dxf);
   if (!tutto.Vuoto()) {
     Gruppo(dxf, 9, "$EXTMIN");
     GruppoPunto(dxf, 10, tutto.x0, tutto.y0);
@@ -196,10 +198,10 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
 
 }  // namespace
 
-std::optional<Testo> ScriviDxf(const Disegno& disegno) {
+std::optional<Testo> ScriviDxf(const Disegno& disegno, Unita unita) {
   Dxf dxf{{}, disegno.unita};
   const Riquadro tutto = Ingombro(disegno);
-  ScriviTestata(dxf, tutto);
+  ScriviTestata(dxf, tutto, unita);
   ScriviTabelle(dxf, tutto);
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "ENTITIES");

@@ -5,12 +5,13 @@
 
 #include "base/testo.h"
 #include "viewer/disegno.h"
+#include "viewer/scala.h"
 
 namespace ostrel {
 
 /// The whole file, 8-bit text in code page 1252, units as drawn: one LINE, ARC or CIRCLE, TEXT or
 /// POINT for each element of the drawing, in its file's order, on the layers CONTORNO, QUOTE and
 /// TESTI. Nothing where a length, as a radius or an extent, is more than the largest number.
-std::optional<tarvel::Testo> ScriviDxf(const Disegno& disegno);
+std::optional<tarvel::Testo> ScriviDxf(const Disegno& disegno, Unita unita = Unita::Ignota);
 
 }  // namespace ostrel

@@ -54,7 +54,7 @@ Motivo SeManca(bool riuscito) {
   return riuscito ? Motivo() : kSenzaMemoria;
 }
 
-Motivo ScriviPng(const Disegno& disegno, QIODevice& uscita) {
+Motivo ScriviPng(const Disegno& disegno, const Resa&, QIODevice& uscita) {
   constexpr double kSpessore = 2;
   QImage immagine(FormatoPng(disegno), QImage::Format_RGB32);
   immagine.fill(Qt::white);
@@ -68,7 +68,7 @@ Motivo Copia(QByteArrayView byte, QIODevice& uscita) {
   return SeManca(uscita.write(byte.data(), byte.size()) == byte.size());
 }
 
-Motivo ScriviSvgSu(const Disegno& disegno, QIODevice& uscita) {
+Motivo ScriviSvgSu(const Disegno& disegno, const Resa&, QIODevice& uscita) {
   return Copia(ScriviSvg(disegno), uscita);
 }
 
@@ -85,7 +85,7 @@ QPageLayout::Orientation Orientamento(const Disegno& disegno) {
   return Orizzontale(Ingombro(disegno)) ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
-Motivo ScriviPdf(const Disegno& disegno, QIODevice& uscita) {
+Motivo ScriviPdf(const Disegno& disegno, const Resa&, QIODevice& uscita) {
   constexpr double m = kMargineCarta;
   QPdfWriter pdf(&uscita);
   pdf.setCreator(kCreatore);
@@ -94,8 +94,8 @@ Motivo ScriviPdf(const Disegno& disegno, QIODevice& uscita) {
   return SeManca(DipingiPagina(disegno, pdf, kRisoluzionePdf));
 }
 
-Motivo ScriviDxfSu(const Disegno& disegno, QIODevice& uscita) {
-  const auto dxf = ScriviDxf(disegno);
+Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, QIODevice& uscita) {
+  const auto dxf = ScriviDxf(disegno, resa.unita);
   if (!dxf) return "il disegno ha misure che superano il massimo numero rappresentabile";
   return Copia(*dxf, uscita);
 }
@@ -103,7 +103,7 @@ Motivo ScriviDxfSu(const Disegno& disegno, QIODevice& uscita) {
 struct Genere {
   const char* finale;
   const char* nome;
-  Motivo (*scrivi)(const Disegno&, QIODevice&);
+  Motivo (*scrivi)(const Disegno&, const Resa&, QIODevice&);
 };
 constexpr std::array<Genere, 4> kGeneri = {{
     {"png", "Immagine PNG", ScriviPng},
@@ -193,7 +193,7 @@ QString FiltriEsportazione() {
   return filtri.join(";;");
 }
 
-std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso) {
+std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa) {
   const QFileInfo destinazione(percorso);
   const auto* const genere = std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) {
     return destinazione.suffix().compare(g.finale, Qt::CaseInsensitive) == 0;
@@ -203,7 +203,7 @@ std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso) 
   QBuffer byte;
   byte.open(QIODevice::WriteOnly);
   Motivo motivo = "non c'è niente da disegnare";
-  if (!Ingombro(disegno).Vuoto()) motivo = genere->scrivi(disegno, byte);
+  if (!Ingombro(disegno).Vuoto()) motivo = genere->scrivi(disegno, resa, byte);
   if (!motivo) motivo = ScriviFile(percorso, byte.data());
   if (!motivo) return std::nullopt;
   return QString("Problemi con la scrittura del file %1: %2").arg(percorso, *motivo);
