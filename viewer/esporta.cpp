@@ -81,7 +81,7 @@ bool DipingiPagina(const Disegno& disegno, QPagedPaintDevice& pagina, int risolu
   return pittore.end();
 }
 
-QPageLayout::Orientation Orientamento(const Disegno& disegno) {
+QPageLayout::Orientation OrientamentoMigliore(const Disegno& disegno) {
   return Orizzontale(Ingombro(disegno)) ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
@@ -90,7 +90,7 @@ Motivo ScriviPdf(const Disegno& disegno, const Resa&, QIODevice& uscita) {
   QPdfWriter pdf(&uscita);
   pdf.setCreator(kCreatore);
   pdf.setResolution(kRisoluzionePdf);
-  pdf.setPageLayout({QPageSize(QPageSize::A4), Orientamento(disegno), {m, m, m, m}, QPageLayout::Millimeter});
+  pdf.setPageLayout({QPageSize(QPageSize::A4), OrientamentoMigliore(disegno), {m, m, m, m}, QPageLayout::Millimeter});
   return SeManca(DipingiPagina(disegno, pdf, kRisoluzionePdf));
 }
 
@@ -210,7 +210,7 @@ std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, 
 }
 
 bool Stampa(const Disegno& disegno, QPrinter& stampante) {
-  stampante.setPageOrientation(Orientamento(disegno));
+  stampante.setPageOrientation(OrientamentoMigliore(disegno));
   return DipingiPagina(disegno, stampante, stampante.resolution());
 }
 
