@@ -28,24 +28,32 @@ QString Lunghezza(double v) {
   return std::fabs(v) < kMassimaDistesa ? QString::number(v, 'f', 2) : QString::number(v, 'g', 6);
 }
 
+QLabel* Riga(const char* nome, const char* fondo, QWidget* padre) {
+  auto* riga = new QLabel(padre);
+  riga->setObjectName(nome);
+  riga->setTextFormat(Qt::PlainText);
+  riga->setWordWrap(true);
+  riga->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  riga->setStyleSheet(QString("background: %1; color: white; padding: 6px;").arg(fondo));
+  riga->hide();
+  return riga;
+}
+
 }  // namespace
 
 Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   auto* interno = new QWidget(this);
   auto* posto = new QGridLayout(interno);
   posto->setContentsMargins(0, 0, 0, 0);
-  avviso_ = new QLabel(interno);
-  avviso_->setObjectName("avviso");
-  avviso_->setTextFormat(Qt::PlainText);
-  avviso_->setWordWrap(true);
-  avviso_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  avviso_->setStyleSheet("background: #8c1d18; color: white; padding: 6px;");
-  avviso_->hide();
+  avviso_ = Riga("avviso", "#8c1d18", interno);
+  conferma_ = Riga("conferma", "#1b5e20", interno);
   tela_ = new Tela(interno);
-  // The notice lies over the drawing, whose place and zoom it must not change.
+  // The notices lie over the drawing, whose place and zoom they must not change.
   posto->addWidget(tela_, 0, 0);
   posto->addWidget(avviso_, 0, 0, Qt::AlignTop);
+  posto->addWidget(conferma_, 0, 0, Qt::AlignBottom);
   avviso_->raise();
+  conferma_->raise();
   setCentralWidget(interno);
 
   coordinate_ = new QLabel(this);
@@ -125,6 +133,11 @@ void Finestra::Tenta() {
 void Finestra::Avvisa(const QString& testo) {
   avviso_->setText(testo);
   avviso_->setVisible(!testo.isEmpty());
+}
+
+void Finestra::Conferma(const QString& testo) {
+  conferma_->setText(testo);
+  conferma_->setVisible(!testo.isEmpty());
 }
 
 // The drawing's first text is its title.

@@ -25,6 +25,8 @@ class Finestra : public QMainWindow {
   void Ricarica();
   /// Says in the window what is wrong; an empty text takes the notice away.
   void Avvisa(const QString& testo);
+  /// Says what went well; goes away at the user's next action.
+  void Conferma(const QString& testo);
 
  signals:
   /// A reading has come to its end, well or not.
@@ -47,6 +49,7 @@ class Finestra : public QMainWindow {
   QTimer attesa_;  // until the next attempt to read a file that is being written
   Tela* tela_;
   QLabel* avviso_;
+  QLabel* conferma_;
   QLabel* coordinate_;
   QLabel* conteggio_;
 };
