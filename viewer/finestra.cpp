@@ -18,6 +18,7 @@
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
 #include "viewer/recenti.h"
+#include "viewer/stampa.h"
 #include "viewer/tela.h"
 
 namespace ostrel {
@@ -217,7 +218,7 @@ void Finestra::EsportaFile() {
 void Finestra::StampaDisegno() {
   QPrinter stampante(QPrinter::HighResolution);
   QPrintDialog dialogo(&stampante, this);
-  if (dialogo.exec() == QDialog::Accepted && !Stampa(tela_->Mostrato(), stampante))
+  if (dialogo.exec() == QDialog::Accepted && !Stampa(tela_->Mostrato(), {}, {percorso_}, stampante))
     Avvisa("Problemi con la stampa del disegno");
 }
 
