@@ -49,6 +49,8 @@ struct Disegno {
   /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers
   /// would leave a double's range; then a power of two.
   double unita = 1;
+  /// The outline has been taken out: no line that is left belongs to one.
+  bool senzaContorno = false;
 };
 
 }  // namespace ostrel

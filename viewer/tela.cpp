@@ -29,9 +29,11 @@ Tela::Tela(QWidget* padre) : QWidget(padre) {
 }
 
 void Tela::Mostra(Disegno nuovo, bool daCapo) {
+  const bool altreMisure = nuovo.unita != disegno_.unita;
   disegno_ = std::move(nuovo);
   tutto_ = Ingombro(disegno_);
-  metro_ = {};
+  // Whoever measures goes on when the file is read again.
+  if (daCapo || altreMisure) metro_ = {};
   if (daCapo) {
     storia_ = {};
     adattata_ = true;
@@ -59,8 +61,8 @@ void Tela::NominaUnita(const QString& nome) {
 
 void Tela::Inquadra(const Inquadratura& nuova) {
   adattata_ = nuova.adattata;
-  angolo_.reset();
-  vista_ = adattata_ ? VistaIntera(tutto_, rect()) : nuova.vista;
+  const Vista vista = adattata_ ? VistaIntera(tutto_, rect()) : nuova.vista;
+  if (vista != std::exchange(vista_, vista)) angolo_.reset();
   Ridipingi();
   emit VistaCambiata();
 }
