@@ -10,6 +10,8 @@ namespace ostrel {
 
 struct Coordinata {
   double x = 0, y = 0;
+
+  friend bool operator==(const Coordinata&, const Coordinata&) = default;
 };
 
 /// A marked point; the file gives its two attributes no meaning, it is drawn as a small cross.

@@ -167,7 +167,7 @@ void Tela::DipingiStrumento(QPainter& pittore) {
     velo.setAlpha(40);
     pittore.setPen(colore);
     pittore.setBrush(velo);
-    pittore.drawRect(QRect(*angolo_, puntatore_).normalized());
+    pittore.drawRect(QRectF(*angolo_, puntatore_).normalized());
   }
   if (strumento_ == Strumento::Metro) ostrel::Dipingi(pittore, metro_, vista_, area, fondo_, Misura());
   if (const QString cosa = Istruzione(); !cosa.isEmpty()) Cartellino(pittore, cosa, {}, area, fondo_);
