@@ -27,7 +27,7 @@ metti() {
 # there is the user's.
 prepara_radice() {
   local radice=$1 dati=$2 visore=$3 file lavoro sua
-  mkdir -p "$radice"/{Lavori,progra,driver,custom,impostazioni} || return
+  mkdir -p "$radice" && mkdir -p "$radice"/{Lavori,progra,driver,custom,impostazioni} || return
   for file in "$dati"/{custom,impostazioni}/*; do
     metti "$radice${file#"$dati"}" <"$file" || return
   done
