@@ -6,9 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QPageLayout>
-#include <QPdfWriter>
-#include <QPrinter>
 #include <QSaveFile>
 #include <QStorageInfo>
 #include <algorithm>
@@ -20,30 +17,18 @@
 #include "viewer/dxf.h"
 #include "viewer/misure.h"
 #include "viewer/pittura.h"
+#include "viewer/stampa.h"
 #include "viewer/svg.h"
 
 namespace ostrel {
 namespace {
 
 constexpr int kLatoPng = 2000;  // pixels of the longer side
-constexpr double kPuntiPollice = 72;
-constexpr double kSpessoreCarta = 0.7;  // points
-constexpr double kMargineCarta = 10;    // millimetres
-constexpr int kRisoluzionePdf = 1200;
-constexpr char kCreatore[] = "ostrel";
-
-bool Orizzontale(const Riquadro& tutto) {
-  return tutto.Larghezza() >= tutto.Altezza();
-}
 
 QSize FormatoPng(const Disegno& disegno) {
   const Riquadro pagina = Pagina(Ingombro(disegno));
   const double lungo = std::max(pagina.Larghezza(), pagina.Altezza());
   return {qRound(kLatoPng * (pagina.Larghezza() / lungo)), qRound(kLatoPng * (pagina.Altezza() / lungo))};
-}
-
-void DipingiSuCarta(QPainter& pittore, const Disegno& disegno, const QRectF& foglio, double spessore) {
-  Dipingi(pittore, disegno, VistaIntera(Ingombro(disegno), foglio), foglio, FondoCarta(spessore));
 }
 
 // Each kind gives its bytes to the buffer, or the reason why it cannot.
@@ -54,12 +39,13 @@ Motivo SeManca(bool riuscito) {
   return riuscito ? Motivo() : kSenzaMemoria;
 }
 
-Motivo ScriviPng(const Disegno& disegno, const Resa&, QIODevice& uscita) {
+Motivo ScriviPng(const Disegno& disegno, const Resa&, const Origine&, QIODevice& uscita) {
   constexpr double kSpessore = 2;
   QImage immagine(FormatoPng(disegno), QImage::Format_RGB32);
   immagine.fill(Qt::white);
   QPainter pittore(&immagine);
-  DipingiSuCarta(pittore, disegno, immagine.rect(), kSpessore);
+  const QRectF foglio = immagine.rect();
+  Dipingi(pittore, disegno, VistaIntera(Ingombro(disegno), foglio), foglio, FondoCarta(kSpessore));
   pittore.end();
   return SeManca(!immagine.isNull() && immagine.save(&uscita, "PNG"));
 }
@@ -68,33 +54,15 @@ Motivo Copia(QByteArrayView byte, QIODevice& uscita) {
   return SeManca(uscita.write(byte.data(), byte.size()) == byte.size());
 }
 
-Motivo ScriviSvgSu(const Disegno& disegno, const Resa&, QIODevice& uscita) {
+Motivo ScriviSvgSu(const Disegno& disegno, const Resa&, const Origine&, QIODevice& uscita) {
   return Copia(ScriviSvg(disegno), uscita);
 }
 
-// Any device that counts in pages: a PDF file or a printer.
-bool DipingiPagina(const Disegno& disegno, QPagedPaintDevice& pagina, int risoluzione) {
-  QPainter pittore;
-  if (!pittore.begin(&pagina)) return false;
-  DipingiSuCarta(pittore, disegno, QRectF(0, 0, pagina.width(), pagina.height()),
-                 kSpessoreCarta * risoluzione / kPuntiPollice);
-  return pittore.end();
+Motivo ScriviPdfSu(const Disegno& disegno, const Resa& resa, const Origine& origine, QIODevice& uscita) {
+  return SeManca(ScriviPdf(disegno, resa, origine, uscita));
 }
 
-QPageLayout::Orientation Orientamento(const Disegno& disegno) {
-  return Orizzontale(Ingombro(disegno)) ? QPageLayout::Landscape : QPageLayout::Portrait;
-}
-
-Motivo ScriviPdf(const Disegno& disegno, const Resa&, QIODevice& uscita) {
-  constexpr double m = kMargineCarta;
-  QPdfWriter pdf(&uscita);
-  pdf.setCreator(kCreatore);
-  pdf.setResolution(kRisoluzionePdf);
-  pdf.setPageLayout({QPageSize(QPageSize::A4), Orientamento(disegno), {m, m, m, m}, QPageLayout::Millimeter});
-  return SeManca(DipingiPagina(disegno, pdf, kRisoluzionePdf));
-}
-
-Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, QIODevice& uscita) {
+Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, const Origine&, QIODevice& uscita) {
   const auto dxf = ScriviDxf(disegno, resa.unita);
   if (!dxf) return "il disegno ha misure che superano il massimo numero rappresentabile";
   return Copia(*dxf, uscita);
@@ -103,12 +71,12 @@ Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, QIODevice& uscita) 
 struct Genere {
   const char* finale;
   const char* nome;
-  Motivo (*scrivi)(const Disegno&, const Resa&, QIODevice&);
+  Motivo (*scrivi)(const Disegno&, const Resa&, const Origine&, QIODevice&);
 };
 constexpr std::array<Genere, 4> kGeneri = {{
     {"png", "Immagine PNG", ScriviPng},
     {"svg", "Disegno SVG", ScriviSvgSu},
-    {"pdf", "Documento PDF", ScriviPdf},
+    {"pdf", "Documento PDF", ScriviPdfSu},
     {"dxf", "Disegno DXF", ScriviDxfSu},
 }};
 
@@ -193,25 +161,31 @@ QString FiltriEsportazione() {
   return filtri.join(";;");
 }
 
-std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa) {
-  const QFileInfo destinazione(percorso);
-  const auto* const genere = std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) {
-    return destinazione.suffix().compare(g.finale, Qt::CaseInsensitive) == 0;
-  });
+QStringList FinaliEsportazione() {
+  QStringList finali;
+  for (const Genere& genere : kGeneri) finali << genere.finale;
+  return finali;
+}
+
+QString FinaleDi(const QString& percorso) {
+  const QString finale = QFileInfo(percorso).suffix().toLower();
+  return FinaliEsportazione().contains(finale) ? finale : QString();
+}
+
+std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa,
+                               const Origine& origine) {
+  const QString finale = FinaleDi(percorso);
+  const auto* const genere =
+      std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) { return finale == g.finale; });
   if (genere == kGeneri.end()) return QString("File %1: si esporta in .png, .svg, .pdf o .dxf").arg(percorso);
 
   QBuffer byte;
   byte.open(QIODevice::WriteOnly);
   Motivo motivo = "non c'è niente da disegnare";
-  if (!Ingombro(disegno).Vuoto()) motivo = genere->scrivi(disegno, resa, byte);
+  if (!Ingombro(disegno).Vuoto()) motivo = genere->scrivi(disegno, resa, origine, byte);
   if (!motivo) motivo = ScriviFile(percorso, byte.data());
   if (!motivo) return std::nullopt;
   return QString("Problemi con la scrittura del file %1: %2").arg(percorso, *motivo);
-}
-
-bool Stampa(const Disegno& disegno, QPrinter& stampante) {
-  stampante.setPageOrientation(Orientamento(disegno));
-  return DipingiPagina(disegno, stampante, stampante.resolution());
 }
 
 }  // namespace ostrel

@@ -2,24 +2,25 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
+#include "viewer/cartiglio.h"
 #include "viewer/disegno.h"
 #include "viewer/scala.h"
-
-class QPrinter;
 
 namespace ostrel {
 
 /// The kinds of file that can be written, as a file dialog lists them.
 QString FiltriEsportazione();
+/// Their endings, in the same order: "png" and so on.
+QStringList FinaliEsportazione();
+/// Which of them ends this name, in lower case; empty: none.
+QString FinaleDi(const QString& percorso);
 
 /// Writes the file; its ending (.png, .svg, .pdf or .dxf, in any case) says the kind. Nothing on
 /// success, otherwise an Italian message; an existing file is then as it was.
 [[nodiscard]] std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso,
-                                             const Resa& resa = {});
-
-/// One page, the drawing as large as the printable area allows. False when the printer refuses.
-[[nodiscard]] bool Stampa(const Disegno& disegno, QPrinter& stampante);
+                                             const Resa& resa = {}, const Origine& origine = {});
 
 }  // namespace ostrel

@@ -15,6 +15,7 @@
 
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
+#include "viewer/stampa.h"
 #include "viewer/tela.h"
 
 namespace ostrel {
@@ -175,7 +176,7 @@ void Finestra::EsportaFile() {
 void Finestra::StampaDisegno() {
   QPrinter stampante(QPrinter::HighResolution);
   QPrintDialog dialogo(&stampante, this);
-  if (dialogo.exec() == QDialog::Accepted && !Stampa(tela_->Mostrato(), stampante))
+  if (dialogo.exec() == QDialog::Accepted && !Stampa(tela_->Mostrato(), {}, {percorso_}, stampante))
     Avvisa("Problemi con la stampa del disegno");
 }
 

@@ -1,37 +1,23 @@
 // The companion viewer: started beside the program it shows its drawings in a window; with
-// --esporta it converts one without a window.
+// --esporta it converts drawings without a window.
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QScreen>
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
+#include <variant>
 
 #include "platform/comune/argomenti.h"
 #include "platform/comune/scala.h"
 #include "platform/qt/schermo.h"
 #include "viewer/avvio.h"
-#include "viewer/caricamento.h"
-#include "viewer/esporta.h"
 #include "viewer/finestra.h"
+#include "viewer/riga_comando.h"
+#include "viewer/senza_finestra.h"
 
 namespace ostrel {
 namespace {
 
 constexpr char kFileAvvio[] = "ostrel.inp";
-
-int Fallito(const QString& messaggio) {
-  tarvel::PreparaFlussi();
-  std::fprintf(stderr, "%s\n", qUtf8Printable(messaggio));
-  return 1;
-}
-
-int EsportaSenzaFinestra(const QString& uscita, const QString& disegno) {
-  const Caricato caricato = CaricaAttendendo(disegno.toStdString());
-  if (!caricato.disegno) return Fallito(QString::fromStdString(caricato.messaggio));
-  const auto errore = Esporta(*caricato.disegno, uscita);
-  return errore ? Fallito(*errore) : 0;
-}
 
 // The working folder is the program's own where the preview starts it.
 std::optional<Avvio> CercaAvvio() {
@@ -51,13 +37,13 @@ void Disponi(QWidget& finestra, const tarvel::Rettangolo& posto) {
                                            std::clamp(angolo.y(), 0, schermo.height() - misura.height())));
 }
 
-int MostraInFinestra(const QStringList& argomenti, bool sorveglia) {
+int MostraInFinestra(const Richieste& richieste) {
   const auto avvio = CercaAvvio();
-  Finestra finestra(sorveglia);
+  Finestra finestra(richieste.sorveglia);
   Disponi(finestra, avvio.value_or(Avvio{}).posto);
   finestra.show();
-  if (!argomenti.isEmpty())
-    finestra.Apri(argomenti.front());
+  if (!richieste.disegni.isEmpty())
+    finestra.Apri(richieste.disegni.front());
   else if (avvio)
     finestra.Apri(QString::fromStdString(avvio->disegno));
   else
@@ -67,38 +53,33 @@ int MostraInFinestra(const QStringList& argomenti, bool sorveglia) {
 }
 
 int Esegui(int argc, char** argv) {
-  // An export needs no display, nor does it look for one. Where the toolkit came without its plugin for
-  // that, the host's own will do.
-  const bool esporta = std::any_of(argv, argv + argc, [](const char* argomento) {
-    return std::strncmp(argomento, "--esporta", std::strlen("--esporta")) == 0;
-  });
-  if (esporta) qputenv("QT_QPA_PLATFORM", "offscreen;windows");
+  const auto lette = LeggiRichieste(tarvel::Argomenti(argc, argv));
+  if (const auto* errore = std::get_if<QString>(&lette)) {
+    tarvel::PreparaFlussi();
+    Dice(*errore);
+    std::fputs("Come si usa: ostrel --aiuto\n", stderr);
+    return 2;
+  }
+  const auto& richieste = std::get<Richieste>(lette);
+  if (richieste.aiuto || richieste.versione) {
+    tarvel::PreparaFlussi();
+    const char* const testo = richieste.aiuto ? kAiuto : "ostrel " VERSIONE "\n";
+    return std::fputs(testo, stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
+  }
+  const bool esporta = !richieste.esporta.isEmpty();
+  if (esporta) {
+    // An export needs no display, nor does it look for one. Where the toolkit came without its plugin for
+    // that, the host's own will do.
+    qputenv("QT_QPA_PLATFORM", "offscreen;windows");
+    tarvel::PreparaFlussi();
+  }
   const auto applicazione = tarvel::ApreSchermo(argc, argv);
-
-  QCommandLineParser riga;
-  riga.addOptions(
-      {{"esporta", "Scrive il disegno in un file .png, .svg, .pdf o .dxf, senza finestra.", "file"},
-       {"senza-sorveglianza", "Ricarica il disegno soltanto a comando."},
-       {"version", "Dice la versione."},
-       {{"h", "help"}, "Mostra questo aiuto."}});
-  riga.addPositionalArgument("disegno", "File .dis da mostrare; senza, quello nominato da \"ostrel.inp\".",
-                             "[disegno]");
-  if (!riga.parse(QCoreApplication::arguments())) return Fallito(riga.errorText());
-  if (riga.isSet("help")) riga.showHelp();
-  const QStringList argomenti = riga.positionalArguments();
-  if (argomenti.size() > 1) return Fallito("Troppi argomenti: si mostra un disegno alla volta.");
-  if (!esporta) return MostraInFinestra(argomenti, !riga.isSet("senza-sorveglianza"));
-  if (argomenti.isEmpty()) return Fallito("Manca il disegno da esportare.");
-  return EsportaSenzaFinestra(riga.value("esporta"), argomenti.front());
+  return esporta ? EsportaTutti(richieste) : MostraInFinestra(richieste);
 }
 
 }  // namespace
 }  // namespace ostrel
 
 int main(int argc, char** argv) {
-  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
-    tarvel::PreparaFlussi();
-    return std::puts("ostrel " VERSIONE) < 0;
-  }
   return ostrel::Esegui(argc, argv);
 }

@@ -1,8 +1,11 @@
-// The unit of a drawing's lengths, which its file does not say, and the scale it goes to paper at.
+// The unit of a drawing's lengths, which its file does not say, and the sheet and scale it goes to paper at;
+// with the words for them that command line, windows and remembered choices share.
 #pragma once
 
+#include <QString>
 #include <array>
 #include <cstddef>
+#include <optional>
 
 namespace ostrel {
 
@@ -22,11 +25,49 @@ constexpr const VoceUnita& Voce(Unita unita) {
   return kUnita[static_cast<std::size_t>(unita)];
 }
 
+/// The upright sides in millimetres.
+struct VoceCarta {
+  const char* nome;
+  double larghezza, altezza;
+};
+
+enum class Carta { A4, A3, A2, A1, A0 };
+
+/// In the order of Carta.
+inline constexpr std::array<VoceCarta, 5> kCarte = {
+    {{"A4", 210, 297}, {"A3", 297, 420}, {"A2", 420, 594}, {"A1", 594, 841}, {"A0", 841, 1189}}};
+
+constexpr const VoceCarta& Voce(Carta carta) {
+  return kCarte[static_cast<std::size_t>(carta)];
+}
+
+/// Automatico: the one the drawing has more room in.
+enum class Orientamento { Automatico, Verticale, Orizzontale };
+
+/// In the order of Orientamento.
+inline constexpr std::array<const char*, 3> kOrientamenti = {"automatico", "verticale", "orizzontale"};
+
+/// The scales that drawings of a section are made at.
+inline constexpr std::array<double, 8> kScale = {10, 20, 25, 50, 100, 200, 250, 500};
+inline constexpr double kMassimoRapporto = 1e6;
+
 /// How a drawing is put on paper and into files for other programs.
 struct Resa {
   Unita unita = Unita::Ignota;
   /// The drawing is one part in `rapporto` of the thing; 0: as large as the sheet allows.
   double rapporto = 0;
+  Carta carta = Carta::A4;
+  Orientamento orientamento = Orientamento::Automatico;
 };
+
+/// Reads mm, cm, m; in any case, nothing for another word.
+std::optional<Unita> LeggiUnita(const QString& testo);
+/// Reads A4 to A0.
+std::optional<Carta> LeggiCarta(const QString& testo);
+std::optional<Orientamento> LeggiOrientamento(const QString& testo);
+/// Reads "1:50", "50", "1:12,5", "adatta" (0); the figure above 0 and up to kMassimoRapporto.
+std::optional<double> LeggiScala(const QString& testo);
+/// "1:50"; "adatta" for 0.
+QString InTesto(double rapporto);
 
 }  // namespace ostrel

@@ -14,6 +14,7 @@
 #include "viewer/dxf.h"
 #include "viewer/esporta.h"
 #include "viewer/pittura.h"
+#include "viewer/stampa.h"
 
 namespace ostrel {
 namespace {
@@ -83,7 +84,7 @@ TEST(Esporta, PdfEStampa) {
   ASSERT_EQ(Esporta(prove::Esempio(), esportato), std::nullopt);
   QPrinter stampante(QPrinter::HighResolution);
   stampante.setOutputFileName(stampato);
-  ASSERT_TRUE(Stampa(prove::Esempio(), stampante));
+  ASSERT_TRUE(Stampa(prove::Esempio(), {}, {}, stampante));
   for (const QString& file : {esportato, stampato}) {
     const std::string byte = prove::Leggi(file.toStdString());
     EXPECT_TRUE(byte.starts_with("%PDF-") && byte.ends_with("%%EOF\n")) << file.toStdString();

@@ -29,7 +29,6 @@ problemi() { prova 1 "Problemi con la scrittura del file $1: $2" --esporta "$1" 
 problemi pieno.png 'il disco è pieno'
 problemi manca/s.png 'la cartella non esiste'
 problemi s.dis/s.svg 'la cartella non esiste'
-problemi cartella.svg 'è una cartella'
 problemi tubo.svg 'non è un file'
 problemi "$(printf 'x%.0s' {1..300}).pdf" 'il nome è troppo lungo'
 problemi s.svg 'non c'\''è niente da disegnare' vuoto.dis
@@ -38,7 +37,36 @@ echo prima >s.png
 (ulimit -f 1 && problemi s.png 'il file supera la grandezza consentita')
 [ -c pieno.png ] && [ -p tubo.svg ] && [ "$(cat s.png)" = prima ]
 [ "$(ls)" = $'cartella.svg\nchiusa\npieno.png\ns.dis\ns.dxf\ns.png\ntubo.svg\nvuoto.dis' ]
-for uscita in s.bmp senza "$cartella/.dxf/"; do prova 1 "File $uscita: si esporta in" --esporta "$uscita" s.dis; done
 prova 1 'non è un file di disegno' --esporta s.pdf .
-prova 1 'Manca il disegno' --esporta s.pdf
-prova 1 'esportare' --esportare
+
+# What is not understood is no failed export: another status, and nothing written.
+prima=$(ls)
+for uscita in s.bmp senza .dxf/; do prova 2 "file $uscita: si esporta in" --esporta "$uscita" s.dis; done
+prova 2 'manca il disegno' --esporta s.pdf
+prova 2 'opzione sconosciuta: --esportare' --esportare
+prova 2 'cartella.svg è una cartella: ci vuole --tipo' --esporta cartella.svg s.dis
+prova 2 'la cartella manca non esiste' --esporta manca --tipo pdf s.dis
+prova 2 'più disegni' --esporta a.pdf s.dis vuoto.dis
+prova 2 '--scala vuole anche --unita' --esporta a.pdf --scala 1:50 s.dis
+prova 2 '--scala: una scala, come 1:50' --esporta a.pdf --unita cm --scala=5:1 s.dis
+prova 2 '--unita: mm, cm o m, non "piedi"' --esporta a.pdf --unita piedi s.dis
+prova 2 '--carta vale soltanto per il PDF' --esporta a.dxf --carta A3 s.dis
+prova 2 '--comunque vale soltanto con --esporta' --comunque s.dis
+prova 2 'dopo --tipo manca il valore' --esporta . --tipo
+prova 1 'Ci sta a 1:50. A 1:20 basta un foglio A1.' --esporta a.pdf --unita cm --scala 20 s.dis
+prova 1 'misura 2,8 × 1,7 mm: non si vedrebbe niente' --esporta a.pdf --unita mm --scala 1:500 s.dis
+[ "$(ls)" = "$prima" ]
+
+# Several drawings: a bad one is passed over; two of one name are refused before anything is written.
+mkdir tavole altri
+cp s.dis altri/S.dis
+cp s.dis -- -t.1.dis
+prova 2 'andrebbero tutti e due in tavole/S.png' --esporta tavole --tipo png s.dis altri/S.dis
+[ -z "$(ls tavole)" ]
+prova 1 'ostrel: 2 su 4 non esportati' --esporta=tavole/ --tipo=PDF --unita=cm manca.dis s.dis vuoto.dis -- -t.1.dis
+[ "$(ls tavole)" = $'-t.1.pdf\ns.pdf' ]
+
+"$ostrel" -h >aiuto
+"$ostrel" --aiuto | cmp - aiuto
+[[ $(head -1 aiuto) = 'ostrel - '* ]]
+[ "$(awk 'length > 120' aiuto)" = '' ]
