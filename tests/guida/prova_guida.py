@@ -6,7 +6,7 @@ remade, its links followed.
 
 A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
 example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
-LINE / LINE" writes lines N times. Of a line "= ..." the last word, or after a name of CAMPI_INTERI the whole
+LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values. Of a line "= ..." the last word, or after a name of CAMPI_INTERI the whole
 rest, has to stand in the text under the same heading too; a line "~ ..." is compared with the program alone:
     = NAME FIELD VALUE           a section of the file: larghezza, ZG, An, O10y, P14.tauVy, punti, ...
     = calcolo EXPRESSION VALUE   of such values of the only section
@@ -69,7 +69,7 @@ def sezioni(percorso):
 class Prova:
     """One commented session: its lines so far are played as far as each thing it comes to."""
 
-    def __init__(self, dove, righe, visibile):
+    def __init__(self, dove, righe, visibile, pagina):
         self.dove, self.visibile, self.copione, self.detto = dove, visibile, [], ""
         with tempfile.TemporaryDirectory(prefix="Guida_") as base:
             self.base, self.passo = base, 0
@@ -81,6 +81,11 @@ class Prova:
                 elif verbo == "riavvia":
                     self.gioca()
                     self.copione, self.inizio = [], self.radice
+                elif verbo == "zeri":
+                    os.remove(os.path.join(self.radice, "custom", "CapSezDe.txt"))
+                elif verbo == "tabella":
+                    for numero, valore in re.findall(r"\| (\d+) \| [^|]+ \| ([-\d.]+) (?=\|)", pagina):
+                        self.copione.append(f"type Text1({numero}) {valore}")
                 elif verbo == "ripeti":
                     quante, _, corpo = resto.partition(" ")
                     self.copione += [(c % k if "%" in c else c) for k in range(1, int(quante) + 1)
@@ -166,11 +171,14 @@ def testo_visibile(testo):
 def prove():
     quante = 0
     for nome in sorted(os.listdir(DOCS)):
-        if not re.fullmatch(r"guida.*\.md|lotto\.md", nome):
+        if not re.fullmatch(r"guida.*\.md", nome):
             continue
-        for parte in re.split(r"^(?=#)", leggi(os.path.join(DOCS, nome)), flags=re.M):
+        pagina = leggi(os.path.join(DOCS, nome))
+        for parte in re.split(r"^(?=#)", pagina, flags=re.M):
             for blocco in re.findall(r"<!-- prova\n(.*?)-->", parte, re.S):
-                Prova(f"{nome}, {parte.splitlines()[0]}", blocco.splitlines(), testo_visibile(parte))
+                # What a step comes to is told in the steps after it too.
+                Prova(f"{nome}, {parte.splitlines()[0]}", blocco.splitlines(),
+                      testo_visibile(pagina if "tabella" in blocco else parte), pagina)
                 quante += 1
     controlla("pagine", "sessioni", quante > 15, True)
 

@@ -13,7 +13,7 @@ for programma in tarvel1-headless tarvel1 ostrel; do
   [ "$detto" = "$programma $2" ] || { echo "$programma --version: $detto"; exit 1; }
 done
 cd "$dove/share"
-for file in doc/tarvel1/guida.md icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
+for file in doc/tarvel1/guida{,-esempio}.md doc/tarvel1/immagini/{finestra.png,punti.svg} icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
   [ -s "$file" ] || { echo "manca $file"; exit 1; }
 done
 # What checks them may be missing outside ./check.
