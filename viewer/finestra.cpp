@@ -1,20 +1,23 @@
-// Commands of the menu, reading and watching the drawing's file.
+// Opening, reading and watching the drawing's file; what is said about it.
 #include "viewer/finestra.h"
 
-#include <QAction>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStatusBar>
+#include <array>
 #include <cmath>
 
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
+#include "viewer/recenti.h"
 #include "viewer/stampa.h"
 #include "viewer/tela.h"
 
@@ -22,11 +25,23 @@ namespace ostrel {
 namespace {
 
 constexpr int kMassimoTitolo = 80;
+constexpr std::array kNomiLivelli = {"contorno", "quote", "testi"};
 
 // Hundredths as far as they can be read at a glance.
 QString Lunghezza(double v) {
   constexpr double kMassimaDistesa = 1e10;
   return std::fabs(v) < kMassimaDistesa ? QString::number(v, 'f', 2) : QString::number(v, 'g', 6);
+}
+
+QLabel* Riga(const char* nome, const char* fondo, QWidget* padre) {
+  auto* riga = new QLabel(padre);
+  riga->setObjectName(nome);
+  riga->setTextFormat(Qt::PlainText);
+  riga->setWordWrap(true);
+  riga->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  riga->setStyleSheet(QString("background: %1; color: white; padding: 6px;").arg(fondo));
+  riga->hide();
+  return riga;
 }
 
 }  // namespace
@@ -35,18 +50,15 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   auto* interno = new QWidget(this);
   auto* posto = new QGridLayout(interno);
   posto->setContentsMargins(0, 0, 0, 0);
-  avviso_ = new QLabel(interno);
-  avviso_->setObjectName("avviso");
-  avviso_->setTextFormat(Qt::PlainText);
-  avviso_->setWordWrap(true);
-  avviso_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  avviso_->setStyleSheet("background: #8c1d18; color: white; padding: 6px;");
-  avviso_->hide();
+  avviso_ = Riga("avviso", "#8c1d18", interno);
+  conferma_ = Riga("conferma", "#1b5e20", interno);
   tela_ = new Tela(interno);
-  // The notice lies over the drawing, whose place and zoom it must not change.
+  // The notices lie over the drawing, whose place and zoom they must not change.
   posto->addWidget(tela_, 0, 0);
   posto->addWidget(avviso_, 0, 0, Qt::AlignTop);
+  posto->addWidget(conferma_, 0, 0, Qt::AlignBottom);
   avviso_->raise();
+  conferma_->raise();
   setCentralWidget(interno);
 
   coordinate_ = new QLabel(this);
@@ -60,6 +72,9 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
     coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x * unita), Lunghezza(y * unita)));
   });
 
+  connect(tela_, &Tela::Toccata, this, [this] { Conferma({}); });
+  setAcceptDrops(true);
+
   CreaMenu();
   Intitola();
   attesa_.setSingleShot(true);
@@ -72,31 +87,43 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   connect(&sorvegliante_, &QFileSystemWatcher::directoryChanged, this, cambiato);
 }
 
-void Finestra::CreaMenu() {
-  QMenu* file = menuBar()->addMenu("&File");
-  const auto voce = [&](const char* nome, const QString& testo, const QKeySequence& tasti, auto comando) {
-    QAction* azione = file->addAction(testo);
-    azione->setObjectName(nome);
-    azione->setShortcut(tasti);
-    connect(azione, &QAction::triggered, this, comando);
-    return azione;
-  };
-  // The program that starts the viewer reloads by Alt+F, G.
-  voce("ricarica", "Ricarica dise&gno", QKeySequence::Refresh, &Finestra::Ricarica);
-  voce("apri", "&Apri...", QKeySequence::Open, &Finestra::ScegliFile);
-  voce("esporta", "&Esporta...", QKeySequence("Ctrl+E"), &Finestra::EsportaFile);
-  voce("stampa", "&Stampa...", QKeySequence::Print, &Finestra::StampaDisegno);
-  file->addSeparator();
-  voce("adatta", "A&datta alla finestra", QKeySequence("F"), [this] { tela_->Adatta(); });
-  file->addSeparator();
-  voce("chiudi", "&Chiudi", QKeySequence("Alt+F4"), [this] { close(); });
-}
-
 void Finestra::Apri(const QString& percorso) {
   // As the watch reports paths on every host.
   percorso_ = QDir::fromNativeSeparators(percorso);
   daAdattare_ = true;
   Ricarica();
+}
+
+void Finestra::ApriRecente(const QString& percorso) {
+  Conferma({});
+  if (QFileInfo::exists(percorso)) return Apri(percorso);
+  TogliRecente(percorso);
+  Avvisa("File " + QDir::toNativeSeparators(percorso) + ": il disegno non esiste più; tolto dai recenti");
+}
+
+void Finestra::dragEnterEvent(QDragEnterEvent* evento) {
+  if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+}
+
+// More than one at a time is a hand's slip: what became of the others is said.
+void Finestra::dropEvent(QDropEvent* evento) {
+  evento->acceptProposedAction();
+  Conferma({});
+  QStringList file;
+  for (const QUrl& indirizzo : evento->mimeData()->urls())
+    if (indirizzo.isLocalFile()) file << indirizzo.toLocalFile();
+  if (file.isEmpty()) return Avvisa("Si aprono soltanto disegni che sono file di questo computer");
+  Apri(file.front());
+  if (file.size() > 1)
+    Conferma(
+        QString("Di %1 file si apre il primo: %2").arg(file.size()).arg(QFileInfo(file.front()).fileName()));
+}
+
+void Finestra::keyPressEvent(QKeyEvent* evento) {
+  if (evento->key() == Qt::Key_Escape)
+    Avvisa({});
+  else
+    QMainWindow::keyPressEvent(evento);
 }
 
 void Finestra::Ricarica() {
@@ -114,8 +141,8 @@ void Finestra::Tenta() {
     return;
   }
   if (esito.disegno) {
-    tela_->Mostra(std::move(*esito.disegno));
-    if (daAdattare_) tela_->Adatta();
+    tela_->Mostra(std::move(*esito.disegno), daAdattare_);
+    if (daAdattare_) AggiungiRecente(percorso_);
     daAdattare_ = false;
     Intitola();
   }
@@ -128,6 +155,11 @@ void Finestra::Avvisa(const QString& testo) {
   avviso_->setVisible(!testo.isEmpty());
 }
 
+void Finestra::Conferma(const QString& testo) {
+  conferma_->setText(testo);
+  conferma_->setVisible(!testo.isEmpty());
+}
+
 // The drawing's first text is its title.
 void Finestra::Intitola() {
   const Disegno& d = tela_->Mostrato();
@@ -137,9 +169,19 @@ void Finestra::Intitola() {
   if (!percorso_.isEmpty()) parti << QFileInfo(percorso_).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
+  Conta();
+}
+
+void Finestra::Conta() {
+  const Disegno& d = tela_->Mostrato();
   QString conteggio =
       QString("%1 linee, %2 archi, %3 testi").arg(d.linee.size()).arg(d.archi.size()).arg(d.scritte.size());
   if (d.saltati > 0) conteggio += QString(", %1 linee o archi senza un punto saltati").arg(d.saltati);
+  const Livelli& mostrati = tela_->LivelliMostrati();
+  QStringList nascosti;
+  for (std::size_t i = 0; i < mostrati.size(); ++i)
+    if (!mostrati[i]) nascosti << kNomiLivelli[i];
+  if (!nascosti.isEmpty()) conteggio += " (nascosti: " + nascosti.join(", ") + ")";
   conteggio_->setText(conteggio);
 }
 

@@ -1,4 +1,4 @@
-// The window: menu "File", the drawing, a notice when it cannot be shown, the line of coordinates.
+// The window: its menus, the drawing, a notice when it cannot be shown, the line of coordinates.
 #pragma once
 
 #include <QFileSystemWatcher>
@@ -6,10 +6,12 @@
 #include <QTimer>
 
 class QLabel;
+class QMenu;
 
 namespace ostrel {
 
 class Tela;
+enum class Strumento;
 
 class Finestra : public QMainWindow {
   Q_OBJECT
@@ -21,19 +23,38 @@ class Finestra : public QMainWindow {
   /// Makes this file the window's drawing and fits it. A file that cannot be read leaves the
   /// drawing shown before, with a notice; the next reload tries it again.
   void Apri(const QString& percorso);
-  /// Reads the file anew; zoom and place stay. One still being written is waited for.
+  /// As Apri, but a drawing that is no longer there leaves the list of the recent ones, and the window as
+  /// it is.
+  void ApriRecente(const QString& percorso);
+  /// Reads the file anew: a fitted drawing stays fitted, otherwise zoom and place stay. One still being
+  /// written is waited for.
   void Ricarica();
   /// Says in the window what is wrong; an empty text takes the notice away.
   void Avvisa(const QString& testo);
+  /// Says what went well; goes away at the user's next action.
+  void Conferma(const QString& testo);
 
  signals:
   /// A reading has come to its end, well or not.
   void Letto(bool riuscito);
 
+ protected:
+  void dragEnterEvent(QDragEnterEvent* evento) override;
+  void dropEvent(QDropEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+
  private:
   void CreaMenu();
+  void CreaMenuFile();
+  void CreaMenuVista();
+  void CreaVociLivelli(QMenu& vista);
+  void CreaMenuStrumenti();
+  void ElencaRecenti();
+  void CopiaTabella();
+  void Alterna(Strumento strumento);
   void Tenta();
   void Intitola();
+  void Conta();
   void Sorveglia();
   void ScegliFile();
   void EsportaFile();
@@ -46,7 +67,9 @@ class Finestra : public QMainWindow {
   QFileSystemWatcher sorvegliante_;
   QTimer attesa_;  // until the next attempt to read a file that is being written
   Tela* tela_;
+  QMenu* recenti_ = nullptr;
   QLabel* avviso_;
+  QLabel* conferma_;
   QLabel* coordinate_;
   QLabel* conteggio_;
 };

@@ -1,6 +1,8 @@
 // Outline, dimensions and texts told apart by how elements follow one another.
 #include "viewer/livelli.h"
 
+#include <utility>
+
 #include "base/numeri.h"
 #include "viewer/misure.h"
 
@@ -34,6 +36,19 @@ Livello LivelloArco(const Disegno& disegno, const Arco& arco) {
 
 Livello LivelloScritta(const Scritta& scritta) {
   return tarvel::NumeroRegionale(scritta.testo, ',', ' ') ? Livello::Quote : Livello::Testi;
+}
+
+Disegno SoloLivelli(Disegno disegno, const Livelli& voluti) {
+  const auto voluto = [&](Livello l) { return voluti[static_cast<std::size_t>(l)]; };
+  const auto livelli = LivelliLinee(disegno);
+  std::vector<Linea> linee;
+  for (std::size_t i = 0; i < livelli.size(); ++i)
+    if (voluto(livelli[i])) linee.push_back(disegno.linee[i]);
+  disegno.linee = std::move(linee);
+  std::erase_if(disegno.archi, [&](const Arco& arco) { return !voluto(LivelloArco(disegno, arco)); });
+  std::erase_if(disegno.scritte, [&](const Scritta& s) { return !voluto(LivelloScritta(s)); });
+  if (!voluto(Livello::Contorno)) disegno.punti.clear();
+  return disegno;
 }
 
 }  // namespace ostrel

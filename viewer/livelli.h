@@ -1,6 +1,7 @@
 // The use of each element, read from the drawing itself: a drawing file names no layers.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -21,5 +22,12 @@ Livello LivelloArco(const Disegno& disegno, const Arco& arco);
 
 /// A text that is nothing but a number is the value of a dimension.
 Livello LivelloScritta(const Scritta& scritta);
+
+/// The kinds of elements that are wanted, by Livello; marked points go with the outline.
+using Livelli = std::array<bool, 3>;
+inline constexpr Livelli kTuttiLivelli = {true, true, true};
+
+/// The drawing with nothing but these.
+Disegno SoloLivelli(Disegno disegno, const Livelli& voluti);
 
 }  // namespace ostrel
