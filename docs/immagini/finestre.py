@@ -30,15 +30,17 @@ def riduci(file, da=None):
 
 
 class Scena(contextlib.ExitStack):
-    """The program at a screen of its own, on a fresh installation with the worked example. Its root is a relative
-    path, so that the pictures are the same wherever they are taken."""
+    """The program at a screen of its own, on a fresh installation with the worked example. Where its paths are
+    seen its root is a relative one, so that the pictures are the same wherever they are taken; the viewer finds
+    its drawing by a whole path only."""
 
-    def __init__(self, programmi):
+    def __init__(self, programmi, relativa=False):
         super().__init__()
         self.programmi = Path(programmi).resolve()
         self.cartella = Path(self.enter_context(tempfile.TemporaryDirectory(prefix="Finestre_")))
+        self.radice = "ponti" if relativa else str(self.cartella / "ponti")
         installa(str(self.cartella / "ponti"))
-        (self.cartella / "ponti/impostazioni/dirlav").write_text("ponti/Lavori\r\n", newline="")
+        (self.cartella / "ponti/impostazioni/dirlav").write_text(f"{self.radice}/Lavori\r\n", newline="")
         (self.cartella / "ponti/custom/CapSezDe.txt").write_text(ESEMPIO, newline="")
         visore = self.cartella / "ponti/progra/ostrel.exe"
         visore.unlink()
@@ -57,11 +59,11 @@ class Scena(contextlib.ExitStack):
 
     def recita(self, copione):
         """What the scripted desktop says of the same installation."""
-        return subprocess.run([self.programmi / "tarvel1-headless", "|diroot=ponti|"], input=copione, text=True,
+        return subprocess.run([self.programmi / "tarvel1-headless", f"|diroot={self.radice}|"], input=copione, text=True,
                               stdout=subprocess.PIPE, cwd=self.cartella, check=True).stdout
 
     def avvia(self):
-        self.figlio = self.enter_context(programma(self.programmi / "tarvel1", "|diroot=ponti|", cwd=self.cartella,
+        self.figlio = self.enter_context(programma(self.programmi / "tarvel1", f"|diroot={self.radice}|", cwd=self.cartella,
                                                    env=self.schermo.ambiente, stderr=subprocess.DEVNULL))
         return self.schermo.davanti("tarvel1")
 
@@ -107,7 +109,7 @@ def numerata(scena, ritratto, file):
 
 def del_programma(programmi, cartella):
     """The main form, numbered, and the form of options."""
-    with Scena(programmi) as scena:
+    with Scena(programmi, relativa=True) as scena:
         finestra = scena.avvia()
         scena.ritrai(finestra, cartella / "nuda.png")
         numerata(scena, cartella / "nuda.png", cartella / "finestra.png")
@@ -118,4 +120,46 @@ def del_programma(programmi, cartella):
         finisce(scena.figlio, 0)
     return "finestra.png", "opzioni.png"
 
-RITRATTI = (del_programma,)
+
+# Options for centimetres, as the guide recommends them.
+OPZIONI_CM = {9: 7, 10: 10, 11: 4, 14: 12, 15: 18}
+
+
+def del_visore(programmi, cartella):
+    """The worked section followed by hand as far as its preview."""
+    with Scena(programmi) as scena:
+        schermo = scena.schermo
+        scena.avvia()
+        scena.clic("tarvel1", "nome")
+        schermo.mano("key", "--delay", 0, "ctrl+a")
+        schermo.mano("type", "--delay", 20, "PONTE")
+        for bottone in ("Calcolo", "Command2"):
+            scena.clic("tarvel1", bottone)
+            schermo.davanti("INFORMAZIONE")
+            schermo.mano("key", "Return")
+            schermo.davanti("tarvel1")
+        scena.clic("tarvel1", "Command4")
+        visore = schermo.davanti("ostrel")
+        schermo.mano("windowsize", "--sync", visore, 1000, 600)
+        scena.ritrai(visore, cartella / "visore.png")
+        schermo.chiudi("ostrel")
+        schermo.davanti("tarvel1")
+        scena.clic("tarvel1", "Command5")
+        finisce(scena.figlio, 0)
+    return "visore.png",
+
+
+def del_disegno(programmi, cartella):
+    """The worked section's drawing, with the options that the guide recommends."""
+    with Scena(programmi) as scena:
+        scena.recita("type nome PONTE\nclick Command6\n" + "".join(
+            f"type TextOpt({k}) {v}\n" for k, v in OPZIONI_CM.items()) +
+            "click FormOpt.Applica\nclick FormOpt.Chiudi\nclick Calcolo\nclick Command2\n")
+        subprocess.run([scena.programmi / "ostrel", "--esporta", cartella / "grande.png",
+                        scena.cartella / "ponti/Lavori/PR0001/PONTE.dis"], check=True, env=scena.schermo.ambiente)
+        subprocess.run(["convert", cartella / "grande.png", "-resize", "1100x", cartella / "disegno.png"], check=True)
+        (cartella / "grande.png").unlink()
+    return "disegno.png",
+
+
+RITRATTI = del_programma, del_visore, del_disegno
