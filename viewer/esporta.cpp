@@ -80,6 +80,10 @@ constexpr std::array<Genere, 4> kGeneri = {{
     {"dxf", "Disegno DXF", ScriviDxfSu},
 }};
 
+const Genere* CercaGenere(const QString& finale) {
+  return std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) { return finale == g.finale; });
+}
+
 constexpr char kDiscoPieno[] = "il disco è pieno";
 constexpr char kSenzaPermesso[] = "manca il permesso di scrivere nella cartella o sul file";
 
@@ -155,16 +159,15 @@ Motivo ScriviFile(const QString& percorso, const QByteArray& byte) {
 
 }  // namespace
 
-QString FiltriEsportazione() {
-  QStringList filtri;
-  for (const Genere& genere : kGeneri) filtri << QString("%1 (*.%2)").arg(genere.nome, genere.finale);
-  return filtri.join(";;");
-}
-
 QStringList FinaliEsportazione() {
   QStringList finali;
   for (const Genere& genere : kGeneri) finali << genere.finale;
   return finali;
+}
+
+QString FiltroEsportazione(const QString& finale) {
+  const Genere& genere = *CercaGenere(finale);
+  return QString("%1 (*.%2)").arg(genere.nome, genere.finale);
 }
 
 QString FinaleDi(const QString& percorso) {
@@ -174,9 +177,7 @@ QString FinaleDi(const QString& percorso) {
 
 std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa,
                                const Origine& origine) {
-  const QString finale = FinaleDi(percorso);
-  const auto* const genere =
-      std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) { return finale == g.finale; });
+  const auto* const genere = CercaGenere(FinaleDi(percorso));
   if (genere == kGeneri.end()) return QString("File %1: si esporta in .png, .svg, .pdf o .dxf").arg(percorso);
 
   QBuffer byte;

@@ -11,10 +11,10 @@
 
 namespace ostrel {
 
-/// The kinds of file that can be written, as a file dialog lists them.
-QString FiltriEsportazione();
-/// Their endings, in the same order: "png" and so on.
+/// The endings of the kinds of file that can be written: "png" and so on.
 QStringList FinaliEsportazione();
+/// One of these kinds as a file dialog lists it: "Immagine PNG (*.png)".
+QString FiltroEsportazione(const QString& finale);
 /// Which of them ends this name, in lower case; empty: none.
 QString FinaleDi(const QString& percorso);
 

@@ -9,16 +9,13 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QStatusBar>
 #include <array>
 #include <cmath>
 
 #include "viewer/caricamento.h"
-#include "viewer/esporta.h"
+#include "viewer/comandi_carta.h"
 #include "viewer/recenti.h"
-#include "viewer/stampa.h"
 #include "viewer/tela.h"
 
 namespace ostrel {
@@ -201,25 +198,18 @@ void Finestra::ScegliFile() {
 }
 
 void Finestra::EsportaFile() {
-  const QFileInfo file(percorso_);
-  QFileDialog dialogo(this, "Esporta disegno", file.path(), FiltriEsportazione());
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.selectFile(file.completeBaseName());
-  // The ending follows the chosen kind where the user types none.
-  const auto segui = [&](const QString& filtro) {
-    dialogo.setDefaultSuffix(filtro.section("*.", 1).chopped(1));
-  };
-  connect(&dialogo, &QFileDialog::filterSelected, this, segui);
-  segui(dialogo.selectedNameFilter());
-  if (dialogo.exec() == QDialog::Accepted)
-    Avvisa(Esporta(tela_->Mostrato(), dialogo.selectedFiles().front()).value_or(QString()));
+  Riferisci(EsportaDaFinestra(tela_->Mostrato(), percorso_, this));
 }
 
 void Finestra::StampaDisegno() {
-  QPrinter stampante(QPrinter::HighResolution);
-  QPrintDialog dialogo(&stampante, this);
-  if (dialogo.exec() == QDialog::Accepted && !Stampa(tela_->Mostrato(), {}, {percorso_}, stampante))
-    Avvisa("Problemi con la stampa del disegno");
+  Riferisci(StampaDaFinestra(tela_->Mostrato(), percorso_, this));
+}
+
+// An order taken back says nothing, and leaves what was said before.
+void Finestra::Riferisci(const Esito& esito) {
+  if (esito.errore.isEmpty() && esito.conferma.isEmpty()) return;
+  Avvisa(esito.errore);
+  Conferma(esito.conferma);
 }
 
 }  // namespace ostrel

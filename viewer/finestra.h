@@ -12,6 +12,7 @@ namespace ostrel {
 
 class Tela;
 enum class Strumento;
+struct Esito;
 
 class Finestra : public QMainWindow {
   Q_OBJECT
@@ -59,6 +60,7 @@ class Finestra : public QMainWindow {
   void ScegliFile();
   void EsportaFile();
   void StampaDisegno();
+  void Riferisci(const Esito& esito);
 
   QString percorso_;
   bool sorveglia_;

@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <QPageSize>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "viewer/misure.h"
@@ -44,12 +45,11 @@ Foglio Dividi(const QSizeF& stampabile) {
 }
 
 QPageLayout ConCarta(const Resa& resa, QPageLayout::Orientation verso) {
+  constexpr std::array<QPageSize::PageSizeId, kCarte.size()> kFogli = {
+      QPageSize::A4, QPageSize::A3, QPageSize::A2, QPageSize::A1, QPageSize::A0};
   constexpr double m = kMargineCarta;
-  const QSizeF lati(Voce(resa.carta).larghezza, Voce(resa.carta).altezza);
-  return {QPageSize(lati, QPageSize::Millimeter, Voce(resa.carta).nome),
-          verso,
-          {m, m, m, m},
-          QPageLayout::Millimeter};
+  return {
+      QPageSize(kFogli[static_cast<std::size_t>(resa.carta)]), verso, {m, m, m, m}, QPageLayout::Millimeter};
 }
 
 bool CiSta(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
@@ -87,7 +87,7 @@ QString Lunghezza(double mm) {
 }
 
 QString Lati(const QSizeF& mm) {
-  return QString("%1 × %2 mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
+  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
 }
 
 }  // namespace
@@ -132,6 +132,14 @@ QString InTesto(const QPageLayout& pagina) {
   return pagina.pageSize().name() + (distesa ? " orizzontale" : " verticale");
 }
 
+QString Descrivi(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
+  const Foglio foglio = Componi(disegno, resa, Stampabile(pagina));
+  const QString misura =
+      QString("Foglio %1; il disegno vi misura %2.").arg(InTesto(pagina), Lati(foglio.disegno));
+  return resa.unita == Unita::Ignota ? misura + " Non è in scala: per una scala serve l'unità del disegno."
+                                     : misura;
+}
+
 std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
   if (!InScala(resa)) return std::nullopt;
   const Foglio foglio = Componi(disegno, resa, Stampabile(pagina));
@@ -147,7 +155,7 @@ std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const
                       ScalaCheCiSta(disegno, resa, pagina), !(lungo <= kMassimoDipinto)};
   if (obiezione.ciSta > 0) obiezione.testo += QString(" Ci sta a %1.").arg(InTesto(obiezione.ciSta));
   if (const auto carta = CartaCheBasta(disegno, resa))
-    obiezione.testo += QString(" A %1 basta un foglio %2.").arg(InTesto(resa.rapporto), Voce(*carta).nome);
+    obiezione.testo += QString(" A %1 basta un foglio %2.").arg(InTesto(resa.rapporto), Nome(*carta));
   return obiezione;
 }
 

@@ -49,4 +49,7 @@ std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const
 /// "A4 orizzontale".
 QString InTesto(const QPageLayout& pagina);
 
+/// The sheet and what the drawing takes up on it, in words.
+QString Descrivi(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina);
+
 }  // namespace ostrel

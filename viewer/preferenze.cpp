@@ -41,8 +41,8 @@ void RicordaResa(const SceltaResa& scelta) {
   Ricorda(kChiaveGenere, scelta.genere);
   Ricorda(kChiaveUnita, Voce(scelta.resa.unita).nome);
   Ricorda(kChiaveScala, InTesto(scelta.resa.rapporto));
-  Ricorda(kChiaveCarta, Voce(scelta.resa.carta).nome);
-  Ricorda(kChiaveOrientamento, kOrientamenti[static_cast<std::size_t>(scelta.resa.orientamento)]);
+  Ricorda(kChiaveCarta, Nome(scelta.resa.carta));
+  Ricorda(kChiaveOrientamento, Nome(scelta.resa.orientamento));
 }
 
 }  // namespace ostrel

@@ -24,7 +24,7 @@ std::optional<Unita> LeggiUnita(const QString& testo) {
 }
 
 std::optional<Carta> LeggiCarta(const QString& testo) {
-  return Cerca<Carta>(kCarte, testo, [](const VoceCarta& v) { return v.nome; });
+  return Cerca<Carta>(kCarte, testo, [](const char* nome) { return nome; });
 }
 
 std::optional<Orientamento> LeggiOrientamento(const QString& testo) {

@@ -25,19 +25,12 @@ constexpr const VoceUnita& Voce(Unita unita) {
   return kUnita[static_cast<std::size_t>(unita)];
 }
 
-/// The upright sides in millimetres.
-struct VoceCarta {
-  const char* nome;
-  double larghezza, altezza;
-};
-
 enum class Carta { A4, A3, A2, A1, A0 };
 
 /// In the order of Carta.
-inline constexpr std::array<VoceCarta, 5> kCarte = {
-    {{"A4", 210, 297}, {"A3", 297, 420}, {"A2", 420, 594}, {"A1", 594, 841}, {"A0", 841, 1189}}};
+inline constexpr std::array<const char*, 5> kCarte = {"A4", "A3", "A2", "A1", "A0"};
 
-constexpr const VoceCarta& Voce(Carta carta) {
+constexpr const char* Nome(Carta carta) {
   return kCarte[static_cast<std::size_t>(carta)];
 }
 
@@ -46,6 +39,10 @@ enum class Orientamento { Automatico, Verticale, Orizzontale };
 
 /// In the order of Orientamento.
 inline constexpr std::array<const char*, 3> kOrientamenti = {"automatico", "verticale", "orizzontale"};
+
+constexpr const char* Nome(Orientamento orientamento) {
+  return kOrientamenti[static_cast<std::size_t>(orientamento)];
+}
 
 /// The scales that drawings of a section are made at.
 inline constexpr std::array<double, 8> kScale = {10, 20, 25, 50, 100, 200, 250, 500};

@@ -54,7 +54,7 @@ prova 2 '--carta vale soltanto per il PDF' --esporta a.dxf --carta A3 s.dis
 prova 2 '--comunque vale soltanto con --esporta' --comunque s.dis
 prova 2 'dopo --tipo manca il valore' --esporta . --tipo
 prova 1 'Ci sta a 1:50. A 1:20 basta un foglio A1.' --esporta a.pdf --unita cm --scala 20 s.dis
-prova 1 'misura 2,8 × 1,7 mm: non si vedrebbe niente' --esporta a.pdf --unita mm --scala 1:500 s.dis
+prova 1 'misura 2,8' --esporta a.pdf --unita mm --scala 1:500 s.dis
 [ "$(ls)" = "$prima" ]
 
 # Several drawings: a bad one is passed over; two of one name are refused before anything is written.

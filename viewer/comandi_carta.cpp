@@ -1,0 +1,182 @@
+// The drawing is copied first: it may be read anew while the user is choosing.
+#include "viewer/comandi_carta.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <algorithm>
+#include <optional>
+
+#include "viewer/dialogo_carta.h"
+#include "viewer/esporta.h"
+#include "viewer/misure.h"
+#include "viewer/preferenze.h"
+#include "viewer/stampa.h"
+
+namespace ostrel {
+namespace {
+
+constexpr char kPdf[] = "pdf";
+
+bool Sostituire(const QString& percorso, QWidget* finestra) {
+  QMessageBox domanda(QMessageBox::Warning, "Il file esiste già",
+                      QString("%1 esiste già: sostituirlo?").arg(QDir::toNativeSeparators(percorso)),
+                      QMessageBox::NoButton, finestra);
+  const QAbstractButton* const si = domanda.addButton("&Sostituisci", QMessageBox::DestructiveRole);
+  QPushButton* const annulla = domanda.addButton("&Annulla", QMessageBox::RejectRole);
+  domanda.setDefaultButton(annulla);
+  domanda.setEscapeButton(annulla);
+  domanda.exec();
+  return domanda.clickedButton() == si;
+}
+
+// A file of one of the kinds `finali`, its ending among them; empty: the user has thought better of it.
+QString ScegliUscita(const QString& titolo, const QString& percorso, const QStringList& finali,
+                     const QString& genere, QWidget* finestra) {
+  const QFileInfo file(percorso);
+  QStringList filtri;
+  for (const QString& finale : finali) filtri << FiltroEsportazione(finale);
+  const auto scelto = [&](qsizetype indice) { return std::max(indice, qsizetype{0}); };
+  QFileDialog dialogo(finestra, titolo, file.path());
+  dialogo.setAcceptMode(QFileDialog::AcceptSave);
+  dialogo.setNameFilters(filtri);
+  dialogo.selectNameFilter(filtri[scelto(finali.indexOf(genere))]);
+  dialogo.selectFile(file.completeBaseName());
+  // Asked here, about the name with its ending.
+  dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+  while (dialogo.exec() == QDialog::Accepted) {
+    const QString uscita = ConFinale(dialogo.selectedFiles().front(), finali,
+                                     finali[scelto(filtri.indexOf(dialogo.selectedNameFilter()))]);
+    if (!QFileInfo(uscita).isFile() || Sostituire(uscita, finestra)) return uscita;
+  }
+  return {};
+}
+
+std::optional<Unita> ChiediUnita(Unita unita, QWidget* finestra) {
+  QInputDialog dialogo(finestra);
+  dialogo.setWindowTitle("Esporta in DXF");
+  dialogo.setLabelText("In che unità è il disegno? Gli altri programmi la leggono nel file DXF.");
+  dialogo.setComboBoxItems(NomiUnita());
+  dialogo.setTextValue(NomiUnita()[static_cast<int>(unita)]);
+  dialogo.setOkButtonText("&Esporta");
+  dialogo.setCancelButtonText("&Annulla");
+  if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
+  return static_cast<Unita>(NomiUnita().indexOf(dialogo.textValue()));
+}
+
+// Its own least margins, where they are wider than the sheet's.
+void Margina(QPrinter& stampante) {
+  QPageLayout pagina = stampante.pageLayout();
+  pagina.setUnits(QPageLayout::Millimeter);
+  const QMarginsF minimi = pagina.minimumMargins();
+  constexpr double m = kMargineCarta;
+  pagina.setMargins({std::max(m, minimi.left()), std::max(m, minimi.top()), std::max(m, minimi.right()),
+                     std::max(m, minimi.bottom())});
+  stampante.setPageLayout(pagina);
+}
+
+// Whether what comes out of the printer as the user has set it is what he wants; the scale may change.
+bool VaBene(const Disegno& disegno, Resa& resa, const QPrinter& stampante, QWidget* finestra) {
+  const auto obiezione = Esamina(disegno, resa, stampante.pageLayout());
+  if (!obiezione) return true;
+  const Risposta risposta = ChiediComunque(finestra, *obiezione);
+  if (risposta == Risposta::AltraScala) resa.rapporto = obiezione->ciSta;
+  return risposta != Risposta::Annulla;
+}
+
+// "A4 orizzontale, 1:50".
+QString Come(const QPageLayout& pagina, const Resa& resa) {
+  return InTesto(pagina) + ", " + InTesto(resa.rapporto);
+}
+
+Esito EsportaIn(const QString& uscita, const Disegno& disegno, const Resa& resa, const Origine& origine) {
+  if (const auto errore = Esporta(disegno, uscita, resa, origine)) return {*errore, {}};
+  const QString detto = "Esportato: " + QDir::toNativeSeparators(uscita);
+  if (FinaleDi(uscita) != kPdf) return {{}, detto};
+  return {{}, QString("%1 (%2)").arg(detto, Come(Pagina(disegno, resa), resa))};
+}
+
+// The toolkit's own dialog chooses the printer, the paper in it and the copies.
+Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, QWidget* finestra) {
+  QPrinter stampante(QPrinter::HighResolution);
+  stampante.setDocName(Titolo(disegno));
+  stampante.setPageLayout(Pagina(disegno, resa));
+  QPrintDialog dialogo(&stampante, finestra);
+  dialogo.setWindowTitle("Stampa");
+  dialogo.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+  if (dialogo.exec() != QDialog::Accepted) return {};
+  Margina(stampante);
+  // What was well on the sheet of before may not be on that of the printer; a cut already agreed to is not
+  // asked about again.
+  if (!Esamina(disegno, resa, Pagina(disegno, resa)) && !VaBene(disegno, resa, stampante, finestra))
+    return {};
+  const bool riuscita = Stampa(disegno, resa, origine, stampante);
+  const QString file = QDir::toNativeSeparators(stampante.outputFileName());
+  if (!riuscita)
+    return {file.isEmpty() ? QString("La stampante %1 non accetta il disegno").arg(stampante.printerName())
+                           : QString("Problemi con la scrittura del file %1").arg(file),
+            {}};
+  const QString dove =
+      file.isEmpty() ? "Mandato alla stampante " + stampante.printerName() : "Stampato nel file " + file;
+  return {{}, QString("%1 (%2)").arg(dove, Come(stampante.pageLayout(), resa))};
+}
+
+Esito NienteDa(const char* cosa) {
+  return {QString("Non c'è niente da %1: il disegno è vuoto.").arg(cosa), {}};
+}
+
+}  // namespace
+
+QString ConFinale(const QString& percorso, const QStringList& finali, const QString& finale) {
+  if (finali.contains(FinaleDi(percorso))) return percorso;
+  return percorso + (percorso.endsWith('.') ? "" : ".") + finale;
+}
+
+Esito EsportaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidget* finestra) {
+  if (Ingombro(mostrato).Vuoto()) return NienteDa("esportare");
+  const Disegno disegno = mostrato;
+  const Origine origine{percorso};
+  SceltaResa scelta = ResaRicordata();
+  const QString uscita =
+      ScegliUscita("Esporta disegno", percorso, FinaliEsportazione(), scelta.genere, finestra);
+  if (uscita.isEmpty()) return {};
+  scelta.genere = FinaleDi(uscita);
+  if (scelta.genere == kPdf) {
+    DialogoCarta dialogo(disegno, origine, scelta.resa, {"Esporta in PDF", "&Esporta", {}}, finestra);
+    if (dialogo.exec() != QDialog::Accepted) return {};
+    scelta.resa = dialogo.Scelta();
+  } else if (scelta.genere == "dxf") {
+    const auto unita = ChiediUnita(scelta.resa.unita, finestra);
+    if (!unita) return {};
+    scelta.resa.unita = *unita;
+  }
+  RicordaResa(scelta);
+  return EsportaIn(uscita, disegno, scelta.resa, origine);
+}
+
+Esito StampaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidget* finestra) {
+  if (Ingombro(mostrato).Vuoto()) return NienteDa("stampare");
+  const Disegno disegno = mostrato;
+  const Origine origine{percorso};
+  const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();
+  SceltaResa scelta = ResaRicordata();
+  DialogoCarta dialogo(
+      disegno, origine, scelta.resa,
+      {"Stampa", senza ? "&Stampa in PDF..." : "&Stampa...",
+       senza ? "Su questo computer non c'è nessuna stampante: si stampa in un file PDF." : ""},
+      finestra);
+  if (dialogo.exec() != QDialog::Accepted) return {};
+  scelta.resa = dialogo.Scelta();
+  RicordaResa(scelta);
+  if (!senza) return MandaInStampa(disegno, scelta.resa, origine, finestra);
+  const QString uscita = ScegliUscita("Stampa in PDF", percorso, {kPdf}, kPdf, finestra);
+  return uscita.isEmpty() ? Esito{} : EsportaIn(uscita, disegno, scelta.resa, origine);
+}
+
+}  // namespace ostrel

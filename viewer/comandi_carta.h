@@ -1,0 +1,27 @@
+// The window's commands that make files and sheets of its drawing: what they ask, what they remember.
+#pragma once
+
+#include <QString>
+
+#include "viewer/disegno.h"
+
+class QWidget;
+
+namespace ostrel {
+
+/// What became of an order; both empty: it was taken back.
+struct Esito {
+  QString errore;
+  QString conferma;
+};
+
+/// Asks for the file and for what its kind needs, and writes it. `percorso`: the drawing's own file.
+Esito EsportaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra);
+
+/// Shows the sheet, asks for unit, scale and printer, and prints.
+Esito StampaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra);
+
+/// A name with the ending `finale`, where it has none of `finali`: "ponte.1.pdf".
+QString ConFinale(const QString& percorso, const QStringList& finali, const QString& finale);
+
+}  // namespace ostrel
