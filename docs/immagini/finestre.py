@@ -78,8 +78,9 @@ class Scena(contextlib.ExitStack):
         self.schermo.giro()
 
     def ritrai(self, finestra, file):
-        """A window without its frame, once nothing moves in it."""
-        self.schermo.mano("mousemove", 1279, 1023)
+        """The window in front without its frame, once nothing moves in it: from the first box, whose cursor would
+        blink, the focus goes back to the last button."""
+        self.schermo.mano("mousemove", 1279, 1023, "key", "shift+Tab")
         self.schermo.ritrai(self.cartella / "intero.png")
         x, y, larga, *_ = self.schermo.posto(finestra)
         alta = int(re.search(r"Height: (\d+)", self.schermo.chiedi("xwininfo", "-id", finestra))[1])
