@@ -23,10 +23,10 @@ def misure_png(file):
     return int.from_bytes(testa[:4], "big"), int.from_bytes(testa[4:], "big")
 
 
-def riduci(file, da=None):
-    """A palette, and nothing but the pixels."""
-    subprocess.run(["convert", da or file, "-strip", "-dither", "None", "-colors", "128",
-                    "-define", "png:compression-level=9", "-define", "png:exclude-chunks=all", f"png8:{file}"], check=True)
+def riduci(file):
+    """Nothing but the pixels, all as they are."""
+    subprocess.run(["convert", file, "-strip", "-define", "png:compression-level=9", "-define",
+                    "png:exclude-chunks=all", f"png24:{file}"], check=True)
 
 
 class Scena(contextlib.ExitStack):
@@ -47,7 +47,8 @@ class Scena(contextlib.ExitStack):
         visore.symlink_to(self.programmi / "ostrel")
         self.schermo = self.enter_context(Schermo("1280x1024", self.cartella, COL_CLICK))
         self.schermo.ambiente |= {"LC_ALL": "C.UTF-8", "XDG_CONFIG_HOME": str(self.cartella / "config"),
-                                  "XDG_RUNTIME_DIR": str(self.cartella), "QT_SCALE_FACTOR": "1"}
+                                  "XDG_RUNTIME_DIR": str(self.cartella), "QT_SCALE_FACTOR": "1",
+                                  "CUPS_SERVER": "/nessuno"}
         self.luoghi = {}
         form = None
         for riga in self.recita("layout\nclick Command6\nlayout\n").splitlines():
@@ -143,11 +144,21 @@ def del_visore(programmi, cartella):
         visore = schermo.davanti("ostrel")
         schermo.mano("windowsize", "--sync", visore, 1000, 600)
         scena.ritrai(visore, cartella / "visore.png")
+        schermo.mano("key", "ctrl+p")
+        stampa = schermo.davanti("Stampa")
+        # Unit by its first letter, then the scale; the focus ends on the sheet, which does not blink.
+        schermo.mano("key", "c")
+        schermo.mano("key", "alt+c", "ctrl+a")
+        schermo.mano("type", "--delay", 20, "1:50")
+        schermo.mano("key", "Tab", "Tab", "Tab", "Tab")
+        scena.ritrai(stampa, cartella / "stampa.png")
+        schermo.mano("key", "Escape")
+        schermo.davanti("ostrel")
         schermo.chiudi("ostrel")
         schermo.davanti("tarvel1")
         scena.clic("tarvel1", "Command5")
         finisce(scena.figlio, 0)
-    return "visore.png",
+    return "visore.png", "stampa.png"
 
 
 def del_disegno(programmi, cartella):
@@ -162,5 +173,8 @@ def del_disegno(programmi, cartella):
         (cartella / "grande.png").unlink()
     return "disegno.png",
 
+
+# Where a picture has the day it was taken on.
+DATE = {"stampa.png": "rectangle 705,421 747,434"}
 
 RITRATTI = del_programma, del_visore, del_disegno

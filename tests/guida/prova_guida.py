@@ -2,7 +2,7 @@
 """The guide says what the program does: the sessions in its pages are played, its numbers compared, its sketches
 remade, its links followed.
 
-    prova_guida.py HEADLESS LOTTO
+    prova_guida.py HEADLESS LOTTO [OSTREL]
 
 A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
 example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
@@ -28,7 +28,7 @@ sys.path[:0] = [os.path.join(QUI, "..", "app"), os.path.join(DOCS, "immagini")]
 from installazione import ESEMPIO, installa  # noqa: E402
 from schizzi import SCHIZZI  # noqa: E402
 
-HEADLESS, LOTTO = (os.path.abspath(p) for p in sys.argv[1:3])
+HEADLESS, LOTTO, OSTREL, *_ = [*(os.path.abspath(p) for p in sys.argv[1:]), None]
 DOMANDA_FINALE = 'a question without an answer: "INFORMAZIONE" "Sezione non salvata. Salvare?"'
 CAMPI_INTERI = ("riga", "messaggio", "disegno", "elenco")
 errori = 0
@@ -232,6 +232,26 @@ def opzioni():
         controlla("opzioni", f"colonna {colonna}: quota maggiore", quote[-1], 12000 if colonna == 3 else 1200)
 
 
+def comandi():
+    """The viewer's command lines, as they stand there: each writes what it names, the drawing at 1:50 fits."""
+    righe = leggi(os.path.join(DOCS, "guida-disegno.md")).split("<!-- comandi -->")[1].split("\n\n")[1].splitlines()
+    controlla("comandi", "righe", len(righe) > 3, True)
+    with tempfile.TemporaryDirectory(prefix="Guida_") as cartella:
+        lavoro = installa(os.path.join(cartella, "inst"))
+        copione = "".join(f"type Text1({i}) {v}\n" for i, v in enumerate(ESEMPIO.split()))
+        copione += "".join(f"type nome {nome}\nclick Calcolo\nclick Command2\n" for nome in ("PONTE", "ALTRA"))
+        subprocess.run([HEADLESS, f"|diroot={cartella}/inst|"], input=copione, text=True, check=True,
+                       stdout=subprocess.DEVNULL, timeout=60)
+        os.mkdir(os.path.join(lavoro, "tavole"))
+        for riga in righe:
+            programma, *argomenti = riga.split()
+            esito = subprocess.run([OSTREL, *argomenti], cwd=lavoro, capture_output=True, text=True, timeout=60,
+                                   env=os.environ | {"XDG_CONFIG_HOME": cartella, "XDG_RUNTIME_DIR": cartella})
+            controlla("comandi", riga, (programma, esito.returncode, esito.stderr), ("ostrel", 0, ""))
+            controlla("comandi", argomenti[1], os.path.getsize(os.path.join(lavoro, argomenti[1])) > 0, True)
+        controlla("comandi", "tavole", sorted(os.listdir(os.path.join(lavoro, "tavole"))), ["ALTRA.pdf", "PONTE.pdf"])
+
+
 def rimandi():
     """Every link leads to a page, a heading or a picture; every picture is shown somewhere."""
     mostrate = set()
@@ -265,7 +285,7 @@ def messaggi():
             controlla("messaggi", messaggio, parte if parte in sorgenti else "in nessun sorgente", parte)
 
 
-for passo in (prove, schizzi, opzioni, rimandi, messaggi):
+for passo in (prove, schizzi, opzioni, *([comandi] if OSTREL else []), rimandi, messaggi):
     passo()
 print(f"{errori} errori")
 sys.exit(errori > 0)
