@@ -1,16 +1,19 @@
-// Group by group: a code line and a value line.
+// The elements, in the order of the drawing.
 #include "viewer/dxf.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <span>
 #include <string_view>
 #include <utility>
+#include <vector>
 
-#include "base/numeri.h"
+#include "viewer/gruppi_dxf.h"
 #include "viewer/livelli.h"
 #include "viewer/misure.h"
+#include "viewer/tabelle_dxf.h"
 #include "viewer/tavolozza.h"
 
 namespace ostrel {
@@ -19,51 +22,19 @@ namespace {
 using tarvel::Testo;
 
 constexpr double kGradi = 180 / std::numbers::pi;
-// A dash of one pen width is this part of the drawing's diagonal.
-constexpr double kPassoTratto = 1.0 / 1500;
 
-struct NomeLivello {
-  const char* nome;
-  int colore;
-};
-constexpr std::array<NomeLivello, 3> kLivelli = {{{"CONTORNO", 1}, {"QUOTE", 7}, {"TESTI", 6}}};
-
-struct Dxf {
-  Testo testo;
-  double unita;
-  bool finito = true;  // every length so far is a number
-};
-
-void Gruppo(Dxf& dxf, int codice, std::string_view valore) {
-  ((dxf.testo += std::to_string(codice)) += "\r\n").append(valore) += "\r\n";
-}
-
-void GruppoIntero(Dxf& dxf, int codice, int valore) {
-  Gruppo(dxf, codice, std::to_string(valore));
-}
-
-void GruppoReale(Dxf& dxf, int codice, double valore) {
-  dxf.finito = dxf.finito && std::isfinite(valore);
-  Testo testo;
-  if (dxf.finito) tarvel::AccodaNumero(testo, valore, '.', true);
-  Gruppo(dxf, codice, testo);
-}
-
-void GruppoLunghezza(Dxf& dxf, int codice, double valore) {
-  GruppoReale(dxf, codice, valore * dxf.unita);
-}
-
-// X, Y and Z of a point have codes ten apart.
-void GruppoPunto(Dxf& dxf, int codice, double x, double y) {
-  GruppoLunghezza(dxf, codice, x);
-  GruppoLunghezza(dxf, codice + 10, y);
-  GruppoReale(dxf, codice + 20, 0);
-}
-
-void Elemento(Dxf& dxf, std::string_view genere, Livello livello, int colore) {
+void Elemento(Dxf& dxf, std::string_view genere, Livello livello, const Aspetto& aspetto) {
+  const auto indice = static_cast<std::size_t>(livello);
+  const Aspetto& comune = dxf.livelli[indice];
   Gruppo(dxf, 0, genere);
-  Gruppo(dxf, 8, kLivelli[static_cast<std::size_t>(livello)].nome);
-  GruppoIntero(dxf, 62, kColoriDxf[IndiceColore(colore)]);
+  Gruppo(dxf, 8, kNomiLivelli[indice]);
+  if (aspetto.colore != comune.colore) GruppoIntero(dxf, 62, aspetto.colore);
+  if (aspetto.tipo != comune.tipo) Gruppo(dxf, 6, kTipiLinea[aspetto.tipo].nome);
+}
+
+// Of texts and points, which no line type changes.
+void ElementoSenzaTipo(Dxf& dxf, std::string_view genere, Livello livello, int colore) {
+  Elemento(dxf, genere, livello, {ColoreDxf(colore), dxf.livelli[static_cast<std::size_t>(livello)].tipo});
 }
 
 // Two percent signs begin a special character and a caret a control one; these are plain.
@@ -82,69 +53,51 @@ Testo TestoDxf(std::string_view testo) {
   return esito;
 }
 
-void ScriviTestata(Dxf& dxf, const Riquadro& tutto, Unita unita) {
-  Gruppo(dxf, 0, "SECTION");
-  Gruppo(dxf, 2, "HEADER");
-  Gruppo(dxf, 9, "$ACADVER");
-  Gruppo(dxf, 1, "AC1009");
-  Gruppo(dxf, 9, "$DWGCODEPAGE");
-  Gruppo(dxf, 3, "ANSI_1252");
-  Gruppo(dxf, 9, "$INSUNITS");
-  GruppoIntero(dxf, 70, Voce(unita).dxf);
-  if (!tutto.Vuoto()) {
-    Gruppo(dxf, 9, "$EXTMIN");
-    GruppoPunto(dxf, 10, tutto.x0, tutto.y0);
-    Gruppo(dxf, 9, "$EXTMAX");
-    GruppoPunto(dxf, 10, tutto.x1, tutto.y1);
-  }
-  Gruppo(dxf, 0, "ENDSEC");
-}
-
-void ScriviTipiLinea(Dxf& dxf, double passo) {
-  Gruppo(dxf, 0, "TABLE");
-  Gruppo(dxf, 2, "LTYPE");
-  GruppoIntero(dxf, 70, static_cast<int>(kTipiLinea.size()));
-  for (const TipoLinea& tipo : kTipiLinea) {
-    double lunghezza = 0;
-    for (const double misura : tipo.Tratti()) lunghezza += misura * passo;
-    Gruppo(dxf, 0, "LTYPE");
-    Gruppo(dxf, 2, tipo.nome);
-    GruppoIntero(dxf, 70, 0);
-    Gruppo(dxf, 3, tipo.nome);
-    GruppoIntero(dxf, 72, 'A');
-    GruppoIntero(dxf, 73, static_cast<int>(tipo.quante));
-    GruppoLunghezza(dxf, 40, lunghezza);
-    for (std::size_t i = 0; i < tipo.quante; ++i)
-      GruppoLunghezza(dxf, 49, (i % 2 == 0 ? passo : -passo) * tipo.misure[i]);
-  }
-  Gruppo(dxf, 0, "ENDTAB");
-}
-
-void ScriviTabelle(Dxf& dxf, const Riquadro& tutto) {
-  Gruppo(dxf, 0, "SECTION");
-  Gruppo(dxf, 2, "TABLES");
-  ScriviTipiLinea(dxf, tutto.Vuoto() ? 1 : std::hypot(tutto.Larghezza(), tutto.Altezza()) * kPassoTratto);
-
-  Gruppo(dxf, 0, "TABLE");
-  Gruppo(dxf, 2, "LAYER");
-  GruppoIntero(dxf, 70, static_cast<int>(kLivelli.size()));
-  for (const NomeLivello& livello : kLivelli) {
-    Gruppo(dxf, 0, "LAYER");
-    Gruppo(dxf, 2, livello.nome);
-    GruppoIntero(dxf, 70, 0);
-    GruppoIntero(dxf, 62, livello.colore);
-    Gruppo(dxf, 6, kTipiLinea[0].nome);
-  }
-  Gruppo(dxf, 0, "ENDTAB");
-  Gruppo(dxf, 0, "ENDSEC");
-}
-
 void ScriviLinea(Dxf& dxf, const Disegno& disegno, const Linea& linea, Livello livello) {
   const Coordinata da = Posto(disegno, linea.inizio), a = Posto(disegno, linea.fine);
-  Elemento(dxf, "LINE", livello, linea.colore);
-  Gruppo(dxf, 6, kTipiLinea[IndiceTipo(linea.tipo)].nome);
+  Elemento(dxf, "LINE", livello, AspettoLinea(linea));
   GruppoPunto(dxf, 10, da.x, da.y);
   GruppoPunto(dxf, 11, a.x, a.y);
+}
+
+// One closed polyline of a ring's corners, each of them once.
+void ScriviAnello(Dxf& dxf, const std::vector<Coordinata>& vertici, const Aspetto& aspetto) {
+  Elemento(dxf, "POLYLINE", Livello::Contorno, aspetto);
+  GruppoIntero(dxf, 66, 1);
+  GruppoPunto(dxf, 10, 0, 0);
+  GruppoIntero(dxf, 70, 1);
+  for (const Coordinata& vertice : vertici) {
+    Elemento(dxf, "VERTEX", Livello::Contorno, aspetto);
+    GruppoPunto(dxf, 10, vertice.x, vertice.y);
+  }
+  Elemento(dxf, "SEQEND", Livello::Contorno, aspetto);
+}
+
+// Its corners, where a polyline can stand for its lines: they are alike and enclose something.
+std::vector<Coordinata> VerticiAnello(const Disegno& disegno, std::span<const Linea> anello) {
+  std::vector<Coordinata> vertici;
+  const auto uguali = [](const Coordinata& a, const Coordinata& b) { return a.x == b.x && a.y == b.y; };
+  for (const Linea& linea : anello) {
+    if (AspettoLinea(linea) != AspettoLinea(anello.front())) return {};
+    const Coordinata& vertice = Posto(disegno, linea.inizio);
+    if (vertici.empty() || !uguali(vertice, vertici.back())) vertici.push_back(vertice);
+  }
+  while (vertici.size() > 1 && uguali(vertici.front(), vertici.back())) vertici.pop_back();
+  return vertici.size() < 3 ? std::vector<Coordinata>{} : vertici;
+}
+
+void ScriviLinee(Dxf& dxf, const Disegno& disegno, const std::vector<Livello>& livelli) {
+  const std::span linee = disegno.linee;
+  std::size_t prima = 0;
+  for (const std::size_t fine : FiniAnelli(disegno)) {
+    const auto anello = linee.subspan(prima, fine - prima);
+    if (const auto vertici = VerticiAnello(disegno, anello); !vertici.empty())
+      ScriviAnello(dxf, vertici, AspettoLinea(anello.front()));
+    else
+      for (const Linea& linea : anello) ScriviLinea(dxf, disegno, linea, Livello::Contorno);
+    prima = fine;
+  }
+  for (; prima < linee.size(); ++prima) ScriviLinea(dxf, disegno, linee[prima], livelli[prima]);
 }
 
 void ScriviArco(Dxf& dxf, const Disegno& disegno, const Arco& arco) {
@@ -153,7 +106,7 @@ void ScriviArco(Dxf& dxf, const Disegno& disegno, const Arco& arco) {
            p.raggio <= 0 ? "POINT"
            : p.cerchio   ? "CIRCLE"
                          : "ARC",
-           LivelloArco(disegno, arco), arco.colore);
+           LivelloArco(disegno, arco), {ColoreDxf(arco.colore), 0});
   GruppoPunto(dxf, 10, p.x, p.y);
   if (p.raggio <= 0) return;
   GruppoLunghezza(dxf, 40, p.raggio);
@@ -184,7 +137,7 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
       fine = inizio + kSempreEntro;
       stringa = TestoDxf(std::string_view(scritta.testo).substr(inizio, kSempreEntro));
     }
-    Elemento(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
+    ElementoSenzaTipo(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
     GruppoPunto(dxf, 10, posto(inizio).x, posto(inizio).y);
     GruppoLunghezza(dxf, 40, scritta.altezza);
     Gruppo(dxf, 1, stringa);
@@ -199,20 +152,17 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
 }  // namespace
 
 std::optional<Testo> ScriviDxf(const Disegno& disegno, Unita unita) {
-  Dxf dxf{{}, disegno.unita};
-  const Riquadro tutto = Ingombro(disegno);
-  ScriviTestata(dxf, tutto, unita);
-  ScriviTabelle(dxf, tutto);
+  const auto livelli = LivelliLinee(disegno);
+  Dxf dxf{{}, disegno.unita, AspettiComuni(disegno, livelli)};
+  ScriviTesta(dxf, Ingombro(disegno), unita);
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "ENTITIES");
-  const auto livelli = LivelliLinee(disegno);
-  for (std::size_t i = 0; i < disegno.linee.size(); ++i)
-    ScriviLinea(dxf, disegno, disegno.linee[i], livelli[i]);
+  ScriviLinee(dxf, disegno, livelli);
   for (const Arco& arco : disegno.archi) ScriviArco(dxf, disegno, arco);
   for (const Scritta& scritta : disegno.scritte) ScriviScritta(dxf, disegno, scritta);
   for (const Punto& punto : disegno.punti) {
     const Coordinata posto = Posto(disegno, punto.posizione);
-    Elemento(dxf, "POINT", Livello::Contorno, tarvel::disegno::kBianco);
+    ElementoSenzaTipo(dxf, "POINT", Livello::Contorno, kColorePunti);
     GruppoPunto(dxf, 10, posto.x, posto.y);
   }
   Gruppo(dxf, 0, "ENDSEC");

@@ -7,23 +7,21 @@
 #include "viewer/misure.h"
 
 namespace ostrel {
-namespace {
-
-// How many lines at the start of the list form closed rings.
-std::size_t LineeAdAnello(const std::vector<Linea>& linee) {
-  std::size_t chiuse = 0;
+std::vector<std::size_t> FiniAnelli(const Disegno& disegno) {
+  const auto& linee = disegno.linee;
+  std::vector<std::size_t> fini;
+  std::size_t primo = 0;
   for (std::size_t i = 0; i < linee.size(); ++i) {
-    if (i > chiuse && linee[i].inizio != linee[i - 1].fine) break;
-    if (linee[i].fine == linee[chiuse].inizio) chiuse = i + 1;
+    if (i > primo && linee[i].inizio != linee[i - 1].fine) break;
+    if (linee[i].fine == linee[primo].inizio) fini.push_back(primo = i + 1);
   }
-  return chiuse;
+  return fini;
 }
-
-}  // namespace
 
 std::vector<Livello> LivelliLinee(const Disegno& disegno) {
   const auto& linee = disegno.linee;
-  const std::size_t anelli = LineeAdAnello(linee);
+  const auto fini = FiniAnelli(disegno);
+  const std::size_t anelli = fini.empty() ? 0 : fini.back();
   std::vector<Livello> livelli(linee.size(), Livello::Quote);
   for (std::size_t i = 0; i < linee.size(); ++i)
     if (i < anelli || (anelli == 0 && linee[i].colore == linee[0].colore)) livelli[i] = Livello::Contorno;

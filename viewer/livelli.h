@@ -11,10 +11,13 @@ namespace ostrel {
 
 enum class Livello { Contorno, Quote, Testi };
 
+/// The closed rings that the line list begins with, as one past the last line of each: each line begins
+/// where the one before it ended, and the last ends where the first began.
+std::vector<std::size_t> FiniAnelli(const Disegno& disegno);
+
 /// One layer a line, in the file's order. The outline is the closed rings that the line list begins
-/// with: each line begins where the one before it ended, and the last ends where the first began. A
-/// dimension's lines never meet end to end. What follows the rings is a dimension. A drawing that
-/// begins with no closed ring takes the colour of its first line for that of the outline.
+/// with: a dimension's lines never meet end to end. What follows the rings is a dimension. A drawing
+/// that begins with no closed ring takes the colour of its first line for that of the outline.
 std::vector<Livello> LivelliLinee(const Disegno& disegno);
 
 /// Full circles are the dots at the ends of dimensions; other arcs belong to the outline.

@@ -23,22 +23,28 @@ inline constexpr tarvel::Colore kSchermo{24, 26, 30};
 /// light colours are darkened until they can be read, on the screen black turns grey.
 tarvel::Colore ColoreSu(const tarvel::Colore& fondo, int colore);
 
-/// A dash pattern: strokes and gaps in turn, in pen widths; empty for a continuous line.
+/// A dash pattern: strokes and gaps in turn; empty for a continuous line.
 struct TipoLinea {
-  const char* nome;
-  std::array<double, 6> misure;
+  std::array<double, 6> misure;  // in pen widths
   std::size_t quante;
+  // Its like among the line types that every CAD program has, lengths in millimetres.
+  const char *nome, *descrizione;
+  std::array<double, 6> unificate;
 
   std::span<const double> Tratti() const { return std::span(misure).first(quante); }
 };
 
 inline constexpr std::array<TipoLinea, 6> kTipiLinea = {{
-    {"CONTINUOUS", {}, 0},
-    {"TRATTI", {8, 5}, 2},
-    {"PUNTI", {1.5, 3.5}, 2},
-    {"TRATTO_PUNTO", {12, 4, 1.5, 4}, 4},
-    {"TRATTO_DUE_PUNTI", {12, 4, 1.5, 4, 1.5, 4}, 6},
-    {"TRATTI_LUNGHI", {20, 6}, 2},
+    {{}, 0, "CONTINUOUS", "Solid line", {}},
+    {{8, 5}, 2, "DASHED", "Dashed __ __ __ __ __ __ __ __ __ __", {12.7, 6.35}},
+    {{1.5, 3.5}, 2, "DOT", "Dot . . . . . . . . . . . . . . .", {0, 6.35}},
+    {{12, 4, 1.5, 4}, 4, "DASHDOT", "Dash dot __ . __ . __ . __ . __ .", {12.7, 6.35, 0, 6.35}},
+    {{12, 4, 1.5, 4, 1.5, 4},
+     6,
+     "DIVIDE",
+     "Divide __ . . __ . . __ . . __ . .",
+     {12.7, 6.35, 0, 6.35, 0, 6.35}},
+    {{20, 6}, 2, "DASHEDX2", "Dashed (2x) ____  ____  ____  ____", {25.4, 12.7}},
 }};
 
 /// The place in kTipiLinea of a line type of the file; beyond the last the patterns start anew.

@@ -19,6 +19,38 @@ using namespace tarvel;
 
 constexpr int kUsoErrato = 2;
 constexpr char kUso[] = "usage: tarvel1-headless [--script FILE] [--decimal CHAR] [--] ARGUMENT...\n";
+constexpr char kAiuto[] = R"(tarvel1-headless - il programma tarvel1 senza finestra, mosso da un copione
+
+uso:  tarvel1-headless [--script FILE] [--decimal C] [--] "|diroot=CARTELLA|"
+
+Esegue tarvel1 sulla CARTELLA di un'installazione, come farebbe un utente che segue il copione: una riga per ogni
+gesto. Scrive una riga per ogni cosa che l'utente vedrebbe: finestre, messaggi, caselle che cambiano.
+
+  --script FILE    il copione; senza, lo standard input
+  --decimal C      il separatore dei decimali dell'utente; senza, il punto
+  --aiuto, --help  questo testo, da solo sulla riga
+  --version        la versione, da sola sulla riga
+
+righe del copione:
+  type C TESTO            scrive il testo nella casella C, al posto di quello che ha
+  focus C, enter C        va nella casella C; vi preme Invio
+  click C                 fa clic su C
+  press TASTO             backspace, delete, enter, escape o tab, dove si trova
+  paste C TESTO           incolla il testo nella casella C
+  select C N..., dblclick C N  sceglie voci di un elenco, da 1
+  answer R...             le risposte ai prossimi messaggi: ok, yes o no
+  close [FORM]            chiude una finestra
+  print C, layout [FORM]  scrive che cosa mostra C; la disposizione di una finestra
+  tick MS, endtask ID     fa passare il tempo; chiude un programma avviato
+
+stato d'uscita:
+  0    il programma è stato chiuso
+  1    l'avvio è stato rifiutato, o un errore ha chiuso il programma
+  2    la riga di comando o il copione sono sbagliati
+
+esempi:
+  tarvel1-headless --script sessione.txt "|diroot=$HOME/ponti|"
+)";
 
 struct Opzioni {
   std::optional<std::string> copione;
@@ -58,9 +90,10 @@ std::optional<Opzioni> LeggiArgomenti(std::span<const std::string> argomenti) {
 int main(int argc, char** argv) {
   PreparaFlussi();
   const std::vector<std::string> argomenti = Argomenti(argc, argv);
-  if (argomenti.size() == 1 && argomenti[0] == "--version") {
-    std::cout << "tarvel1-headless " VERSIONE "\n";
-    return 0;
+  const std::string solo = argomenti.size() == 1 ? argomenti[0] : "";
+  if (solo == "--version" || solo == "--aiuto" || solo == "--help") {
+    std::cout << (solo == "--version" ? "tarvel1-headless " VERSIONE "\n" : kAiuto) << std::flush;
+    return std::cout ? 0 : 1;
   }
   const auto opzioni = LeggiArgomenti(argomenti);
   if (!opzioni) {

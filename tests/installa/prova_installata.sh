@@ -1,17 +1,39 @@
 #!/usr/bin/env bash
 # usage: prova_installata.sh BUILD VERSION. What is installed runs without a display, and the desktop
-# understands its entries.
+# understands its entries; a user's first start finds a root folder.
 set -euo pipefail
 dove=$(mktemp -d)
 trap 'rm -rf "$dove"' EXIT
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 cmake --install "$1" --prefix "$dove" >/dev/null
 
-for programma in tarvel1-headless tarvel1 ostrel; do
-  [ -e "$1/bin/$programma" ] || continue # left out of the build
+for programma in tarvel1-headless tarvel1-lotto tarvel1-avvia tarvel1 ostrel; do
+  [ -e "$dove/bin/$programma" ] || continue # left out of the build
   detto=$("$dove/bin/$programma" --version)
   [ "$detto" = "$programma $2" ] || { echo "$programma --version: $detto"; exit 1; }
+  grep -q '^.SH "STATO D.USCITA"$' "$dove/share/man/man1/$programma.1" || { echo "pagina di $programma"; exit 1; }
 done
+
+# The user's own root folder: the first start lays it out; a later one adds what is missing, where something
+# was left half done or taken away, and leaves what the user has.
+if [ -e "$dove/bin/tarvel1-avvia" ]; then
+  unset XDG_DATA_HOME
+  export HOME="$dove/CITTÀ €, casa"
+  radice=$("$dove/bin/tarvel1-avvia" --cartella)
+  sed -i '1s/.*/123\r/' "$radice/custom/CapSezDe.txt"
+  printf ' PR0042 \r\n' >"$radice/impostazioni/lavoro"
+  rm -r "$radice"/{Lavori,impostazioni/dirlav}
+  echo meta >"$radice/impostazioni/dirlav.nuovo"
+  ln -sfn "$dove/tolto/ostrel" "$radice/progra/ostrel.exe"
+  [ "$("$dove/bin/tarvel1-avvia" --cartella)" = "$radice" ]
+  [ "$(head -n 1 "$radice/custom/CapSezDe.txt")" = $'123\r' ] || { echo "riscritto quello dell'utente"; exit 1; }
+  [ "$radice/progra/ostrel.exe" -ef "$dove/bin/ostrel" ] || { echo "ostrel.exe non è il visualizzatore"; exit 1; }
+  lavori=$(cd "$radice" && find Lavori impostazioni | sort | tr '\n' ' ')
+  [ "$lavori" = "Lavori Lavori/PR0042 impostazioni impostazioni/dirlav impostazioni/lavoro " ] ||
+    { echo "cartelle: $lavori"; exit 1; }
+  "$dove/bin/tarvel1-headless" --script "$(dirname "$0")/../../esempi/sessione.txt" "|diroot=$radice|" >/dev/null
+  [ -s "$radice/Lavori/PR0042/sezio_ut" ] || { echo "non vi si lavora"; exit 1; }
+fi
 cd "$dove/share"
 for file in doc/tarvel1/guida{,-esempio}.md doc/tarvel1/immagini/{finestra.png,punti.svg} icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
   [ -s "$file" ] || { echo "manca $file"; exit 1; }

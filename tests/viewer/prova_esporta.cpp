@@ -39,16 +39,41 @@ int Quante(const std::string& byte, const std::string& parola) {
 }
 
 TEST(Dxf, OgniElementoNelSuoLivello) {
-  Disegno d = prove::Esempio();
-  // The order of the lines tells them apart, not their colour.
-  for (Linea& linea : d.linee) linea.colore = 1;
-  const std::map<std::string, int> attesi = {
-      {"LINE CONTORNO", 24}, {"LINE QUOTE", 78}, {"CIRCLE QUOTE", 43}, {"TEXT QUOTE", 26}, {"TEXT TESTI", 9}};
-  EXPECT_EQ(Elementi(ScriviDxf(d).value()), attesi);
-  // The outline open after all: what has the first line's colour.
-  d = prove::Esempio();
-  d.linee.erase(d.linee.begin());
-  EXPECT_EQ(Elementi(ScriviDxf(d).value())["LINE CONTORNO"], 23);
+  const std::map<std::string, int> altri = {
+      {"LINE QUOTE", 78}, {"CIRCLE QUOTE", 43}, {"TEXT QUOTE", 26}, {"TEXT TESTI", 9}};
+  const struct {
+    const char* caso;
+    void (*cambia)(Disegno&);
+    std::map<std::string, int> contorno;
+  } casi[] = {
+      {"the order of the lines tells them apart, not their colour",
+       [](Disegno& d) {
+         for (Linea& linea : d.linee) linea.colore = 1;
+       },
+       {{"POLYLINE CONTORNO", 2}, {"VERTEX CONTORNO", 24}, {"SEQEND CONTORNO", 2}}},
+      {"a side of no length",
+       [](Disegno& d) {
+         const int dove = d.linee[4].fine;
+         d.coordinate.push_back(d.coordinate[static_cast<std::size_t>(dove)]);
+         d.linee[4].fine = static_cast<int>(d.coordinate.size()) - 1;
+         d.linee.insert(d.linee.begin() + 5, {d.linee[4].fine, dove, 3, 0});
+       },
+       {{"POLYLINE CONTORNO", 2}, {"VERTEX CONTORNO", 24}, {"SEQEND CONTORNO", 2}}},
+      {"a side of another type: its ring stays lines",
+       [](Disegno& d) { d.linee[4].tipo = 1; },
+       {{"LINE CONTORNO", 13}, {"POLYLINE CONTORNO", 1}, {"VERTEX CONTORNO", 11}, {"SEQEND CONTORNO", 1}}},
+      {"open after all: what has the first line's colour",
+       [](Disegno& d) { d.linee.erase(d.linee.begin()); },
+       {{"LINE CONTORNO", 23}}},
+  };
+  for (const auto& c : casi) {
+    SCOPED_TRACE(c.caso);
+    Disegno d = prove::Esempio();
+    c.cambia(d);
+    auto attesi = c.contorno;
+    attesi.insert(altri.begin(), altri.end());
+    EXPECT_EQ(Elementi(ScriviDxf(d).value()), attesi);
+  }
 }
 
 TEST(Dxf, ValoriDegliElementi) {
@@ -59,7 +84,7 @@ TEST(Dxf, ValoriDegliElementi) {
       {"LINE CONTORNO", 1}, {"LINE QUOTE", 1}, {"ARC CONTORNO", 1}, {"TEXT TESTI", 1}, {"POINT CONTORNO", 1}};
   EXPECT_EQ(Elementi(dxf), attesi);
   for (const char* atteso : {"\r\n50\r\n0\r\n51\r\n90\r\n", "\r\n1\r\n5%%%%%% a^ b \xE8\r\n",
-                             "\r\n6\r\nPUNTI\r\n", "\r\n10\r\n0.5\r\n20\r\n-5\r\n", "\r\n62\r\n3\r\n"})
+                             "\r\n6\r\nDOT\r\n", "\r\n10\r\n0.5\r\n20\r\n-5\r\n", "\r\n62\r\n3\r\n"})
     EXPECT_NE(dxf.find(atteso), std::string::npos) << atteso;
 }
 
