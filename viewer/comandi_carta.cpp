@@ -70,15 +70,37 @@ std::optional<Unita> ChiediUnita(Unita unita, QWidget* finestra) {
   return static_cast<Unita>(NomiUnita().indexOf(dialogo.textValue()));
 }
 
-// Its own least margins, where they are wider than the sheet's.
-void Margina(QPrinter& stampante) {
+// One by one: all at once a printer refuses for a single figure it does not like. Its own least margins,
+// where they are wider than the sheet's.
+void Prepara(QPrinter& stampante, const QPageSize& foglio, QPageLayout::Orientation verso) {
+  stampante.setPageSize(foglio);
+  stampante.setPageOrientation(verso);
   QPageLayout pagina = stampante.pageLayout();
   pagina.setUnits(QPageLayout::Millimeter);
   const QMarginsF minimi = pagina.minimumMargins();
   constexpr double m = kMargineCarta;
-  pagina.setMargins({std::max(m, minimi.left()), std::max(m, minimi.top()), std::max(m, minimi.right()),
-                     std::max(m, minimi.bottom())});
-  stampante.setPageLayout(pagina);
+  stampante.setPageMargins({std::max(m, minimi.left()), std::max(m, minimi.top()),
+                            std::max(m, minimi.right()), std::max(m, minimi.bottom())},
+                           QPageLayout::Millimeter);
+}
+
+// The dialog of some systems begins with the printer's usual paper, whatever was asked for: which one the
+// user means only he can say. Nothing: neither.
+std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPageSize& impostato,
+                                      QWidget* finestra) {
+  if (chiesto.isEquivalentTo(impostato)) return impostato;
+  QMessageBox domanda(
+      QMessageBox::Question, "Foglio",
+      QString("Nella stampante è impostato un foglio %1, nell'anteprima un %2. Su quale si stampa?")
+          .arg(impostato.name(), chiesto.name()),
+      QMessageBox::NoButton, finestra);
+  const QAbstractButton* const anteprima = domanda.addButton("Su &" + chiesto.name(), QMessageBox::YesRole);
+  const QAbstractButton* const stampante = domanda.addButton("Su " + impostato.name(), QMessageBox::NoRole);
+  domanda.setEscapeButton(domanda.addButton("A&nnulla", QMessageBox::RejectRole));
+  domanda.exec();
+  if (domanda.clickedButton() == anteprima) return chiesto;
+  if (domanda.clickedButton() == stampante) return impostato;
+  return std::nullopt;
 }
 
 // Whether what comes out of the printer as the user has set it is what he wants; the scale may change.
@@ -106,16 +128,18 @@ Esito EsportaIn(const QString& uscita, const Disegno& disegno, const Resa& resa,
 Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, QWidget* finestra) {
   QPrinter stampante(QPrinter::HighResolution);
   stampante.setDocName(Titolo(disegno));
-  stampante.setPageLayout(Pagina(disegno, resa));
+  const QPageLayout pagina = Pagina(disegno, resa);
+  Prepara(stampante, pagina.pageSize(), pagina.orientation());
   QPrintDialog dialogo(&stampante, finestra);
   dialogo.setWindowTitle("Stampa");
   dialogo.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
   if (dialogo.exec() != QDialog::Accepted) return {};
-  Margina(stampante);
+  const auto foglio = ScegliFoglio(pagina.pageSize(), stampante.pageLayout().pageSize(), finestra);
+  if (!foglio) return {};
+  Prepara(stampante, *foglio, stampante.pageLayout().orientation());
   // What was well on the sheet of before may not be on that of the printer; a cut already agreed to is not
   // asked about again.
-  if (!Esamina(disegno, resa, Pagina(disegno, resa)) && !VaBene(disegno, resa, stampante, finestra))
-    return {};
+  if (!Esamina(disegno, resa, pagina) && !VaBene(disegno, resa, stampante, finestra)) return {};
   const bool riuscita = Stampa(disegno, resa, origine, stampante);
   const QString file = QDir::toNativeSeparators(stampante.outputFileName());
   if (!riuscita)

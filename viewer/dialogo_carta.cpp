@@ -93,6 +93,8 @@ DialogoCarta::DialogoCarta(const Disegno& disegno, const Origine& origine, const
   tutto->addLayout(sinistra);
   tutto->addWidget(anteprima_, 1);
   nota_->setFixedWidth(kLarghezzaScelte);
+  for (const QComboBox* lista : {unita_, scala_, carta_, orientamento_})
+    connect(lista, &QComboBox::currentTextChanged, this, &DialogoCarta::Aggiorna);
   Aggiorna();
 }
 
@@ -101,7 +103,6 @@ QComboBox* DialogoCarta::Lista(const char* nome, const QStringList& voci, int sc
   lista->setObjectName(nome);
   lista->addItems(voci);
   lista->setCurrentIndex(scelta);
-  connect(lista, &QComboBox::currentTextChanged, this, &DialogoCarta::Aggiorna);
   return lista;
 }
 
