@@ -35,7 +35,7 @@ if [ -e "$dove/bin/tarvel1-avvia" ]; then
   [ -s "$radice/Lavori/PR0042/sezio_ut" ] || { echo "non vi si lavora"; exit 1; }
 fi
 cd "$dove/share"
-for file in doc/tarvel1/guida.md icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
+for file in doc/tarvel1/guida{,-esempio}.md doc/tarvel1/immagini/{finestra.png,punti.svg} icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
   [ -s "$file" ] || { echo "manca $file"; exit 1; }
 done
 # What checks them may be missing outside ./check.
