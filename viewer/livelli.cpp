@@ -9,6 +9,7 @@
 namespace ostrel {
 
 std::vector<std::size_t> FiniAnelli(const Disegno& disegno) {
+  if (disegno.senzaContorno) return {};
   const auto& linee = disegno.linee;
   std::vector<std::size_t> fini;
   std::size_t primo = 0;
