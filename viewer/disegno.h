@@ -10,6 +10,8 @@ namespace ostrel {
 
 struct Coordinata {
   double x = 0, y = 0;
+
+  friend bool operator==(const Coordinata&, const Coordinata&) = default;
 };
 
 /// A marked point; the file gives its two attributes no meaning, it is drawn as a small cross.
@@ -44,11 +46,14 @@ struct Disegno {
   std::vector<Linea> linee;
   std::vector<Scritta> scritte;
   std::vector<Arco> archi;
+  tarvel::Testo titolo;  // the first text, also where texts are taken out
   /// Lines and arcs one of whose points found no room in the table of the program that drew them.
   int saltati = 0;
   /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers
   /// would leave a double's range; then a power of two.
   double unita = 1;
+  /// The outline has been taken out: no line that is left belongs to one.
+  bool senzaContorno = false;
 };
 
 }  // namespace ostrel

@@ -157,12 +157,10 @@ void Finestra::Conferma(const QString& testo) {
   conferma_->setVisible(!testo.isEmpty());
 }
 
-// The drawing's first text is its title.
 void Finestra::Intitola() {
-  const Disegno& d = tela_->Mostrato();
+  const tarvel::Testo titolo = tela_->Mostrato().titolo.substr(0, kMassimoTitolo);
   QStringList parti;
-  if (!d.scritte.empty())
-    parti << QString::fromStdString(tarvel::InUtf8(d.scritte.front().testo.substr(0, kMassimoTitolo)));
+  if (!titolo.empty()) parti << QString::fromStdString(tarvel::InUtf8(titolo));
   if (!percorso_.isEmpty()) parti << QFileInfo(percorso_).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
@@ -197,12 +195,13 @@ void Finestra::ScegliFile() {
   if (!scelto.isEmpty()) Apri(scelto);
 }
 
+// What is hidden goes neither to paper nor into files: the status line says what is.
 void Finestra::EsportaFile() {
-  Riferisci(EsportaDaFinestra(tela_->Mostrato(), percorso_, this));
+  Riferisci(EsportaDaFinestra(tela_->Visibile(), percorso_, this));
 }
 
 void Finestra::StampaDisegno() {
-  Riferisci(StampaDaFinestra(tela_->Mostrato(), percorso_, this));
+  Riferisci(StampaDaFinestra(tela_->Visibile(), percorso_, this));
 }
 
 // An order taken back says nothing, and leaves what was said before.

@@ -23,6 +23,7 @@ std::size_t LineeAdAnello(const std::vector<Linea>& linee) {
 
 std::vector<Livello> LivelliLinee(const Disegno& disegno) {
   const auto& linee = disegno.linee;
+  if (disegno.senzaContorno) return std::vector(linee.size(), Livello::Quote);
   const std::size_t anelli = LineeAdAnello(linee);
   std::vector<Livello> livelli(linee.size(), Livello::Quote);
   for (std::size_t i = 0; i < linee.size(); ++i)
@@ -47,7 +48,8 @@ Disegno SoloLivelli(Disegno disegno, const Livelli& voluti) {
   disegno.linee = std::move(linee);
   std::erase_if(disegno.archi, [&](const Arco& arco) { return !voluto(LivelloArco(disegno, arco)); });
   std::erase_if(disegno.scritte, [&](const Scritta& s) { return !voluto(LivelloScritta(s)); });
-  if (!voluto(Livello::Contorno)) disegno.punti.clear();
+  disegno.senzaContorno = !voluto(Livello::Contorno);
+  if (disegno.senzaContorno) disegno.punti.clear();
   return disegno;
 }
 
