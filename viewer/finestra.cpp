@@ -14,6 +14,7 @@
 #include <cmath>
 
 #include "viewer/caricamento.h"
+#include "viewer/cartiglio.h"
 #include "viewer/comandi_carta.h"
 #include "viewer/recenti.h"
 #include "viewer/tela.h"
@@ -21,7 +22,6 @@
 namespace ostrel {
 namespace {
 
-constexpr int kMassimoTitolo = 80;
 constexpr std::array kNomiLivelli = {"contorno", "quote", "testi"};
 
 // Hundredths as far as they can be read at a glance.
@@ -158,9 +158,8 @@ void Finestra::Conferma(const QString& testo) {
 }
 
 void Finestra::Intitola() {
-  const tarvel::Testo titolo = tela_->Mostrato().titolo.substr(0, kMassimoTitolo);
-  QStringList parti;
-  if (!titolo.empty()) parti << QString::fromStdString(tarvel::InUtf8(titolo));
+  QStringList parti = {Titolo(tela_->Mostrato())};
+  parti.removeAll(QString());
   if (!percorso_.isEmpty()) parti << QFileInfo(percorso_).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
