@@ -86,22 +86,32 @@ void Prepara(QPrinter& stampante, const QPageSize& foglio, QPageLayout::Orientat
                            QPageLayout::Millimeter);
 }
 
+// A sheet that a printer does not know it takes all the same, and then prints it smaller.
+bool HaFoglio(const QPrinter& stampante, const QPageSize& foglio) {
+  const QList<QPageSize> suoi = QPrinterInfo(stampante).supportedPageSizes();
+  return !stampante.outputFileName().isEmpty() || suoi.isEmpty() ||
+         std::any_of(suoi.begin(), suoi.end(), [&](const QPageSize& s) { return s.isEquivalentTo(foglio); });
+}
+
 // The dialog of some systems begins with the printer's usual paper, whatever was asked for: which one the
 // user means only he can say. Nothing: neither.
-std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPageSize& impostato,
+std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPrinter& stampante,
                                       QWidget* finestra) {
+  const QPageSize impostato = stampante.pageLayout().pageSize();
   if (chiesto.isEquivalentTo(impostato)) return impostato;
-  QMessageBox domanda(
-      QMessageBox::Question, "Foglio",
-      QString("Nella stampante è impostato un foglio %1, nell'anteprima un %2. Su quale si stampa?")
-          .arg(impostato.name(), chiesto.name()),
-      QMessageBox::NoButton, finestra);
-  const QAbstractButton* const anteprima = domanda.addButton("Su &" + chiesto.name(), QMessageBox::YesRole);
-  const QAbstractButton* const stampante = domanda.addButton("Su " + impostato.name(), QMessageBox::NoRole);
+  const bool loHa = HaFoglio(stampante, chiesto);
+  const QString domandato =
+      loHa ? QString("Nella stampante è impostato un foglio %2, nell'anteprima un %1. Su quale si stampa?")
+           : QString("La stampante non ha fogli %1; è impostato un %2.");
+  QMessageBox domanda(QMessageBox::Question, "Foglio", domandato.arg(chiesto.name(), impostato.name()),
+                      QMessageBox::NoButton, finestra);
+  const QAbstractButton* nuovo = nullptr;
+  if (loHa) nuovo = domanda.addButton("Su &" + chiesto.name(), QMessageBox::YesRole);
+  const QAbstractButton* const solito = domanda.addButton("Su " + impostato.name(), QMessageBox::NoRole);
   domanda.setEscapeButton(domanda.addButton("A&nnulla", QMessageBox::RejectRole));
   domanda.exec();
-  if (domanda.clickedButton() == anteprima) return chiesto;
-  if (domanda.clickedButton() == stampante) return impostato;
+  if (nuovo && domanda.clickedButton() == nuovo) return chiesto;
+  if (domanda.clickedButton() == solito) return impostato;
   return std::nullopt;
 }
 
@@ -136,11 +146,9 @@ Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, Q
   dialogo.setWindowTitle("Stampa");
   dialogo.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
   if (dialogo.exec() != QDialog::Accepted) return {};
-  const auto foglio = ScegliFoglio(pagina.pageSize(), stampante.pageLayout().pageSize(), finestra);
+  const auto foglio = ScegliFoglio(pagina.pageSize(), stampante, finestra);
   if (!foglio) return {};
   Prepara(stampante, *foglio, stampante.pageLayout().orientation());
-  if (!foglio->isEquivalentTo(stampante.pageLayout().pageSize()))
-    return {QString("La stampante %1 non ha il foglio %2").arg(stampante.printerName(), foglio->name()), {}};
   // What was well on the sheet of before may not be on that of the printer; a cut already agreed to is not
   // asked about again.
   if (!Esamina(disegno, resa, pagina) && !VaBene(disegno, resa, stampante, finestra)) return {};
