@@ -1,4 +1,3 @@
-// The drawing is copied first: it may be read anew while the user is choosing.
 #include "viewer/comandi_carta.h"
 
 #include <QDir>
@@ -54,8 +53,8 @@ QString ScegliUscita(const QString& titolo, const QString& percorso, const QStri
   // Asked here, about the name with its ending.
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {
-    const QString uscita = ConFinale(dialogo.selectedFiles().front(), finali,
-                                     finali[scelto(filtri.indexOf(dialogo.selectedNameFilter()))]);
+    QString uscita = ConFinale(dialogo.selectedFiles().front(), finali,
+                               finali[scelto(filtri.indexOf(dialogo.selectedNameFilter()))]);
     if (!QFileInfo(uscita).isFile() || Sostituire(uscita, finestra)) return uscita;
   }
   return {};
@@ -87,22 +86,32 @@ void Prepara(QPrinter& stampante, const QPageSize& foglio, QPageLayout::Orientat
                            QPageLayout::Millimeter);
 }
 
+// A sheet that a printer does not know it takes all the same, and then prints it smaller.
+bool HaFoglio(const QPrinter& stampante, const QPageSize& foglio) {
+  const QList<QPageSize> suoi = QPrinterInfo(stampante).supportedPageSizes();
+  return !stampante.outputFileName().isEmpty() || suoi.isEmpty() ||
+         std::any_of(suoi.begin(), suoi.end(), [&](const QPageSize& s) { return s.isEquivalentTo(foglio); });
+}
+
 // The dialog of some systems begins with the printer's usual paper, whatever was asked for: which one the
 // user means only he can say. Nothing: neither.
-std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPageSize& impostato,
+std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPrinter& stampante,
                                       QWidget* finestra) {
+  const QPageSize impostato = stampante.pageLayout().pageSize();
   if (chiesto.isEquivalentTo(impostato)) return impostato;
-  QMessageBox domanda(
-      QMessageBox::Question, "Foglio",
-      QString("Nella stampante è impostato un foglio %1, nell'anteprima un %2. Su quale si stampa?")
-          .arg(impostato.name(), chiesto.name()),
-      QMessageBox::NoButton, finestra);
-  const QAbstractButton* const anteprima = domanda.addButton("Su &" + chiesto.name(), QMessageBox::YesRole);
-  const QAbstractButton* const stampante = domanda.addButton("Su " + impostato.name(), QMessageBox::NoRole);
+  const bool loHa = HaFoglio(stampante, chiesto);
+  const QString domandato =
+      loHa ? QString("Nella stampante è impostato un foglio %2, nell'anteprima un %1. Su quale si stampa?")
+           : QString("La stampante non ha fogli %1; è impostato un %2.");
+  QMessageBox domanda(QMessageBox::Question, "Foglio", domandato.arg(chiesto.name(), impostato.name()),
+                      QMessageBox::NoButton, finestra);
+  const QAbstractButton* nuovo = nullptr;
+  if (loHa) nuovo = domanda.addButton("Su &" + chiesto.name(), QMessageBox::YesRole);
+  const QAbstractButton* const solito = domanda.addButton("Su " + impostato.name(), QMessageBox::NoRole);
   domanda.setEscapeButton(domanda.addButton("A&nnulla", QMessageBox::RejectRole));
   domanda.exec();
-  if (domanda.clickedButton() == anteprima) return chiesto;
-  if (domanda.clickedButton() == stampante) return impostato;
+  if (nuovo && domanda.clickedButton() == nuovo) return chiesto;
+  if (domanda.clickedButton() == solito) return impostato;
   return std::nullopt;
 }
 
@@ -137,7 +146,7 @@ Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, Q
   dialogo.setWindowTitle("Stampa");
   dialogo.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
   if (dialogo.exec() != QDialog::Accepted) return {};
-  const auto foglio = ScegliFoglio(pagina.pageSize(), stampante.pageLayout().pageSize(), finestra);
+  const auto foglio = ScegliFoglio(pagina.pageSize(), stampante, finestra);
   if (!foglio) return {};
   Prepara(stampante, *foglio, stampante.pageLayout().orientation());
   // What was well on the sheet of before may not be on that of the printer; a cut already agreed to is not
@@ -155,7 +164,7 @@ Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, Q
 }
 
 Esito NienteDa(const char* cosa) {
-  return {QString("Non c'è niente da %1: il disegno è vuoto.").arg(cosa), {}};
+  return {QString("Non c'è niente da %1: il disegno è vuoto o tutto nascosto.").arg(cosa), {}};
 }
 
 }  // namespace
@@ -165,9 +174,8 @@ QString ConFinale(const QString& percorso, const QStringList& finali, const QStr
   return percorso + (percorso.endsWith('.') ? "" : ".") + finale;
 }
 
-Esito EsportaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidget* finestra) {
-  if (Ingombro(mostrato).Vuoto()) return NienteDa("esportare");
-  const Disegno disegno = mostrato;
+Esito EsportaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra) {
+  if (Ingombro(disegno).Vuoto()) return NienteDa("esportare");
   const Origine origine{percorso};
   SceltaResa scelta = ResaRicordata();
   const QString uscita =
@@ -187,9 +195,8 @@ Esito EsportaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidge
   return EsportaIn(uscita, disegno, scelta.resa, origine);
 }
 
-Esito StampaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidget* finestra) {
-  if (Ingombro(mostrato).Vuoto()) return NienteDa("stampare");
-  const Disegno disegno = mostrato;
+Esito StampaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra) {
+  if (Ingombro(disegno).Vuoto()) return NienteDa("stampare");
   const Origine origine{percorso};
   const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();
   SceltaResa scelta = ResaRicordata();
