@@ -22,10 +22,10 @@ struct Gesto {
 constexpr std::array kGesti = std::to_array<Gesto>({
     {"Rotella", "Ingrandisce o riduce attorno al puntatore"},
     {"Trascinare con il tasto sinistro o centrale", "Sposta il disegno"},
-    {"Maiusc e trascinare con il sinistro", "Ingrandisce il rettangolo"},
+    {"Shift e trascinare con il sinistro", "Ingrandisce il rettangolo"},
     {"Doppio clic con il tasto centrale", "Adatta il disegno alla finestra"},
     {"Tasto destro", "Apre il menu Vista"},
-    {"Frecce, con uno strumento in uso", "Muovono il puntatore; con Maiusc di un solo pixel"},
+    {"Frecce, con uno strumento in uso", "Muovono il puntatore; con Shift di un solo pixel"},
     {"Invio o clic, con uno strumento in uso", "Indica il punto sotto il puntatore"},
     {"Esc", "Lascia lo strumento in uso; toglie l'avviso"},
     {"Trascinare un file sulla finestra", "Lo apre; di più file, il primo"},
@@ -35,13 +35,14 @@ QString SenzaMnemonico(QString testo) {
   return testo.section('\t', 0, 0).remove('&');
 }
 
-// An arrow's key stands in the text of its entry.
+// An arrow's key stands in the text of its entry. Not every keyboard shows Home as the toolkit's Italian
+// does.
 QString Tasti(const QAction& azione) {
   QStringList tasti;
   for (const QKeySequence& sequenza : azione.shortcuts())
     tasti << sequenza.toString(QKeySequence::NativeText);
   if (tasti.isEmpty()) tasti << azione.text().section('\t', 1);
-  return tasti.join("   ");
+  return tasti.join("   ").replace("↖", "Home (↖)");
 }
 
 class Tavola : public QTableWidget {
@@ -71,15 +72,13 @@ class Tavola : public QTableWidget {
     setItem(riga, 1, new QTableWidgetItem(effetto));
   }
 
-  // An entry of a submenu follows the submenu's name.
+  // An entry of a submenu follows the submenu's name; one that has none of its own is no command but a file.
   void Voci(const QMenu& menu, const QString& prima) {
     for (const QAction* azione : menu.actions()) {
       if (azione->isSeparator()) continue;
       const QString testo = prima + SenzaMnemonico(azione->text());
-      if (azione->menu() == nullptr)
-        Riga(Tasti(*azione), testo);
-      else
-        Voci(*azione->menu(), testo + ": ");
+      if (azione->menu() == nullptr && !azione->objectName().isEmpty()) Riga(Tasti(*azione), testo);
+      if (azione->menu() != nullptr) Voci(*azione->menu(), testo + ": ");
     }
   }
 };
@@ -106,7 +105,7 @@ void MostraTasti(QWidget* padre, const QMenuBar& menu) {
   auto* const posto = new QVBoxLayout(finestra);
   posto->addWidget(tavola);
   posto->addWidget(pulsanti);
-  finestra->resize(tavola->horizontalHeader()->length() + 60, 560);
+  finestra->resize(tavola->horizontalHeader()->length() + 60, 640);
   finestra->show();
 }
 

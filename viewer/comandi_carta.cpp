@@ -46,8 +46,11 @@ QString ScegliUscita(const QString& titolo, const QString& percorso, const QStri
   QFileDialog dialogo(finestra, titolo, file.path());
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setNameFilters(filtri);
-  dialogo.selectNameFilter(filtri[scelto(finali.indexOf(genere))]);
-  dialogo.selectFile(file.completeBaseName());
+  const auto primo = scelto(finali.indexOf(genere));
+  dialogo.selectNameFilter(filtri[primo]);
+  // With its ending: with another kind the toolkit puts the new ending in the place of what follows the last
+  // dot.
+  dialogo.selectFile(file.completeBaseName() + '.' + finali[primo]);
   // Asked here, about the name with its ending.
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {

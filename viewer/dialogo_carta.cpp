@@ -35,7 +35,7 @@ QStringList NomiUnita() {
 }
 
 Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione) {
-  QMessageBox domanda(QMessageBox::Warning, "Il disegno non sta nel foglio", obiezione.testo,
+  QMessageBox domanda(QMessageBox::Warning, "Scala del disegno", obiezione.testo,
                       QMessageBox::NoButton, genitore);
   const QAbstractButton* altra = nullptr;
   const QAbstractButton* comunque = nullptr;

@@ -10,6 +10,8 @@ namespace ostrel {
 
 struct Coordinata {
   double x = 0, y = 0;
+
+  friend bool operator==(const Coordinata&, const Coordinata&) = default;
 };
 
 /// A marked point; the file gives its two attributes no meaning, it is drawn as a small cross.
@@ -49,6 +51,8 @@ struct Disegno {
   /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers
   /// would leave a double's range; then a power of two.
   double unita = 1;
+  /// The outline has been taken out: no line that is left belongs to one.
+  bool senzaContorno = false;
 };
 
 }  // namespace ostrel

@@ -20,8 +20,14 @@ constexpr double kMinimoSensato = 5;
 constexpr double kMinimoDipinto = 1e-3;
 constexpr double kMassimoDipinto = 1e6;
 
-double MillimetriVeri(const Disegno& disegno, Unita unita) {
-  return disegno.unita * Voce(unita).millimetri;
+// What a drawing is to a sheet: reading it through each time would make a large one slow to choose for.
+struct Sagoma {
+  Riquadro tutto;
+  double unita;
+};
+
+Sagoma DaDisegno(const Disegno& disegno) {
+  return {Ingombro(disegno), disegno.unita};
 }
 
 bool InScala(const Resa& resa) {
@@ -52,50 +58,10 @@ QPageLayout ConCarta(const Resa& resa, QPageLayout::Orientation verso) {
       QPageSize(kFogli[static_cast<std::size_t>(resa.carta)]), verso, {m, m, m, m}, QPageLayout::Millimeter};
 }
 
-bool CiSta(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
-  const Foglio foglio = Componi(disegno, resa, Stampabile(pagina));
-  return Contiene(foglio.campo.size(), foglio.disegno);
-}
-
-// 1, 2, 2.5, 5 and their tenfolds: the usual ones and those beyond.
-double ScalaCheCiSta(const Disegno& disegno, Resa resa, const QPageLayout& pagina) {
-  const double chiesto = resa.rapporto;
-  for (double decade = 1; decade <= kMassimoRapporto; decade *= 10)
-    for (const double passo : {1.0, 2.0, 2.5, 5.0}) {
-      resa.rapporto = passo * decade;
-      if (resa.rapporto > chiesto && resa.rapporto <= kMassimoRapporto && resa.rapporto != 2.5 &&
-          CiSta(disegno, resa, pagina))
-        return resa.rapporto;
-    }
-  return 0;
-}
-
-std::optional<Carta> CartaCheBasta(const Disegno& disegno, Resa resa) {
-  for (std::size_t i = static_cast<std::size_t>(resa.carta) + 1; i < kCarte.size(); ++i) {
-    resa.carta = static_cast<Carta>(i);
-    if (CiSta(disegno, resa, Pagina(disegno, resa))) return resa.carta;
-  }
-  return std::nullopt;
-}
-
-QString Lunghezza(double mm) {
-  return QLocale(QLocale::Italian)
-      .toString(mm, 'g',
-                mm < 10    ? 2
-                : mm < 1e4 ? static_cast<int>(std::log10(mm)) + 1
-                           : 3);
-}
-
-QString Lati(const QSizeF& mm) {
-  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
-}
-
-}  // namespace
-
-Foglio Componi(const Disegno& disegno, const Resa& resa, const QSizeF& stampabile) {
+Foglio Disponi(const Sagoma& sagoma, const Resa& resa, const QSizeF& stampabile) {
   Foglio foglio = Dividi(stampabile);
-  const Riquadro tutto = Ingombro(disegno);
-  const double vero = MillimetriVeri(disegno, resa.unita);
+  const Riquadro& tutto = sagoma.tutto;
+  const double vero = sagoma.unita * Voce(resa.unita).millimetri;
   foglio.vista = VistaIntera(tutto, foglio.campo);
   if (InScala(resa)) {
     const QPointF centro = foglio.campo.center();
@@ -110,21 +76,68 @@ Foglio Componi(const Disegno& disegno, const Resa& resa, const QSizeF& stampabil
   return foglio;
 }
 
+bool CiSta(const Sagoma& sagoma, const Resa& resa, const QPageLayout& pagina) {
+  const Foglio foglio = Disponi(sagoma, resa, Stampabile(pagina));
+  return Contiene(foglio.campo.size(), foglio.disegno);
+}
+
+QPageLayout PaginaDi(const Sagoma& sagoma, const Resa& resa) {
+  const QPageLayout ritta = ConCarta(resa, QPageLayout::Portrait);
+  const QPageLayout distesa = ConCarta(resa, QPageLayout::Landscape);
+  if (resa.orientamento != Orientamento::Automatico)
+    return resa.orientamento == Orientamento::Verticale ? ritta : distesa;
+  const auto scala = [&](const QPageLayout& pagina) {
+    return Disponi(sagoma, {}, Stampabile(pagina)).vista.scala;
+  };
+  return scala(ritta) > scala(distesa) ? ritta : distesa;
+}
+
+// 1, 2, 2.5, 5 and their tenfolds: the usual ones and those beyond.
+double ScalaCheCiSta(const Sagoma& sagoma, Resa resa, const QPageLayout& pagina) {
+  const double chiesto = resa.rapporto;
+  for (double decade = 1; decade <= kMassimoRapporto; decade *= 10)
+    for (const double passo : {1.0, 2.0, 2.5, 5.0}) {
+      resa.rapporto = passo * decade;
+      if (resa.rapporto > chiesto && resa.rapporto <= kMassimoRapporto && resa.rapporto != 2.5 &&
+          CiSta(sagoma, resa, pagina))
+        return resa.rapporto;
+    }
+  return 0;
+}
+
+// The smallest, turned as is best.
+std::optional<QPageLayout> PaginaCheBasta(const Sagoma& sagoma, Resa resa) {
+  resa.orientamento = Orientamento::Automatico;
+  for (std::size_t i = 0; i < kCarte.size(); ++i) {
+    resa.carta = static_cast<Carta>(i);
+    if (QPageLayout pagina = PaginaDi(sagoma, resa); CiSta(sagoma, resa, pagina)) return pagina;
+  }
+  return std::nullopt;
+}
+
+// Whole millimetres are what can be read on a sheet.
+QString Lunghezza(double mm) {
+  constexpr double kPochi = 10;
+  const QLocale italiano(QLocale::Italian);
+  return mm < kPochi ? italiano.toString(mm, 'g', 2) : italiano.toString(mm, 'f', 0);
+}
+
+QString Lati(const QSizeF& mm) {
+  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
+}
+
+}  // namespace
+
+Foglio Componi(const Disegno& disegno, const Resa& resa, const QSizeF& stampabile) {
+  return Disponi(DaDisegno(disegno), resa, stampabile);
+}
+
 QSizeF Stampabile(const QPageLayout& pagina) {
   return pagina.paintRect(QPageLayout::Millimeter).size();
 }
 
 QPageLayout Pagina(const Disegno& disegno, const Resa& resa) {
-  const QPageLayout ritta = ConCarta(resa, QPageLayout::Portrait);
-  const QPageLayout distesa = ConCarta(resa, QPageLayout::Landscape);
-  if (resa.orientamento != Orientamento::Automatico)
-    return resa.orientamento == Orientamento::Verticale ? ritta : distesa;
-  Resa libera = resa;
-  libera.rapporto = 0;
-  const auto scala = [&](const QPageLayout& pagina) {
-    return Componi(disegno, libera, Stampabile(pagina)).vista.scala;
-  };
-  return scala(ritta) > scala(distesa) ? ritta : distesa;
+  return PaginaDi(DaDisegno(disegno), resa);
 }
 
 QString InTesto(const QPageLayout& pagina) {
@@ -142,20 +155,27 @@ QString Descrivi(const Disegno& disegno, const Resa& resa, const QPageLayout& pa
 
 std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
   if (!InScala(resa)) return std::nullopt;
-  const Foglio foglio = Componi(disegno, resa, Stampabile(pagina));
-  const double lungo = std::max(foglio.disegno.width(), foglio.disegno.height());
-  const QString misura = QString("A %1 il disegno, in %2, misura %3")
-                             .arg(InTesto(resa.rapporto), Voce(resa.unita).nome, Lati(foglio.disegno));
-  if (!(lungo >= kMinimoSensato))
-    return Obiezione{misura + ": non si vedrebbe niente. L'unità o la scala non è quella giusta.", 0,
-                     !(lungo >= kMinimoDipinto)};
-  if (Contiene(foglio.campo.size(), foglio.disegno)) return std::nullopt;
-  Obiezione obiezione{misura + QString(", e il foglio %1 ne ha liberi %2: una parte ne resta fuori.")
-                                   .arg(InTesto(pagina), Lati(foglio.campo.size())),
-                      ScalaCheCiSta(disegno, resa, pagina), !(lungo <= kMassimoDipinto)};
+  const Sagoma sagoma = DaDisegno(disegno);
+  const Foglio foglio = Disponi(sagoma, resa, Stampabile(pagina));
+  if (Contiene(foglio.campo.size(), foglio.disegno)) {
+    const double lungo = std::max(foglio.disegno.width(), foglio.disegno.height());
+    if (lungo >= kMinimoSensato) return std::nullopt;
+    return Obiezione{
+        QString("A %1 il disegno, in %2, misura %3: non si vedrebbe niente. L'unità o la scala non è "
+                "quella giusta.")
+            .arg(InTesto(resa.rapporto), Voce(resa.unita).nome, Lati(foglio.disegno)),
+        0, lungo < kMinimoDipinto};
+  }
+  const bool assurda = !(std::max(foglio.disegno.width(), foglio.disegno.height()) <= kMassimoDipinto);
+  Obiezione obiezione{QString("A %1 il disegno, in %2, misura %3, e il foglio %4 ne ha liberi %5: una parte "
+                              "ne resta fuori.")
+                          .arg(InTesto(resa.rapporto), Voce(resa.unita).nome,
+                               assurda ? "più di un chilometro" : Lati(foglio.disegno), InTesto(pagina),
+                               Lati(foglio.campo.size())),
+                      ScalaCheCiSta(sagoma, resa, pagina), assurda};
   if (obiezione.ciSta > 0) obiezione.testo += QString(" Ci sta a %1.").arg(InTesto(obiezione.ciSta));
-  if (const auto carta = CartaCheBasta(disegno, resa))
-    obiezione.testo += QString(" A %1 basta un foglio %2.").arg(InTesto(resa.rapporto), Nome(*carta));
+  if (const auto basta = PaginaCheBasta(sagoma, resa))
+    obiezione.testo += QString(" A %1 basta un foglio %2.").arg(InTesto(resa.rapporto), InTesto(*basta));
   return obiezione;
 }
 

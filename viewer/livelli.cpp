@@ -7,6 +7,7 @@
 #include "viewer/misure.h"
 
 namespace ostrel {
+
 std::vector<std::size_t> FiniAnelli(const Disegno& disegno) {
   const auto& linee = disegno.linee;
   std::vector<std::size_t> fini;
@@ -20,6 +21,7 @@ std::vector<std::size_t> FiniAnelli(const Disegno& disegno) {
 
 std::vector<Livello> LivelliLinee(const Disegno& disegno) {
   const auto& linee = disegno.linee;
+  if (disegno.senzaContorno) return std::vector(linee.size(), Livello::Quote);
   const auto fini = FiniAnelli(disegno);
   const std::size_t anelli = fini.empty() ? 0 : fini.back();
   std::vector<Livello> livelli(linee.size(), Livello::Quote);
@@ -45,7 +47,8 @@ Disegno SoloLivelli(Disegno disegno, const Livelli& voluti) {
   disegno.linee = std::move(linee);
   std::erase_if(disegno.archi, [&](const Arco& arco) { return !voluto(LivelloArco(disegno, arco)); });
   std::erase_if(disegno.scritte, [&](const Scritta& s) { return !voluto(LivelloScritta(s)); });
-  if (!voluto(Livello::Contorno)) disegno.punti.clear();
+  disegno.senzaContorno = !voluto(Livello::Contorno);
+  if (disegno.senzaContorno) disegno.punti.clear();
   return disegno;
 }
 

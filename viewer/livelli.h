@@ -30,7 +30,7 @@ Livello LivelloScritta(const Scritta& scritta);
 using Livelli = std::array<bool, 3>;
 inline constexpr Livelli kTuttiLivelli = {true, true, true};
 
-/// The drawing with nothing but these.
+/// The drawing with nothing but these; they are still what they were.
 Disegno SoloLivelli(Disegno disegno, const Livelli& voluti);
 
 }  // namespace ostrel

@@ -77,13 +77,13 @@ void Finestra::ElencaRecenti() {
     connect(azione, &QAction::triggered, this, [this, percorso] { ApriRecente(percorso); });
   }
   recenti_->addSeparator();
-  connect(recenti_->addAction("&Svuota l'elenco"), &QAction::triggered, this, &SvuotaRecenti);
+  Voce(this, recenti_, "svuota", "&Svuota l'elenco", {}, &SvuotaRecenti);
   recenti_->setEnabled(!recenti.isEmpty());
 }
 
 void Finestra::CreaMenuVista() {
   QMenu* const vista = menuBar()->addMenu("&Vista");
-  Voce(this, vista, "adatta", "A&datta alla finestra", {QKeySequence("Home"), QKeySequence("F")},
+  Voce(this, vista, "adatta", "A&datta alla finestra", {QKeySequence("F"), QKeySequence("Home")},
        [this] { tela_->Adatta(); });
   Voce(this, vista, "ingrandisci", "&Ingrandisci", {QKeySequence("+"), QKeySequence("=")},
        [this] { tela_->Ingrandisci(1); });
@@ -130,8 +130,8 @@ void Finestra::CreaVociLivelli(QMenu& vista) {
     const char *nome, *testo, *tasto;
   };
   QList<QAction*> livelli;
-  for (const Voci& v :
-       {Voci{"contorno", "&Contorno", "1"}, Voci{"quote", "&Quote", "2"}, Voci{"testi", "&Testi", "3"}})
+  for (const Voci& v : {Voci{"contorno", "Mostra il &contorno", "1"}, Voci{"quote", "Mostra le &quote", "2"},
+                        Voci{"testi", "Mostra i &testi", "3"}})
     livelli << Segnabile(Voce(this, &vista, v.nome, v.testo, {QKeySequence(v.tasto)}, [] {}), true);
   for (QAction* const azione : livelli)
     connect(azione, &QAction::toggled, this, [this, livelli] {
@@ -154,6 +154,7 @@ void Finestra::CreaMenuStrumenti() {
   auto* const scelte = new QActionGroup(this);
   for (const char* nome : {"&non detta", "&mm", "&cm", "m&etri"})
     scelte->addAction(unita->addAction(nome))->setCheckable(true);
+  for (QAction* const scelta : scelte->actions()) scelta->setObjectName("unita");
   connect(unita, &QMenu::aboutToShow, scelte,
           [scelte] { scelte->actions()[static_cast<int>(ResaRicordata().resa.unita)]->setChecked(true); });
   connect(scelte, &QActionGroup::triggered, this, [this, scelte](QAction* scelta) {

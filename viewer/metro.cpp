@@ -48,7 +48,7 @@ void Prendi(Metro& metro) {
   if (!metro.da || metro.a) {
     metro.da = metro.sotto;
     metro.a.reset();
-  } else if (metro.da->x != metro.sotto->x || metro.da->y != metro.sotto->y) {
+  } else if (*metro.da != *metro.sotto) {
     metro.a = metro.sotto;
   }
 }
@@ -76,7 +76,7 @@ QString Misurata(double lunghezza) {
 
 QString Risultato(const Metro& metro, double unita, const QString& nomeUnita) {
   const auto fine = metro.a ? metro.a : metro.sotto;
-  if (!metro.da || !fine) return {};
+  if (!metro.da || !fine || *metro.da == *fine) return {};
   const Coordinata &p = *metro.da, &q = *fine;
   const double rumore =
       kArrotondamento * std::max({std::fabs(p.x), std::fabs(p.y), std::fabs(q.x), std::fabs(q.y)});

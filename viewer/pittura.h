@@ -21,6 +21,8 @@ struct Vista {
   QPointF Da(QPointF p) const { return {x + p.x() / scala, y - p.y() / scala}; }
   /// The same drawing point stays under `fermo`.
   Vista Ingrandita(double fattore, QPointF fermo) const;
+
+  friend bool operator==(const Vista&, const Vista&) = default;
 };
 
 /// The view that fits the whole of a drawing's extents into an area, centred, a margin around it.

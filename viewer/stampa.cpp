@@ -2,6 +2,7 @@
 
 #include <QPdfWriter>
 #include <QPrinter>
+#include <algorithm>
 
 #include "viewer/pittura.h"
 
@@ -9,6 +10,7 @@ namespace ostrel {
 namespace {
 
 constexpr double kSpessoreCarta = 0.25;  // millimetres
+constexpr double kPunto = 1;             // what a painter draws at least
 constexpr double kMillimetriPollice = 25.4;
 constexpr int kRisoluzionePdf = 1200;
 constexpr char kCreatore[] = "ostrel";
@@ -32,10 +34,13 @@ void DipingiFoglio(QPainter& pittore, const Disegno& disegno, const Resa& resa, 
     return QRectF(r.x() * mm, r.y() * mm, r.width() * mm, r.height() * mm);
   };
   const Vista vista{foglio.vista.scala * mm, foglio.vista.x, foglio.vista.y};
+  const auto obiezione = Esamina(disegno, resa, pagina);
   pittore.save();
   // What does not fit must not run into the title block.
-  if (Esamina(disegno, resa, pagina)) pittore.setClipRect(inUnita(foglio.campo));
-  Dipingi(pittore, disegno, vista, inUnita(foglio.campo), FondoCarta(kSpessoreCarta * mm));
+  if (obiezione) pittore.setClipRect(inUnita(foglio.campo));
+  if (!obiezione || !obiezione->assurda)
+    Dipingi(pittore, disegno, vista, inUnita(foglio.campo),
+            FondoCarta(std::max(kSpessoreCarta * mm, kPunto)));
   pittore.restore();
   DipingiCartiglio(pittore, Intesta(disegno, resa, foglio, origine), inUnita(foglio.cartiglio));
 }

@@ -29,9 +29,11 @@ Tela::Tela(QWidget* padre) : QWidget(padre) {
 }
 
 void Tela::Mostra(Disegno nuovo, bool daCapo) {
+  const bool altreMisure = nuovo.unita != disegno_.unita;
   disegno_ = std::move(nuovo);
   tutto_ = Ingombro(disegno_);
-  metro_ = {};
+  // Whoever measures goes on when the file is read again.
+  if (daCapo || altreMisure) metro_ = {};
   if (daCapo) {
     storia_ = {};
     adattata_ = true;
@@ -59,8 +61,8 @@ void Tela::NominaUnita(const QString& nome) {
 
 void Tela::Inquadra(const Inquadratura& nuova) {
   adattata_ = nuova.adattata;
-  angolo_.reset();
-  vista_ = adattata_ ? VistaIntera(tutto_, rect()) : nuova.vista;
+  const Vista vista = adattata_ ? VistaIntera(tutto_, rect()) : nuova.vista;
+  if (vista != std::exchange(vista_, vista)) angolo_.reset();
   Ridipingi();
   emit VistaCambiata();
 }
@@ -165,7 +167,7 @@ void Tela::DipingiStrumento(QPainter& pittore) {
     velo.setAlpha(40);
     pittore.setPen(colore);
     pittore.setBrush(velo);
-    pittore.drawRect(QRect(*angolo_, puntatore_).normalized());
+    pittore.drawRect(QRectF(*angolo_, puntatore_).normalized());
   }
   if (strumento_ == Strumento::Metro) ostrel::Dipingi(pittore, metro_, vista_, area, fondo_, Misura());
   if (const QString cosa = Istruzione(); !cosa.isEmpty()) Cartellino(pittore, cosa, {}, area, fondo_);

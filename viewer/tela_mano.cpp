@@ -62,7 +62,7 @@ void Tela::Indica() {
     angolo_ = puntatore_;
     return;
   }
-  const QRect parte = QRect(*angolo_, puntatore_).normalized();
+  const QRectF parte = QRectF(*angolo_, puntatore_).normalized();
   const bool ampia = std::max(parte.width(), parte.height()) > QApplication::startDragDistance();
   if (ampia || strumento_ != Strumento::Rettangolo) angolo_.reset();
   if (!ampia) return;

@@ -109,11 +109,13 @@ TEST(Esporta, PdfEStampa) {
   ASSERT_EQ(Esporta(prove::Esempio(), esportato), std::nullopt);
   QPrinter stampante(QPrinter::HighResolution);
   stampante.setOutputFileName(stampato);
+  stampante.setPageOrientation(QPageLayout::Portrait);
   ASSERT_TRUE(Stampa(prove::Esempio(), {}, {}, stampante));
   for (const QString& file : {esportato, stampato}) {
     const std::string byte = prove::Leggi(file.toStdString());
     EXPECT_TRUE(byte.starts_with("%PDF-") && byte.ends_with("%%EOF\n")) << file.toStdString();
     EXPECT_EQ(Quante(byte, "/Count 1\n"), 1) << "one page";
+    EXPECT_EQ(Quante(byte, "[0 0 595 842]"), file == stampato ? 1 : 0) << "the printer's own orientation";
   }
 }
 

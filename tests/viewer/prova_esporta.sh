@@ -53,7 +53,7 @@ prova 2 '--unita: mm, cm o m, non "piedi"' --esporta a.pdf --unita piedi s.dis
 prova 2 '--carta vale soltanto per il PDF' --esporta a.dxf --carta A3 s.dis
 prova 2 '--comunque vale soltanto con --esporta' --comunque s.dis
 prova 2 'dopo --tipo manca il valore' --esporta . --tipo
-prova 1 'Ci sta a 1:50. A 1:20 basta un foglio A1.' --esporta a.pdf --unita cm --scala 20 s.dis
+prova 1 'Ci sta a 1:50. A 1:20 basta un foglio A1 orizzontale.' --esporta a.pdf --unita cm --scala 20 s.dis
 prova 1 'misura 2,8' --esporta a.pdf --unita mm --scala 1:500 s.dis
 [ "$(ls)" = "$prima" ]
 

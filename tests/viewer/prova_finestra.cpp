@@ -1,19 +1,12 @@
 // The window and its start: fitting, zoom and pan, reloading with and without a command.
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QLabel>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTest>
-#include <QWheelEvent>
 #include <chrono>
 #include <filesystem>
 
-#include "tests/viewer/aiuti_viewer.h"
+#include "tests/viewer/con_finestra.h"
 #include "viewer/avvio.h"
-#include "viewer/finestra.h"
-#include "viewer/tela.h"
 
 namespace ostrel {
 namespace {
@@ -22,33 +15,7 @@ namespace fs = std::filesystem;
 
 constexpr int kAttesaMassimaMs = 10000;
 
-struct ConFinestra : testing::Test {
-  explicit ConFinestra(bool sorveglia = false) : finestra(sorveglia), letto(&finestra, &Finestra::Letto) {
-    finestra.resize(900, 500);
-    finestra.show();
-    prove::Scrivi(file, prove::kEsempio);
-    finestra.Apri(QString::fromStdString(file));
-  }
-  void Comanda(const char* azione) { finestra.findChild<QAction*>(azione)->trigger(); }
-  bool Mostra(const char* titolo) { return finestra.windowTitle().startsWith(titolo); }
-  QString Avviso() {
-    const auto* avviso = finestra.findChild<QLabel*>("avviso");
-    return avviso->isVisible() ? avviso->text() : QString();
-  }
-  void Rotella(int scatti, QPointF dove) {
-    QWheelEvent evento(dove, tela.mapToGlobal(dove), {}, {0, 120 * scatti}, Qt::NoButton, Qt::NoModifier,
-                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&tela, &evento);
-  }
-
-  QTemporaryDir cartella;
-  const std::string file = cartella.filePath("sezione.dis").toStdString();
-  // Another title: the first text of the drawing.
-  const std::string ritoccato = prove::ConRiga(prove::kEsempio, 388, "SEZIONE U_PO_002");
-  Finestra finestra;
-  QSignalSpy letto;
-  Tela& tela = *finestra.findChild<Tela*>("tela");
-};
+using prove::ConFinestra;
 
 // The largest difference of a colour channel between two pictures of one size and format.
 int Scarto(const QImage& a, const QImage& b) {
@@ -100,7 +67,7 @@ TEST_F(ConFinestra, RotellaETrascinamento) {
 
   // What was scrolled with what came into sight is what painting everything anew gives.
   const QImage composta = fotografia();
-  tela.repaint();
+  tela.MettiSu(kSchermo);
   EXPECT_GT(Scarto(composta, ferma), 200);
   EXPECT_LE(Scarto(composta, fotografia()), 2) << "smoothing rounds where a line is cut";
 

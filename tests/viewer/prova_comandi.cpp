@@ -1,0 +1,135 @@
+// The commands of the menus: their keys, what is shown and copied, the drawings that come to the window.
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+#include "tests/viewer/con_finestra.h"
+#include "viewer/recenti.h"
+#include "viewer/tabella.h"
+
+namespace ostrel {
+namespace {
+
+using prove::ConFinestra;
+
+void SenzaScontri(const QList<QAction*>& voci, std::set<QString>& tasti) {
+  std::set<QChar> mnemonici;
+  for (QAction* voce : voci) {
+    if (voce->isSeparator()) continue;
+    const qsizetype segno = voce->text().indexOf('&');
+    ASSERT_GE(segno, 0) << voce->text().toStdString();
+    EXPECT_TRUE(mnemonici.insert(voce->text()[segno + 1].toLower()).second) << voce->text().toStdString();
+    for (const QKeySequence& sequenza : voce->shortcuts())
+      EXPECT_TRUE(tasti.insert(sequenza.toString()).second) << sequenza.toString().toStdString();
+    if (voce->menu() != nullptr) SenzaScontri(voce->menu()->actions(), tasti);
+  }
+}
+
+TEST_F(ConFinestra, OgniVoceHaITastiSuoi) {
+  std::set<QString> tasti;
+  SenzaScontri(finestra.menuBar()->actions(), tasti);
+  EXPECT_TRUE(tasti.contains("F1"));
+  EXPECT_EQ(finestra.findChild<QAction*>("ricarica")->text(), "Ricarica dise&gno");
+}
+
+TEST_F(ConFinestra, QuelloCheENascostoNonSiVedeNeSiEsporta) {
+  const auto colori = [&](const Coordinata& dove) {
+    const QImage immagine = tela.grab().toImage();
+    const QPoint p = Sullo(dove.x, dove.y);
+    return immagine.pixelColor(p).red() + immagine.pixelColor(p - QPoint(0, 1)).red() > 200;
+  };
+  const Coordinata contorno{500, -185}, quota{900, 200};
+  QTest::keyClick(&tela, Qt::Key_1);
+  EXPECT_FALSE(colori(contorno));
+  EXPECT_TRUE(colori(quota));
+  EXPECT_TRUE(Detto("conteggio").endsWith("(nascosti: contorno)"));
+  EXPECT_TRUE(
+      std::ranges::all_of(LivelliLinee(tela.Visibile()), [](Livello l) { return l == Livello::Quote; }));
+  EXPECT_EQ(tela.Mostrato().linee.size(), 102u);
+  QTest::keyClick(&tela, Qt::Key_2);
+  Comanda("ricarica");
+  EXPECT_FALSE(colori(quota)) << "read again, still hidden";
+  EXPECT_EQ(tela.Visibile().scritte.size(), 9u) << "title and properties, no values of dimensions";
+  EXPECT_TRUE(tela.Visibile().linee.empty() && tela.Visibile().archi.empty());
+  QTest::keyClick(&tela, Qt::Key_0);
+  EXPECT_TRUE(colori(contorno) && colori(quota));
+}
+
+TEST_F(ConFinestra, FondoRicordatoECopiaSuBianco) {
+  Comanda("copia");
+  const QImage copia = QApplication::clipboard()->image();
+  EXPECT_EQ(copia.size(), 2 * tela.size());
+  EXPECT_EQ(copia.pixelColor(3, 3), QColor(Qt::white));
+  QTest::keyClick(&tela, Qt::Key_B);
+  EXPECT_EQ(tela.grab().toImage().pixelColor(3, 3), QColor(Qt::white));
+  const Finestra altra(false);
+  EXPECT_TRUE(altra.findChild<QAction*>("fondo")->isChecked());
+  QTest::keyClick(&tela, Qt::Key_B);
+}
+
+TEST_F(ConFinestra, TabellaCopiata) {
+  Comanda("tabella");
+  EXPECT_EQ(QApplication::clipboard()->text(),
+            "ZG\t600\nYG\t-61."
+            "27\nAn\t60917\nAtz\t52633\nAty\t26402\nJzg\t307923297\nJyg\t5212229845\nJt\t700779138\n");
+  EXPECT_EQ(Detto("conferma"), "Copiate 8 righe di tabella.");
+  Rotella(1, {100, 100});
+  EXPECT_EQ(Detto("conferma"), "") << "said until the next action";
+  const auto righe = [](const char* nome, const char* decimale) {
+    return RigheTabella(prove::Letto(prove::Leggi(prove::kDati + nome)), decimale);
+  };
+  EXPECT_EQ(righe("/sezione-virgola.dis", ",")[1], "YG\t-61,27");
+  EXPECT_EQ(righe("/sezione-virgola.dis", ".")[1], "YG\t-61.27");
+  EXPECT_EQ(righe("/misto.dis", "."), QStringList({"Città <&\"> così", "obliqua", "giù  qui"}));
+}
+
+TEST_F(ConFinestra, FileTrascinati) {
+  const QString altro = QString::fromStdString(prove::kDati + "/misto.dis");
+  const auto lascia = [&](const QList<QUrl>& indirizzi) {
+    QMimeData dati;
+    dati.setUrls(indirizzi);
+    QDragEnterEvent entra({50, 50}, Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&finestra, &entra);
+    ASSERT_TRUE(entra.isAccepted());
+    QDropEvent evento({50, 50}, Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&finestra, &evento);
+  };
+  lascia({QUrl::fromLocalFile(altro), QUrl::fromLocalFile(QString::fromStdString(file))});
+  EXPECT_TRUE(Mostra("Città"));
+  EXPECT_EQ(Detto("conferma"), "Di 2 file si apre il primo: misto.dis");
+  lascia({QUrl("https://esempio.it/sezione.dis")});
+  EXPECT_EQ(Avviso(), "Si aprono soltanto disegni che sono file di questo computer");
+  lascia({QUrl::fromLocalFile(cartella.path())});
+  EXPECT_TRUE(Avviso().endsWith("non è un file di disegno"));
+  EXPECT_TRUE(Mostra("Città"));
+}
+
+TEST_F(ConFinestra, Recenti) {
+  for (int i = 0; i < 9; ++i) {
+    const std::string copia = cartella.filePath(QString("%1.dis").arg(i)).toStdString();
+    prove::Scrivi(copia, ritoccato);
+    finestra.Apri(QString::fromStdString(copia));
+  }
+  finestra.Apri(cartella.filePath("3.dis"));
+  finestra.Apri(cartella.filePath("manca.dis"));
+  QStringList nomi;
+  for (const QString& percorso : ostrel::Recenti()) nomi << percorso.section('/', -1).chopped(4);
+  EXPECT_EQ(nomi.join(""), "38765421");
+
+  std::filesystem::remove(cartella.filePath("8.dis").toStdString());
+  finestra.ApriRecente(cartella.filePath("7.dis"));
+  finestra.ApriRecente(cartella.filePath("8.dis"));
+  EXPECT_TRUE(Avviso().endsWith("8.dis: il disegno non esiste più; tolto dai recenti"));
+  EXPECT_TRUE(Mostra("SEZIONE U_PO_002 - 7.dis"));
+  EXPECT_EQ(ostrel::Recenti().size(), 7);
+  QTest::keyClick(&tela, Qt::Key_Escape);
+  EXPECT_EQ(Avviso(), "");
+}
+
+}  // namespace
+}  // namespace ostrel

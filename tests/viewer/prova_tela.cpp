@@ -1,0 +1,149 @@
+// Views and tools: how one comes to a view and back, what a pointer means, what is measured.
+#include <array>
+#include <cmath>
+
+#include "tests/viewer/con_finestra.h"
+
+namespace ostrel {
+namespace {
+
+using prove::ConFinestra;
+
+TEST_F(ConFinestra, LAdattatoRestaAdattatoConAltroIngombro) {
+  const double scala = tela.VistaCorrente().scala;
+  std::string alto = prove::kEsempio;
+  prove::Scrivi(file, alto.replace(alto.find(" 970.5 -515 "), 12, " 970.5 -2515 "));
+  Comanda("ricarica");
+  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+  EXPECT_LT(tela.VistaCorrente().scala, scala);
+  finestra.resize(700, 600);
+  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+}
+
+// Turns of the wheel in a row are one view left, each drag is one; a fitted view comes back fitted.
+TEST_F(ConFinestra, VistePrecedentiESuccessive) {
+  const QPoint dove(300, 200);
+  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
+  for (int i = 0; i < 3; ++i) Rotella(1, dove);
+  const Vista ingrandita = tela.VistaCorrente();
+  Trascina(dove, {350, 220});
+  Trascina(dove, {350, 220});
+  QTest::keyClick(&tela, Qt::Key_Backspace);
+  QTest::keyClick(&tela, Qt::Key_Backspace);
+  EXPECT_EQ(tela.VistaCorrente(), ingrandita);
+  QTest::keyClick(&tela, Qt::Key_Backspace);
+  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
+  finestra.resize(700, 600);
+  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+  QTest::keyClick(&tela, Qt::Key_Backspace, Qt::ShiftModifier);
+  EXPECT_EQ(tela.VistaCorrente(), ingrandita);
+
+  // From here another way: what lay ahead is gone. Another drawing has no views before it.
+  QTest::keyClick(&tela, Qt::Key_Plus);
+  EXPECT_FALSE(finestra.findChild<QAction*>("successiva")->isEnabled());
+  finestra.Apri(QString::fromStdString(file));
+  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
+}
+
+TEST_F(ConFinestra, TastiERettangoloEntroILimiti) {
+  const Vista prima = tela.VistaCorrente();
+  const QPointF centro = QRectF(tela.rect()).center();
+  QTest::keyClick(&tela, Qt::Key_Right);
+  EXPECT_NEAR(tela.VistaCorrente().x - prima.x, std::round(tela.width() / 10.0) / prima.scala, 1e-9);
+  QTest::keyClick(&tela, Qt::Key_Down);
+  EXPECT_NEAR(prima.y - tela.VistaCorrente().y, std::round(tela.height() / 10.0) / prima.scala, 1e-9);
+  QTest::keyClick(&tela, Qt::Key_Home);
+  EXPECT_EQ(tela.VistaCorrente(), prima);
+
+  const auto zoom = [&](auto gesto) {
+    Comanda("adatta");
+    gesto();
+    EXPECT_LT(QLineF(tela.VistaCorrente().Da(centro), prima.Da(QPointF(340, 180))).length(), 1e-9);
+    EXPECT_NEAR(tela.VistaCorrente().scala / prima.scala, VistaIntera({0, 0, 80, 60}, tela.rect()).scala,
+                1e-6);
+    EXPECT_EQ(tela.InUso(), Strumento::Mano);
+  };
+  zoom([&] { Trascina({300, 150}, {380, 210}, Qt::ShiftModifier); });
+  zoom([&] {
+    QTest::keyClick(&tela, Qt::Key_Z);
+    QTest::mouseClick(&tela, Qt::LeftButton, {}, {380, 150});
+    Muovi({300, 210});
+    QTest::mouseClick(&tela, Qt::LeftButton, {}, {300, 210});
+  });
+  Trascina({300, 150}, {302, 151}, Qt::ShiftModifier);
+  EXPECT_LT(tela.VistaCorrente().scala, 20 * prima.scala) << "a trembling hand";
+
+  for (int i = 0; i < 30; ++i) Trascina({300, 150}, {330, 150}, Qt::ShiftModifier);
+  const double massima = tela.VistaCorrente().scala;
+  for (int i = 0; i < 30; ++i) QTest::keyClick(&tela, Qt::Key_Plus);
+  EXPECT_EQ(tela.VistaCorrente().scala, massima);
+  EXPECT_LT(massima, prima.scala * 1e4);
+  for (int i = 0; i < 60; ++i) QTest::keyClick(&tela, Qt::Key_Minus);
+  EXPECT_GT(tela.VistaCorrente().scala, prima.scala * 1e-3);
+}
+
+TEST(Aggancio, IlPostoPiuVicino) {
+  Disegno d;
+  d.coordinate = {{0, 0}, {10, 0}, {10.01, 0}, {10.01, 5}, {5, -2}, {5, 2}, {20, 0}, {22, 0}, {20, 2}};
+  d.linee = {{0, 1}, {2, 3}, {4, 5}};
+  d.archi = {{6, 7, 8}};
+  const struct {
+    Coordinata vicino;
+    double raggio;
+    std::optional<Coordinata> dove;
+    Appiglio genere = Appiglio::Estremo;
+  } casi[] = {
+      {{10.003, 0.001}, 1, {{10, 0}}},
+      {{10.008, 0.001}, 1, {{10.01, 0}}},
+      {{10.008, 0.001}, 1e-3, std::nullopt},
+      {{5.2, 0.1}, 0.5, {{5, 0}}, Appiglio::Incrocio},
+      {{5.2, 0.1}, 3, {{5, 0}}, Appiglio::Incrocio},
+      {{5, 1.2}, 2, {{5, 2}}},  // where the crossing is farther
+      {{5, 0.9}, 2, {{5, 2}}},  // and where it is hardly nearer
+      {{20.1, 0.2}, 1, {{20, 0}}, Appiglio::Centro},
+      {{22.1, 0.2}, 1, {{22, 0}}},
+      {{15, 0.2}, 1, std::nullopt},
+  };
+  for (const auto& c : casi) {
+    const auto aggancio = Aggancia(d, c.vicino, c.raggio);
+    ASSERT_EQ(aggancio.has_value(), c.dove.has_value()) << c.vicino.x << ' ' << c.raggio;
+    if (!aggancio) continue;
+    EXPECT_NEAR(aggancio->dove.x, c.dove->x, 1e-12) << c.vicino.x << ' ' << c.vicino.y;
+    EXPECT_NEAR(aggancio->dove.y, c.dove->y, 1e-12) << c.vicino.x << ' ' << c.vicino.y;
+    EXPECT_EQ(aggancio->genere, c.genere) << c.vicino.x << ' ' << c.vicino.y;
+  }
+}
+
+TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
+  QTest::keyClick(&tela, Qt::Key_M);
+  Indica(1.5, 2);
+  EXPECT_EQ(tela.Misura(), "") << "a place measured from itself";
+
+  tela.NominaUnita("cm");
+  Rotella(40, Sullo(328, -186));
+  Indica(329.5, -185);
+  const QString misura = "Distanza = 377.8826 cm\nΔX = 329.5 cm\nΔY = -185 cm\nAngolo = -29.31°";
+  EXPECT_EQ(tela.Misura(), misura);
+  Muovi({10, 10});
+  Trascina({300, 300}, {350, 320});
+  EXPECT_EQ(tela.Misura(), misura) << "panning is no pointing";
+  prove::Scrivi(file, ritoccato);
+  Comanda("ricarica");
+  EXPECT_EQ(tela.Misura(), misura);
+
+  // With keys alone; what is hidden holds nothing.
+  QTest::keyClick(&tela, Qt::Key_F);
+  QTest::keyClick(&tela, Qt::Key_1);
+  Muovi(Sullo(329.5, -185));
+  QTest::keyClick(&tela, Qt::Key_Return);
+  QTest::keyClick(&tela, Qt::Key_Left, Qt::ShiftModifier);
+  QTest::keyClick(&tela, Qt::Key_Enter);
+  EXPECT_TRUE(tela.Misura().endsWith("ΔY = 0 cm\nAngolo = 180.00°")) << tela.Misura().toStdString();
+  QTest::keyClick(&tela, Qt::Key_Escape);
+  EXPECT_EQ(tela.InUso(), Strumento::Mano);
+  EXPECT_FALSE(finestra.findChild<QAction*>("misura")->isChecked());
+  EXPECT_EQ(tela.Misura(), "");
+}
+
+}  // namespace
+}  // namespace ostrel
