@@ -28,6 +28,7 @@ constexpr std::array kGesti = std::to_array<Gesto>({
     {"Frecce, con uno strumento in uso", "Muovono il puntatore; con Shift di un solo pixel"},
     {"Invio o clic, con uno strumento in uso", "Indica il punto sotto il puntatore"},
     {"Esc", "Lascia lo strumento in uso; toglie l'avviso"},
+    {"1, 2, 3", "Quello che è nascosto non va né sulla carta né nei file esportati"},
     {"Trascinare un file sulla finestra", "Lo apre; di più file, il primo"},
 });
 

@@ -59,9 +59,7 @@ void Scrivi(QPainter& pittore, const QString& testo, QPointF dove, double altezz
 }  // namespace
 
 QString Titolo(const Disegno& disegno) {
-  if (disegno.scritte.empty()) return {};
-  return QString::fromStdString(tarvel::InUtf8(disegno.scritte.front().testo.substr(0, kMassimoTitolo)))
-      .simplified();
+  return QString::fromStdString(tarvel::InUtf8(disegno.titolo.substr(0, kMassimoTitolo))).simplified();
 }
 
 Cartiglio Intesta(const Disegno& disegno, const Resa& resa, const Foglio& foglio, const Origine& origine) {

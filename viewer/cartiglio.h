@@ -19,7 +19,7 @@ struct Cartiglio {
   QString titolo, scala, unita, data, file;
 };
 
-/// The drawing's first text is its title; empty without one.
+/// The drawing's title, as far as it can be read at a glance; empty without one.
 QString Titolo(const Disegno& disegno);
 
 /// `foglio` as composed with `resa`.

@@ -155,7 +155,7 @@ Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, Q
 }
 
 Esito NienteDa(const char* cosa) {
-  return {QString("Non c'è niente da %1: il disegno è vuoto.").arg(cosa), {}};
+  return {QString("Non c'è niente da %1: il disegno è vuoto o tutto nascosto.").arg(cosa), {}};
 }
 
 }  // namespace

@@ -47,12 +47,12 @@ class DialogoCarta : public QDialog {
   std::optional<QString> Difetto() const;
 
   const Disegno& disegno_;
-  AnteprimaFoglio* anteprima_;
-  QComboBox* unita_;
-  QComboBox* scala_;
-  QComboBox* carta_;
-  QComboBox* orientamento_;
-  QLabel* nota_;
+  AnteprimaFoglio* anteprima_ = nullptr;
+  QComboBox* unita_ = nullptr;
+  QComboBox* scala_ = nullptr;
+  QComboBox* carta_ = nullptr;
+  QComboBox* orientamento_ = nullptr;
+  QLabel* nota_ = nullptr;
 };
 
 }  // namespace ostrel

@@ -46,6 +46,7 @@ struct Disegno {
   std::vector<Linea> linee;
   std::vector<Scritta> scritte;
   std::vector<Arco> archi;
+  tarvel::Testo titolo;  // the first text, also where texts are taken out
   /// Lines and arcs one of whose points found no room in the table of the program that drew them.
   int saltati = 0;
   /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers

@@ -14,6 +14,7 @@
 #include <cmath>
 
 #include "viewer/caricamento.h"
+#include "viewer/cartiglio.h"
 #include "viewer/comandi_carta.h"
 #include "viewer/recenti.h"
 #include "viewer/tela.h"
@@ -21,7 +22,6 @@
 namespace ostrel {
 namespace {
 
-constexpr int kMassimoTitolo = 80;
 constexpr std::array kNomiLivelli = {"contorno", "quote", "testi"};
 
 // Hundredths as far as they can be read at a glance.
@@ -157,12 +157,9 @@ void Finestra::Conferma(const QString& testo) {
   conferma_->setVisible(!testo.isEmpty());
 }
 
-// The drawing's first text is its title.
 void Finestra::Intitola() {
-  const Disegno& d = tela_->Mostrato();
-  QStringList parti;
-  if (!d.scritte.empty())
-    parti << QString::fromStdString(tarvel::InUtf8(d.scritte.front().testo.substr(0, kMassimoTitolo)));
+  QStringList parti = {Titolo(tela_->Mostrato())};
+  parti.removeAll(QString());
   if (!percorso_.isEmpty()) parti << QFileInfo(percorso_).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
@@ -197,12 +194,13 @@ void Finestra::ScegliFile() {
   if (!scelto.isEmpty()) Apri(scelto);
 }
 
+// What is hidden goes neither to paper nor into files: the status line says what is.
 void Finestra::EsportaFile() {
-  Riferisci(EsportaDaFinestra(tela_->Mostrato(), percorso_, this));
+  Riferisci(EsportaDaFinestra(tela_->Visibile(), percorso_, this));
 }
 
 void Finestra::StampaDisegno() {
-  Riferisci(StampaDaFinestra(tela_->Mostrato(), percorso_, this));
+  Riferisci(StampaDaFinestra(tela_->Visibile(), percorso_, this));
 }
 
 // An order taken back says nothing, and leaves what was said before.

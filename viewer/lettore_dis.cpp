@@ -216,6 +216,7 @@ Disegno LeggiTutto(Lettore& file) {
   while (!file.Finito())
     if (!tarvel::SenzaBlanchi(file.Riga("la fine del disegno")).empty()) file.Rifiuta();
   Riduci(d);
+  if (!d.scritte.empty()) d.titolo = d.scritte.front().testo;
   return d;
 }
 

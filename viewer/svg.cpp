@@ -244,8 +244,8 @@ QByteArray ScriviSvg(const Disegno& disegno) {
   xml.writeAttribute("viewBox", Posto(f, angolo) + ' ' + larghezza + ' ' + altezza);
   xml.writeAttribute("stroke-width", Lungo(f, f.penna));
   xml.writeAttribute("font-family", kCarattere);
-  if (!disegno.scritte.empty())
-    xml.writeTextElement("title", QString::fromStdString(tarvel::InUtf8(disegno.scritte.front().testo)));
+  if (!disegno.titolo.empty())
+    xml.writeTextElement("title", QString::fromStdString(tarvel::InUtf8(disegno.titolo)));
   xml.writeEmptyElement("rect");
   Attributi(svg, "x", "y", angolo);
   xml.writeAttribute("width", larghezza);
