@@ -35,8 +35,8 @@ QStringList NomiUnita() {
 }
 
 Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione) {
-  QMessageBox domanda(QMessageBox::Warning, "Scala del disegno", obiezione.testo,
-                      QMessageBox::NoButton, genitore);
+  QMessageBox domanda(QMessageBox::Warning, "Scala del disegno", obiezione.testo, QMessageBox::NoButton,
+                      genitore);
   const QAbstractButton* altra = nullptr;
   const QAbstractButton* comunque = nullptr;
   if (obiezione.ciSta > 0)

@@ -17,7 +17,6 @@
 #include "viewer/dxf.h"
 #include "viewer/misure.h"
 #include "viewer/pittura.h"
-#include "viewer/stampa.h"
 #include "viewer/svg.h"
 
 namespace ostrel {
@@ -59,7 +58,8 @@ Motivo ScriviSvgSu(const Disegno& disegno, const Resa&, const Origine&, QIODevic
 }
 
 Motivo ScriviPdfSu(const Disegno& disegno, const Resa& resa, const Origine& origine, QIODevice& uscita) {
-  return SeManca(ScriviPdf(disegno, resa, origine, uscita));
+  const Tavola tavola{&disegno, origine};
+  return SeManca(ScriviPdf({&tavola, 1}, resa, uscita));
 }
 
 Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, const Origine&, QIODevice& uscita) {
@@ -157,6 +157,17 @@ Motivo ScriviFile(const QString& percorso, const QByteArray& byte) {
   }
 }
 
+// `scrivi` gives the bytes, or the reason why it cannot.
+template <class Scrivi>
+std::optional<QString> Riferisci(const QString& percorso, Scrivi scrivi) {
+  QBuffer byte;
+  byte.open(QIODevice::WriteOnly);
+  Motivo motivo = scrivi(byte);
+  if (!motivo) motivo = ScriviFile(percorso, byte.data());
+  if (!motivo) return std::nullopt;
+  return QString("Problemi con la scrittura del file %1: %2").arg(percorso, *motivo);
+}
+
 }  // namespace
 
 QStringList FinaliEsportazione() {
@@ -180,13 +191,15 @@ std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, 
   const auto* const genere = CercaGenere(FinaleDi(percorso));
   if (genere == kGeneri.end()) return QString("File %1: si esporta in .png, .svg, .pdf o .dxf").arg(percorso);
 
-  QBuffer byte;
-  byte.open(QIODevice::WriteOnly);
-  Motivo motivo = "non c'è niente da disegnare";
-  if (!Ingombro(disegno).Vuoto()) motivo = genere->scrivi(disegno, resa, origine, byte);
-  if (!motivo) motivo = ScriviFile(percorso, byte.data());
-  if (!motivo) return std::nullopt;
-  return QString("Problemi con la scrittura del file %1: %2").arg(percorso, *motivo);
+  return Riferisci(percorso, [&](QIODevice& byte) -> Motivo {
+    if (Ingombro(disegno).Vuoto()) return "non c'è niente da disegnare";
+    return genere->scrivi(disegno, resa, origine, byte);
+  });
+}
+
+std::optional<QString> EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso,
+                                        const Resa& resa) {
+  return Riferisci(percorso, [&](QIODevice& byte) { return SeManca(ScriviPdf(tavole, resa, byte)); });
 }
 
 }  // namespace ostrel

@@ -4,10 +4,11 @@
 #include <QString>
 #include <QStringList>
 #include <optional>
+#include <span>
 
-#include "viewer/cartiglio.h"
 #include "viewer/disegno.h"
 #include "viewer/scala.h"
+#include "viewer/stampa.h"
 
 namespace ostrel {
 
@@ -22,5 +23,9 @@ QString FinaleDi(const QString& percorso);
 /// success, otherwise an Italian message; an existing file is then as it was.
 [[nodiscard]] std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso,
                                              const Resa& resa = {}, const Origine& origine = {});
+
+/// One PDF document, a page for each drawing; none of them may be empty.
+[[nodiscard]] std::optional<QString> EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso,
+                                                      const Resa& resa);
 
 }  // namespace ostrel

@@ -11,6 +11,7 @@
 #include "platform/qt/schermo.h"
 #include "viewer/avvio.h"
 #include "viewer/finestra.h"
+#include "viewer/italiano.h"
 #include "viewer/riga_comando.h"
 #include "viewer/senza_finestra.h"
 
@@ -74,6 +75,7 @@ int Esegui(int argc, char** argv) {
     tarvel::PreparaFlussi();
   }
   const auto applicazione = tarvel::ApreSchermo(argc, argv);
+  ParlaItaliano(*applicazione);
   return esporta ? EsportaTutti(richieste) : MostraInFinestra(richieste);
 }
 

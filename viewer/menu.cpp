@@ -173,7 +173,7 @@ void Finestra::CreaMenuStrumenti() {
 }
 
 void Finestra::CopiaTabella() {
-  const QStringList righe = RigheTabella(tela_->Mostrato(), QLocale().decimalPoint());
+  const QStringList righe = RigheTabella(tela_->Mostrato(), QLocale::system().decimalPoint());
   if (righe.isEmpty()) return Conferma("Il disegno non ha testi da copiare.");
   QApplication::clipboard()->setText(righe.join('\n') + '\n');
   Conferma(righe.size() == 1 ? "Copiata una riga di tabella."

@@ -22,7 +22,7 @@ void AggiungiRecente(const QString& percorso) {
   QStringList recenti = Recenti();
   recenti.removeAll(assoluto);
   recenti.prepend(assoluto);
-  Ricorda(kChiave, recenti.mid(0, kMassimiRecenti));
+  Ricorda(kChiave, recenti);
 }
 
 void TogliRecente(const QString& percorso) {

@@ -13,12 +13,14 @@ const char* const kAiuto = R"(ostrel - mostra, stampa ed esporta i disegni delle
 
 uso:  ostrel [--senza-sorveglianza] [DISEGNO]
       ostrel --esporta FILE [OPZIONE]... DISEGNO
+      ostrel --esporta FILE.pdf [OPZIONE]... DISEGNO...
       ostrel --esporta CARTELLA --tipo TIPO [OPZIONE]... DISEGNO...
 
 Mostra un DISEGNO (.dis) in una finestra; senza, quello nominato da "ostrel.inp", nella cartella corrente o in
 quella del programma. Con --esporta non apre finestre e non ha bisogno di uno schermo.
 
   --esporta FILE         scrive il disegno in un file .png, .svg, .pdf o .dxf; un file che c'è è sostituito
+  --esporta FILE.pdf     con più disegni: un solo documento, una pagina per disegno
   --esporta CARTELLA     scrive ogni disegno nella cartella, che c'è già, col nome del disegno e il tipo chiesto
   --tipo TIPO            png, svg, pdf o dxf
   --unita UNITÀ          mm, cm o m: in che unità è il disegno (PDF e DXF); il file del disegno non lo dice
@@ -41,7 +43,8 @@ esempi:
   ostrel ponte.dis
   ostrel --esporta ponte.png ponte.dis
   ostrel --esporta ponte.pdf --unita cm --scala 1:50 --carta A3 ponte.dis
-  ostrel --esporta tavole --tipo pdf --unita cm --scala 1:100 Lavori/PR0001/*.dis
+  ostrel --esporta tavole.pdf --unita cm --scala 1:100 Lavori/PR0001/*.dis
+  ostrel --esporta tavole --tipo dxf --unita cm Lavori/PR0001/*.dis
 )";
 
 namespace {
@@ -132,12 +135,12 @@ Errore Controlla(const Lettura& l) {
   const bool cartella = QFileInfo(r.esporta).isDir();
   if (r.tipo.isEmpty() && cartella)
     return QString("%1 è una cartella: ci vuole --tipo png, svg, pdf o dxf").arg(r.esporta);
-  if (r.tipo.isEmpty() && r.disegni.size() > 1)
-    return "più disegni si esportano in una cartella, con --esporta CARTELLA --tipo TIPO";
   if (!r.tipo.isEmpty() && !cartella)
     return QString("la cartella %1 non esiste; --tipo la vuole").arg(r.esporta);
   const QString finale = r.tipo.isEmpty() ? FinaleDi(r.esporta) : r.tipo;
   if (finale.isEmpty()) return QString("file %1: si esporta in .png, .svg, .pdf o .dxf").arg(r.esporta);
+  if (r.tipo.isEmpty() && finale != "pdf" && r.disegni.size() > 1)
+    return "più disegni si esportano in un PDF, o in una cartella con --esporta CARTELLA --tipo TIPO";
   if (finale != "pdf")
     if (auto errore = FuoriPosto(l.dette, kDellaCarta, "per il PDF")) return errore;
   if (finale != "pdf" && finale != "dxf" && l.dette.contains("--unita"))

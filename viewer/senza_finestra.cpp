@@ -4,10 +4,14 @@
 #include <QFileInfo>
 #include <QHash>
 #include <cstdio>
+#include <iterator>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "viewer/caricamento.h"
 #include "viewer/esporta.h"
+#include "viewer/misure.h"
 
 namespace ostrel {
 namespace {
@@ -30,17 +34,51 @@ std::optional<QString> StessoFile(const Richieste& r) {
   return std::nullopt;
 }
 
-// What is wrong; nothing where the file is written.
-std::optional<QString> EsportaUno(const Richieste& r, const QString& disegno) {
-  const Caricato caricato = CaricaAttendendo(disegno.toStdString());
+using Errore = std::optional<QString>;
+
+// What is wrong with it; nothing where it can be written.
+Errore Leggi(const Richieste& r, const QString& file, Disegno& disegno) {
+  Caricato caricato = CaricaAttendendo(file.toStdString());
   if (!caricato.disegno) return QString::fromStdString(caricato.messaggio);
-  const QString uscita = Destinazione(r, disegno);
-  if (FinaleDi(uscita) == "pdf")
-    if (const auto obiezione = Esamina(*caricato.disegno, r.resa, Pagina(*caricato.disegno, r.resa));
-        obiezione && (obiezione->assurda || !r.comunque))
-      return QString("File %1: %2%3")
-          .arg(disegno, obiezione->testo, obiezione->assurda ? "" : " Con --comunque si scrive lo stesso.");
-  return Esporta(*caricato.disegno, uscita, r.resa, {disegno});
+  disegno = std::move(*caricato.disegno);
+  if (Ingombro(disegno).Vuoto()) return QString("File %1: non c'è niente da disegnare").arg(file);
+  if (FinaleDi(Destinazione(r, file)) != "pdf") return std::nullopt;
+  const auto obiezione = Esamina(disegno, r.resa, Pagina(disegno, r.resa));
+  if (!obiezione || (r.comunque && !obiezione->assurda)) return std::nullopt;
+  return QString("File %1: %2%3")
+      .arg(file, obiezione->testo, obiezione->assurda ? "" : " Con --comunque si scrive lo stesso.");
+}
+
+// Each into its own file; how many could not be.
+qsizetype EsportaOgnuno(const Richieste& r) {
+  qsizetype falliti = 0;
+  for (const QString& file : r.disegni) {
+    Disegno disegno;
+    Errore errore = Leggi(r, file, disegno);
+    if (!errore) errore = Esporta(disegno, Destinazione(r, file), r.resa, {file});
+    if (!errore) continue;
+    Dice(*errore);
+    ++falliti;
+  }
+  return falliti;
+}
+
+qsizetype EsportaInsieme(const Richieste& r) {
+  std::vector<Disegno> disegni(static_cast<std::size_t>(r.disegni.size()));
+  std::vector<Tavola> tavole;
+  for (std::size_t i = 0; i < disegni.size(); ++i) {
+    const QString& file = r.disegni[static_cast<qsizetype>(i)];
+    if (const Errore errore = Leggi(r, file, disegni[i]))
+      Dice(*errore);
+    else
+      tavole.push_back({&disegni[i], {file}});
+  }
+  if (!tavole.empty())
+    if (const Errore errore = EsportaFascicolo(tavole, r.esporta, r.resa)) {
+      Dice(*errore);
+      tavole.clear();
+    }
+  return std::ssize(disegni) - std::ssize(tavole);
 }
 
 }  // namespace
@@ -50,16 +88,12 @@ void Dice(const QString& testo) {
 }
 
 int EsportaTutti(const Richieste& richieste) {
-  if (const auto doppio = StessoFile(richieste)) {
+  const bool insieme = richieste.tipo.isEmpty() && richieste.disegni.size() > 1;
+  if (const Errore doppio = insieme ? std::nullopt : StessoFile(richieste)) {
     Dice(*doppio);
     return 2;
   }
-  int falliti = 0;
-  for (const QString& disegno : richieste.disegni)
-    if (const auto errore = EsportaUno(richieste, disegno)) {
-      Dice(*errore);
-      ++falliti;
-    }
+  const qsizetype falliti = insieme ? EsportaInsieme(richieste) : EsportaOgnuno(richieste);
   if (richieste.disegni.size() > 1 && falliti > 0)
     Dice(QString("%1 su %2 non esportati").arg(falliti).arg(richieste.disegni.size()));
   return falliti > 0 ? 1 : 0;

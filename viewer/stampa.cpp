@@ -15,14 +15,15 @@ constexpr double kMillimetriPollice = 25.4;
 constexpr int kRisoluzionePdf = 1200;
 constexpr char kCreatore[] = "ostrel";
 
-bool DipingiSu(QPagedPaintDevice& carta, const Disegno& disegno, const Resa& resa, const Origine& origine) {
-  QPainter pittore;
-  if (!pittore.begin(&carta)) return false;
+void DipingiPagina(QPainter& pittore, const QPagedPaintDevice& carta, const Tavola& tavola,
+                   const Resa& resa) {
   const double orizzontali = carta.logicalDpiX(), verticali = carta.logicalDpiY();
+  pittore.save();
   // Some printers have finer dots one way than the other.
   if (orizzontali != verticali) pittore.scale(1, verticali / orizzontali);
-  DipingiFoglio(pittore, disegno, resa, origine, carta.pageLayout(), orizzontali / kMillimetriPollice);
-  return pittore.end();
+  DipingiFoglio(pittore, *tavola.disegno, resa, tavola.origine, carta.pageLayout(),
+                orizzontali / kMillimetriPollice);
+  pittore.restore();
 }
 
 }  // namespace
@@ -45,17 +46,26 @@ void DipingiFoglio(QPainter& pittore, const Disegno& disegno, const Resa& resa, 
   DipingiCartiglio(pittore, Intesta(disegno, resa, foglio, origine), inUnita(foglio.cartiglio));
 }
 
-bool ScriviPdf(const Disegno& disegno, const Resa& resa, const Origine& origine, QIODevice& uscita) {
+bool ScriviPdf(std::span<const Tavola> tavole, const Resa& resa, QIODevice& uscita) {
   QPdfWriter pdf(&uscita);
   pdf.setCreator(kCreatore);
-  pdf.setTitle(Titolo(disegno));
+  if (tavole.size() == 1) pdf.setTitle(Titolo(*tavole.front().disegno));
   pdf.setResolution(kRisoluzionePdf);
-  pdf.setPageLayout(Pagina(disegno, resa));
-  return DipingiSu(pdf, disegno, resa, origine);
+  QPainter pittore;
+  for (const Tavola& tavola : tavole) {
+    // A page is as it was said before it was begun.
+    pdf.setPageLayout(Pagina(*tavola.disegno, resa));
+    if (pittore.isActive() ? !pdf.newPage() : !pittore.begin(&pdf)) return false;
+    DipingiPagina(pittore, pdf, tavola, resa);
+  }
+  return pittore.end();
 }
 
 bool Stampa(const Disegno& disegno, const Resa& resa, const Origine& origine, QPrinter& stampante) {
-  return DipingiSu(stampante, disegno, resa, origine);
+  QPainter pittore;
+  if (!pittore.begin(&stampante)) return false;
+  DipingiPagina(pittore, stampante, {&disegno, origine}, resa);
+  return pittore.end();
 }
 
 }  // namespace ostrel

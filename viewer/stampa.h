@@ -1,7 +1,9 @@
 // Sheets of paper: a printer's and those of a PDF document.
 #pragma once
 
-#include <QByteArray>
+#include <QIODevice>
+#include <QPainter>
+#include <span>
 
 #include "viewer/cartiglio.h"
 #include "viewer/disegno.h"
@@ -17,9 +19,13 @@ namespace ostrel {
 void DipingiFoglio(QPainter& pittore, const Disegno& disegno, const Resa& resa, const Origine& origine,
                    const QPageLayout& pagina, double mm);
 
-/// One page, written to the device. False when it refuses.
-[[nodiscard]] bool ScriviPdf(const Disegno& disegno, const Resa& resa, const Origine& origine,
-                             QIODevice& uscita);
+struct Tavola {
+  const Disegno* disegno;
+  Origine origine;
+};
+
+/// One page a drawing, each turned as suits it. False when the device refuses.
+[[nodiscard]] bool ScriviPdf(std::span<const Tavola> tavole, const Resa& resa, QIODevice& uscita);
 
 /// One page of the paper and turned as the printer is set. False when the printer refuses.
 [[nodiscard]] bool Stampa(const Disegno& disegno, const Resa& resa, const Origine& origine,

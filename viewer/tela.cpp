@@ -64,6 +64,7 @@ void Tela::Inquadra(const Inquadratura& nuova) {
   const Vista vista = adattata_ ? VistaIntera(tutto_, rect()) : nuova.vista;
   if (vista != std::exchange(vista_, vista)) angolo_.reset();
   Ridipingi();
+  if (underMouse()) Segui(puntatore_);
   emit VistaCambiata();
 }
 
@@ -117,6 +118,7 @@ void Tela::Trascina(QPoint passo, std::optional<Gesto> gesto) {
     vecchie_ = (vecchie_.translated(passo) & tutta) | (tutta - rect().translated(passo));
     update();
   }
+  if (underMouse()) Segui(puntatore_);
   emit VistaCambiata();
 }
 

@@ -64,7 +64,9 @@ class Schermo(contextlib.ExitStack):
         with os.fdopen(legge) as capo:
             numero = select.select([capo], [], [], PAZIENZA)[0] and capo.readline().strip()
         assert numero, "Xvfb does not start"
-        self.ambiente = os.environ | {"DISPLAY": ":" + numero, "QT_QPA_PLATFORM": "xcb"}
+        # What the programs remember is not the user's own.
+        self.ambiente = os.environ | {"DISPLAY": ":" + numero, "QT_QPA_PLATFORM": "xcb",
+                                      "XDG_CONFIG_HOME": str(cartella / "config")}
         regole = cartella / "openbox.xml"
         regole.write_text(GESTORE % gestore)
         self.enter_context(programma("openbox", "--sm-disable", "--config-file", regole, env=self.ambiente))

@@ -115,7 +115,8 @@ TEST(Esporta, PdfEStampa) {
     const std::string byte = prove::Leggi(file.toStdString());
     EXPECT_TRUE(byte.starts_with("%PDF-") && byte.ends_with("%%EOF\n")) << file.toStdString();
     EXPECT_EQ(Quante(byte, "/Count 1\n"), 1) << "one page";
-    EXPECT_EQ(Quante(byte, "[0 0 595.000000 842.000000]"), file == stampato ? 1 : 0) << "the printer's own orientation";
+    EXPECT_EQ(Quante(byte, "[0 0 595.000000 842.000000]"), file == stampato ? 1 : 0)
+        << "the printer's own orientation";
   }
 }
 

@@ -31,7 +31,7 @@ problemi manca/s.png 'la cartella non esiste'
 problemi s.dis/s.svg 'la cartella non esiste'
 problemi tubo.svg 'non è un file'
 problemi "$(printf 'x%.0s' {1..300}).pdf" 'il nome è troppo lungo'
-problemi s.svg 'non c'\''è niente da disegnare' vuoto.dis
+prova 1 'vuoto.dis: non c'\''è niente da disegnare' --esporta s.svg vuoto.dis
 [ -w chiusa ] || problemi chiusa/s.svg 'manca il permesso di scrivere'
 echo prima >s.png
 (ulimit -f 1 && problemi s.png 'il file supera la grandezza consentita')
@@ -46,7 +46,7 @@ prova 2 'manca il disegno' --esporta s.pdf
 prova 2 'opzione sconosciuta: --esportare' --esportare
 prova 2 'cartella.svg è una cartella: ci vuole --tipo' --esporta cartella.svg s.dis
 prova 2 'la cartella manca non esiste' --esporta manca --tipo pdf s.dis
-prova 2 'più disegni' --esporta a.pdf s.dis vuoto.dis
+prova 2 'più disegni' --esporta a.svg s.dis vuoto.dis
 prova 2 '--scala vuole anche --unita' --esporta a.pdf --scala 1:50 s.dis
 prova 2 '--scala: una scala, come 1:50' --esporta a.pdf --unita cm --scala=5:1 s.dis
 prova 2 '--unita: mm, cm o m, non "piedi"' --esporta a.pdf --unita piedi s.dis
@@ -65,6 +65,12 @@ prova 2 'andrebbero tutti e due in tavole/S.png' --esporta tavole --tipo png s.d
 [ -z "$(ls tavole)" ]
 prova 1 'ostrel: 2 su 4 non esportati' --esporta=tavole/ --tipo=PDF --unita=cm manca.dis s.dis vuoto.dis -- -t.1.dis
 [ "$(ls tavole)" = $'-t.1.pdf\ns.pdf' ]
+
+# Or as the pages of one document.
+prova 1 'ostrel: 1 su 3 non esportati' --esporta insieme.pdf s.dis vuoto.dis s.dis
+grep -aq '^/Count 2$' insieme.pdf
+prova 1 'vuoto.dis: non' --esporta niente.pdf vuoto.dis vuoto.dis
+[ ! -e niente.pdf ]
 
 "$ostrel" -h >aiuto
 "$ostrel" --aiuto | cmp - aiuto

@@ -120,7 +120,9 @@ TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
   EXPECT_EQ(tela.Misura(), "") << "a place measured from itself";
 
   tela.NominaUnita("cm");
-  Rotella(40, Sullo(328, -186));
+  Rotella(15, Sullo(328, -186));
+  Muovi(Sullo(328, -186));
+  EXPECT_FALSE(tela.Misura().contains("ΔX = 329.5")) << "what is beside the vertex is told from it";
   Indica(329.5, -185);
   const QString misura = "Distanza = 377.8826 cm\nΔX = 329.5 cm\nΔY = -185 cm\nAngolo = -29.31°";
   EXPECT_EQ(tela.Misura(), misura);
