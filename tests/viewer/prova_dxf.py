@@ -42,9 +42,10 @@ def contiene(documento):
 with tempfile.TemporaryDirectory() as cartella:
     def letto(disegno):
         uscita = os.path.join(cartella, "sezione.dxf")
-        subprocess.run([sys.argv[1], "--esporta", uscita, disegno], check=True)
+        subprocess.run([sys.argv[1], "--esporta", uscita, "--unita", "cm", disegno], check=True)
         documento, esame = recover.readfile(uscita)
         assert not esame.errors and not esame.fixes, [e.message for e in esame.errors + esame.fixes]
+        assert documento.header["$INSUNITS"] == ezdxf.units.CM
         contiene(documento)
         return documento, ezdxf.readfile(uscita).modelspace()
 
