@@ -1,4 +1,3 @@
-// The drawing is copied first: it may be read anew while the user is choosing.
 #include "viewer/comandi_carta.h"
 
 #include <QDir>
@@ -54,8 +53,8 @@ QString ScegliUscita(const QString& titolo, const QString& percorso, const QStri
   // Asked here, about the name with its ending.
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {
-    const QString uscita = ConFinale(dialogo.selectedFiles().front(), finali,
-                                     finali[scelto(filtri.indexOf(dialogo.selectedNameFilter()))]);
+    QString uscita = ConFinale(dialogo.selectedFiles().front(), finali,
+                               finali[scelto(filtri.indexOf(dialogo.selectedNameFilter()))]);
     if (!QFileInfo(uscita).isFile() || Sostituire(uscita, finestra)) return uscita;
   }
   return {};
@@ -165,9 +164,8 @@ QString ConFinale(const QString& percorso, const QStringList& finali, const QStr
   return percorso + (percorso.endsWith('.') ? "" : ".") + finale;
 }
 
-Esito EsportaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidget* finestra) {
-  if (Ingombro(mostrato).Vuoto()) return NienteDa("esportare");
-  const Disegno disegno = mostrato;
+Esito EsportaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra) {
+  if (Ingombro(disegno).Vuoto()) return NienteDa("esportare");
   const Origine origine{percorso};
   SceltaResa scelta = ResaRicordata();
   const QString uscita =
@@ -187,9 +185,8 @@ Esito EsportaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidge
   return EsportaIn(uscita, disegno, scelta.resa, origine);
 }
 
-Esito StampaDaFinestra(const Disegno& mostrato, const QString& percorso, QWidget* finestra) {
-  if (Ingombro(mostrato).Vuoto()) return NienteDa("stampare");
-  const Disegno disegno = mostrato;
+Esito StampaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra) {
+  if (Ingombro(disegno).Vuoto()) return NienteDa("stampare");
   const Origine origine{percorso};
   const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();
   SceltaResa scelta = ResaRicordata();

@@ -15,6 +15,8 @@ struct Esito {
   QString conferma;
 };
 
+// The drawing has to stay as it is until they return, whatever the windows they open let happen.
+
 /// Asks for the file and for what its kind needs, and writes it. `percorso`: the drawing's own file.
 Esito EsportaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra);
 

@@ -194,13 +194,14 @@ void Finestra::ScegliFile() {
   if (!scelto.isEmpty()) Apri(scelto);
 }
 
-// What is hidden goes neither to paper nor into files: the status line says what is.
+// What is hidden goes neither to paper nor into files: the status line says what is. Copies, as the drawing
+// may be read anew while the user is choosing.
 void Finestra::EsportaFile() {
-  Riferisci(EsportaDaFinestra(tela_->Visibile(), percorso_, this));
+  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), percorso_, this));
 }
 
 void Finestra::StampaDisegno() {
-  Riferisci(StampaDaFinestra(tela_->Visibile(), percorso_, this));
+  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), percorso_, this));
 }
 
 // An order taken back says nothing, and leaves what was said before.

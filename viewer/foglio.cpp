@@ -92,16 +92,15 @@ QPageLayout PaginaDi(const Sagoma& sagoma, const Resa& resa) {
   return scala(ritta) > scala(distesa) ? ritta : distesa;
 }
 
-// 1, 2, 2.5, 5 and their tenfolds: the usual ones and those beyond.
 double ScalaCheCiSta(const Sagoma& sagoma, Resa resa, const QPageLayout& pagina) {
+  constexpr double kTonde[] = {1,   2,     5,   10,   20,   25,    50,   100,
+                               200, 250,   500, 1000, 2000, 2500,  5000, 1e4,
+                               2e4, 2.5e4, 5e4, 1e5,  2e5,  2.5e5, 5e5,  kMassimoRapporto};
   const double chiesto = resa.rapporto;
-  for (double decade = 1; decade <= kMassimoRapporto; decade *= 10)
-    for (const double passo : {1.0, 2.0, 2.5, 5.0}) {
-      resa.rapporto = passo * decade;
-      if (resa.rapporto > chiesto && resa.rapporto <= kMassimoRapporto && resa.rapporto != 2.5 &&
-          CiSta(sagoma, resa, pagina))
-        return resa.rapporto;
-    }
+  for (const double rapporto : kTonde) {
+    resa.rapporto = rapporto;
+    if (rapporto > chiesto && CiSta(sagoma, resa, pagina)) return rapporto;
+  }
   return 0;
 }
 

@@ -19,7 +19,7 @@ uso:  ostrel [--senza-sorveglianza] [DISEGNO]
 Mostra un DISEGNO (.dis) in una finestra; senza, quello nominato da "ostrel.inp", nella cartella corrente o in
 quella del programma. Con --esporta non apre finestre e non ha bisogno di uno schermo.
 
-  --esporta FILE         scrive il disegno in un file .png, .svg, .pdf o .dxf; un file che c'è è sostituito
+  --esporta FILE         scrive il disegno in un file .png, .svg, .pdf o .dxf; un file che c'è già è sostituito
   --esporta FILE.pdf     con più disegni: un solo documento, una pagina per disegno
   --esporta CARTELLA     scrive ogni disegno nella cartella, che c'è già, col nome del disegno e il tipo chiesto
   --tipo TIPO            png, svg, pdf o dxf

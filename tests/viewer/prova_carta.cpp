@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "tests/viewer/aiuti_viewer.h"
+#include "tests/viewer/con_finestra.h"
 #include "viewer/comandi_carta.h"
 #include "viewer/dialogo_carta.h"
 #include "viewer/esporta.h"
@@ -20,6 +21,8 @@
 
 namespace ostrel {
 namespace {
+
+using prove::ConFinestra;
 
 // A user who answers each window as it appears, in this order.
 class Utente : public QObject {
@@ -200,6 +203,19 @@ TEST(ComandiCarta, EsportaChiedeERicorda) {
   EXPECT_TRUE(esporta({scegliDxf, Accetta}).endsWith("ponte.1.dxf"));
   EXPECT_EQ(ResaRicordata().genere, "dxf");
   EXPECT_EQ(ResaRicordata().resa.unita, Unita::Centimetri);
+}
+
+TEST_F(ConFinestra, IlFoglioRestaQuelloDiQuandoSiEChiesto) {
+  const Utente utente({[&](QDialog& dialogo) {
+    const QImage prima = dialogo.grab().toImage();
+    prove::Scrivi(file, prove::kUnoPerGenere);
+    Comanda("ricarica");
+    EXPECT_EQ(tela.Mostrato().linee.size(), 2u);
+    EXPECT_EQ(dialogo.grab().toImage(), prima);
+    dialogo.reject();
+  }});
+  Comanda("stampa");
+  EXPECT_EQ(utente.Restano(), 0u);
 }
 
 }  // namespace
