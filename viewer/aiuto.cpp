@@ -32,7 +32,7 @@ constexpr std::array kGesti = std::to_array<Gesto>({
     {"Trascinare un file sulla finestra", "Lo apre; di più file, il primo"},
 });
 
-QString SenzaMnemonico(QString testo) {
+QString SenzaMnemonico(const QString& testo) {
   return testo.section('\t', 0, 0).remove('&');
 }
 
