@@ -139,6 +139,8 @@ Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, Q
   const auto foglio = ScegliFoglio(pagina.pageSize(), stampante.pageLayout().pageSize(), finestra);
   if (!foglio) return {};
   Prepara(stampante, *foglio, stampante.pageLayout().orientation());
+  if (!foglio->isEquivalentTo(stampante.pageLayout().pageSize()))
+    return {QString("La stampante %1 non ha il foglio %2").arg(stampante.printerName(), foglio->name()), {}};
   // What was well on the sheet of before may not be on that of the printer; a cut already agreed to is not
   // asked about again.
   if (!Esamina(disegno, resa, pagina) && !VaBene(disegno, resa, stampante, finestra)) return {};

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
+#include <QSet>
 #include <cstdio>
 #include <iterator>
 #include <optional>
@@ -21,14 +22,20 @@ QString Destinazione(const Richieste& r, const QString& disegno) {
   return QDir(r.esporta).filePath(QFileInfo(disegno).completeBaseName() + '.' + r.tipo);
 }
 
-// Names that differ by case alone are one file on some systems, and the folder may go there.
-std::optional<QString> StessoFile(const Richieste& r) {
+// Why nothing may be written: a drawing would be lost, or two would be one file. Names that differ by case
+// alone are one file on some systems, and the folder may go there.
+std::optional<QString> Rifiuto(const Richieste& r, bool insieme) {
+  QSet<QString> letti;
+  for (const QString& disegno : r.disegni) letti << QFileInfo(disegno).canonicalFilePath();
+  letti.remove({});
   QHash<QString, QString> visti;
   for (const QString& disegno : r.disegni) {
-    const QString chiave = Destinazione(r, disegno).toCaseFolded();
-    if (visti.contains(chiave))
+    const QString uscita = Destinazione(r, disegno), chiave = uscita.toCaseFolded();
+    if (letti.contains(QFileInfo(uscita).canonicalFilePath()))
+      return QString("%1 è un disegno da leggere, e andrebbe perso: non è scritto niente").arg(uscita);
+    if (visti.contains(chiave) && !insieme)
       return QString("%1 e %2 andrebbero tutti e due in %3: non è scritto niente")
-          .arg(visti[chiave], disegno, Destinazione(r, disegno));
+          .arg(visti[chiave], disegno, uscita);
     visti[chiave] = disegno;
   }
   return std::nullopt;
@@ -89,8 +96,8 @@ void Dice(const QString& testo) {
 
 int EsportaTutti(const Richieste& richieste) {
   const bool insieme = richieste.tipo.isEmpty() && richieste.disegni.size() > 1;
-  if (const Errore doppio = insieme ? std::nullopt : StessoFile(richieste)) {
-    Dice(*doppio);
+  if (const Errore rifiuto = Rifiuto(richieste, insieme)) {
+    Dice(*rifiuto);
     return 2;
   }
   const qsizetype falliti = insieme ? EsportaInsieme(richieste) : EsportaOgnuno(richieste);

@@ -62,7 +62,9 @@ mkdir tavole altri
 cp s.dis altri/S.dis
 cp s.dis -- -t.1.dis
 prova 2 'andrebbero tutti e due in tavole/S.png' --esporta tavole --tipo png s.dis altri/S.dis
-[ -z "$(ls tavole)" ]
+ln altri/S.dis altri/letto.pdf
+prova 2 'è un disegno da leggere' --esporta altri --tipo pdf altri/letto.pdf
+[ -z "$(ls tavole)" ] && cmp s.dis altri/letto.pdf
 prova 1 'ostrel: 2 su 4 non esportati' --esporta=tavole/ --tipo=PDF --unita=cm manca.dis s.dis vuoto.dis -- -t.1.dis
 [ "$(ls tavole)" = $'-t.1.pdf\ns.pdf' ]
 
