@@ -153,8 +153,12 @@ class Prova:
         if campo == "riga":
             return valore if valore in leggi(file, "cp1252").splitlines() else "manca"
         if campo == "lotto":
-            testa, riga = subprocess.run([LOTTO, "--da", file], capture_output=True, text=True).stdout.splitlines()[:2]
-            return dict(zip(testa.split(";"), riga.split(";")))[resto.split(" ")[0]][:len(valore)]
+            detto = subprocess.run([LOTTO, "--punti", "--da", file], capture_output=True, text=True).stdout
+            testa, riga = detto.splitlines()[:2]
+            intero = dict(zip(testa.split(";"), riga.split(";")))[resto.split(" ")[0].replace(".", " ")]
+            cifre, _, potenza = intero.partition("E")
+            attese, _, sua = valore.partition("E")
+            return cifre[:len(attese)] + ("E" + potenza if sua else "")
         lette = sezioni(file)
         if campo == "calcolo":
             voci, = lette.values()
@@ -271,13 +275,16 @@ def rimandi():
 
 
 def messaggi():
-    """What the table of messages begins with is said by a source."""
+    """The messages of the table are said by a source; the keys of the viewer's table are those of its menus."""
     sorgenti = "".join(leggi(os.path.join(radice, n)) for cartella in ("app", "base", "model", "options", "lavoro", "preview",
                                                                        "drawing", "platform", "viewer")
                        for radice, _, nomi in os.walk(os.path.join(QUI, "..", "..", cartella)) for n in nomi
                        if n.endswith((".cpp", ".h")))
     sorgenti = re.sub(r'"_t\b', '"', sorgenti)
     sorgenti = re.sub(r'"\s*\n\s*"', "", sorgenti)
+    menu = leggi(os.path.join(QUI, "..", "..", "viewer", "menu.cpp"))
+    tasti = re.findall(r"`(.)`", leggi(os.path.join(DOCS, "guida-disegno.md")).split("| per | si fa |")[1].split("\n\n")[0])
+    controlla("tasti", "del visualizzatore", [t for t in tasti if f'"{t}"' not in menu] or len(tasti) > 8, True)
     righe = re.findall(r"^\| ([^|]+?) \| .* \|$", leggi(os.path.join(DOCS, "guida-messaggi.md")).split("|---|---|")[1], re.M)
     controlla("messaggi", "righe", len(righe) > 10, True)
     for messaggio in righe:

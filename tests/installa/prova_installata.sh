@@ -38,6 +38,7 @@ cd "$dove/share"
 for file in doc/tarvel1/guida{,-esempio}.md doc/tarvel1/immagini/{finestra.png,punti.svg} icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
   [ -s "$file" ] || { echo "manca $file"; exit 1; }
 done
+! command -v cmark-gfm >/dev/null || [ -s doc/tarvel1/guida-esempio.html ] || { echo "manca la guida per il browser"; exit 1; }
 # What checks them may be missing outside ./check.
 ! command -v xmllint >/dev/null || xmllint --noout icons/hicolor/scalable/apps/*.svg mime/packages/*.xml
 for voce in applications/*.desktop; do
