@@ -204,8 +204,10 @@ void Finestra::StampaDisegno() {
   Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), percorso_, this));
 }
 
-// An order taken back says nothing, and leaves what was said before.
+// An order taken back says nothing, and leaves what was said before. With an order the unit may have been
+// told.
 void Finestra::Riferisci(const Esito& esito) {
+  NominaUnita();
   if (esito.errore.isEmpty() && esito.conferma.isEmpty()) return;
   Avvisa(esito.errore);
   Conferma(esito.conferma);

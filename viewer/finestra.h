@@ -52,6 +52,7 @@ class Finestra : public QMainWindow {
   void CreaMenuStrumenti();
   void ElencaRecenti();
   void CopiaTabella();
+  void NominaUnita();
   void Alterna(Strumento strumento);
   void Tenta();
   void Intitola();

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "viewer/aiuto.h"
+#include "viewer/dialogo_carta.h"
 #include "viewer/finestra.h"
 #include "viewer/preferenze.h"
 #include "viewer/recenti.h"
@@ -152,8 +153,10 @@ void Finestra::CreaMenuStrumenti() {
           [=, this] { misura->setChecked(tela_->InUso() == Strumento::Metro); });
   QMenu* const unita = strumenti->addMenu("&Unità del disegno");
   auto* const scelte = new QActionGroup(this);
-  for (const char* nome : {"&non detta", "&mm", "&cm", "m&etri"})
-    scelte->addAction(unita->addAction(nome))->setCheckable(true);
+  // The last begins as the second one does.
+  QStringList nomi = NomiUnita();
+  for (QString& nome : nomi) nome.insert(&nome == &nomi.back() ? 1 : 0, '&');
+  for (const QString& nome : nomi) scelte->addAction(unita->addAction(nome))->setCheckable(true);
   for (QAction* const scelta : scelte->actions()) scelta->setObjectName("unita");
   connect(unita, &QMenu::aboutToShow, scelte,
           [scelte] { scelte->actions()[static_cast<int>(ResaRicordata().resa.unita)]->setChecked(true); });
@@ -161,7 +164,7 @@ void Finestra::CreaMenuStrumenti() {
     SceltaResa resa = ResaRicordata();
     resa.resa.unita = static_cast<Unita>(scelte->actions().indexOf(scelta));
     RicordaResa(resa);
-    tela_->NominaUnita(ostrel::Voce(resa.resa.unita).nome);
+    NominaUnita();
   });
   strumenti->addSeparator();
   Voce(this, strumenti, "copia", "&Copia l'immagine", {QKeySequence::Copy}, [this] {
@@ -180,8 +183,12 @@ void Finestra::CopiaTabella() {
                              : QString("Copiate %1 righe di tabella.").arg(righe.size()));
 }
 
-void Finestra::Alterna(Strumento strumento) {
+void Finestra::NominaUnita() {
   tela_->NominaUnita(ostrel::Voce(ResaRicordata().resa.unita).nome);
+}
+
+void Finestra::Alterna(Strumento strumento) {
+  NominaUnita();
   tela_->Usa(tela_->InUso() == strumento ? Strumento::Mano : strumento);
 }
 
