@@ -32,7 +32,9 @@ inline std::unique_ptr<QApplication> ApreSchermo(int& argc, char** argv) {
   auto* const italiano = new QTranslator(applicazione.get());
   if (italiano->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(italiano);
-  for (const QString& avviso : std::exchange(avvisiAvvio, {})) qWarning("%s", qPrintable(avviso));
+  // That a scheduled job or an administrator has no runtime folder is nothing to these programs.
+  for (const QString& avviso : std::exchange(avvisiAvvio, {}))
+    if (!avviso.startsWith("QStandardPaths: ")) qWarning("%s", qPrintable(avviso));
   return applicazione;
 }
 

@@ -3,7 +3,7 @@
 # Usage: prova_esporta.sh OSTREL DRAWING
 set -euo pipefail
 ostrel=$1
-unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM XDG_RUNTIME_DIR
 export LC_ALL=C.UTF-8
 cartella=$(mktemp -d)
 trap 'rm -rf "$cartella"' EXIT
@@ -14,7 +14,7 @@ prova() {
   local atteso=$1 messaggio=$2 stato=0 detto
   shift 2
   detto=$("$ostrel" "$@" 2>&1 >/dev/null) || stato=$?
-  [[ $stato = "$atteso" && $detto = *"$messaggio"* ]] || { echo "FAILED: $*: status $stato, $detto" >&2; exit 1; }
+  [[ $stato = "$atteso" && $detto = *"$messaggio"* && (-n $messaggio || -z $detto) ]] || { echo "FAILED: $*: status $stato, $detto" >&2; exit 1; }
 }
 prova 0 '' --esporta s.dxf s.dis
 [ -s s.dxf ]
