@@ -88,7 +88,14 @@ void Finestra::Apri(const QString& percorso) {
   // As the watch reports paths on every host.
   percorso_ = QDir::fromNativeSeparators(percorso);
   daAdattare_ = true;
-  Ricarica();
+  tentativi_ = 0;
+  if (!anteprima_.isEmpty()) anteprimaLasciata_ = QFileInfo(anteprima_).lastModified();
+  Tenta();
+}
+
+void Finestra::ApriAnteprima(const QString& percorso) {
+  Apri(percorso);
+  anteprima_ = percorso_;
 }
 
 void Finestra::ApriRecente(const QString& percorso) {
@@ -124,6 +131,9 @@ void Finestra::keyPressEvent(QKeyEvent* evento) {
 }
 
 void Finestra::Ricarica() {
+  if (const QFileInfo altra(anteprima_);
+      percorso_ != anteprima_ && altra.exists() && altra.lastModified() != anteprimaLasciata_)
+    return Apri(anteprima_);
   tentativi_ = 0;
   Tenta();
 }

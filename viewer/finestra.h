@@ -1,6 +1,7 @@
 // The window: its menus, the drawing, a notice when it cannot be shown, the line of coordinates.
 #pragma once
 
+#include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QMainWindow>
 #include <QTimer>
@@ -24,6 +25,9 @@ class Finestra : public QMainWindow {
   /// Makes this file the window's drawing and fits it. A file that cannot be read leaves the
   /// drawing shown before, with a notice; the next reload tries it again.
   void Apri(const QString& percorso);
+  /// As Apri; when this drawing has been written anew a reload brings it back, whichever is shown by then:
+  /// the program that started the viewer has no other order to show its next preview.
+  void ApriAnteprima(const QString& percorso);
   /// As Apri, but a drawing that is no longer there leaves the list of the recent ones, and the window as
   /// it is.
   void ApriRecente(const QString& percorso);
@@ -64,6 +68,8 @@ class Finestra : public QMainWindow {
   void Riferisci(const Esito& esito);
 
   QString percorso_;
+  QString anteprima_;
+  QDateTime anteprimaLasciata_;  // as it was written when another drawing was opened
   bool sorveglia_;
   bool daAdattare_ = true;
   int tentativi_ = 0;

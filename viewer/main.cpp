@@ -46,7 +46,7 @@ int MostraInFinestra(const Richieste& richieste) {
   if (!richieste.disegni.isEmpty())
     finestra.Apri(richieste.disegni.front());
   else if (avvio)
-    finestra.Apri(QString::fromStdString(avvio->disegno));
+    finestra.ApriAnteprima(QString::fromStdString(avvio->disegno));
   else
     finestra.Avvisa(
         "Nessun disegno: il file \"ostrel.inp\" manca o non ne nomina uno. Si apre dal menu File.");

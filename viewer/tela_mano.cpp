@@ -42,6 +42,7 @@ void Tela::Usa(Strumento strumento) {
   puntatore_ = rect().contains(qui) ? qui : rect().center();
   if (strumento_ != Strumento::Mano) setFocus();
   Segui(puntatore_);
+  update();
   emit StrumentoCambiato();
 }
 

@@ -96,6 +96,23 @@ TEST_F(ConFinestra, IlDisegnoGuastoLasciaQuelloDiPrimaEIlNuovoTieneLaVista) {
   EXPECT_EQ(tela.VistaCorrente().Da({0, 0}), prima.Da({0, 0}));
 }
 
+TEST_F(ConFinestra, LAnteprimaRiscrittaTornaAlPostoDiUnAltroDisegno) {
+  const std::string altro = cartella.filePath("altro.dis").toStdString();
+  prove::Scrivi(altro, prove::kEsempio);
+  finestra.ApriAnteprima(QString::fromStdString(file));
+  finestra.Apri(QString::fromStdString(altro));
+  Comanda("ricarica");
+  EXPECT_TRUE(finestra.windowTitle().contains("altro.dis"));
+  prove::Scrivi(file, ritoccato);
+  // The clock of the files may be coarser than this scene is quick.
+  fs::last_write_time(file, fs::last_write_time(file) + std::chrono::seconds(1));
+  Comanda("ricarica");
+  EXPECT_TRUE(Mostra("SEZIONE U_PO_002"));
+  finestra.Apri(QString::fromStdString(altro));
+  Comanda("ricarica");
+  EXPECT_TRUE(finestra.windowTitle().contains("altro.dis")) << "shown once, it does not come back";
+}
+
 TEST_F(ConFinestra, AttendeUnFileInScrittura) {
   const std::string meta = ritoccato.substr(0, ritoccato.size() / 2);
   letto.clear();

@@ -114,6 +114,23 @@ TEST(Aggancio, IlPostoPiuVicino) {
   }
 }
 
+// What a tool has drawn goes with it, and no other order is needed for that.
+TEST_F(ConFinestra, LoStrumentoLasciatoSparisceDalloSchermo) {
+  const auto fotografia = [&] {
+    QCoreApplication::processEvents();
+    const QRect posto(tela.mapTo(&finestra, QPoint()), tela.size());
+    return finestra.screen()->grabWindow(finestra.winId()).copy(posto).toImage();
+  };
+  for (const auto tasto : {Qt::Key_M, Qt::Key_Z}) {
+    const QImage prima = fotografia();
+    QTest::keyClick(&tela, tasto);
+    QTest::mouseClick(&tela, Qt::LeftButton, {}, Sullo(0, 0));
+    EXPECT_NE(fotografia(), prima);
+    QTest::keyClick(&tela, Qt::Key_Escape);
+    EXPECT_EQ(fotografia(), prima) << tasto;
+  }
+}
+
 TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
   QTest::keyClick(&tela, Qt::Key_M);
   Indica(1.5, 2);
