@@ -54,6 +54,7 @@ class Finestra : public QMainWindow {
   void CopiaTabella();
   void NominaUnita();
   void Alterna(Strumento strumento);
+  void Rileggi();
   void Tenta();
   void Intitola();
   void Conta();
@@ -64,6 +65,8 @@ class Finestra : public QMainWindow {
   void Riferisci(const Esito& esito);
 
   QString percorso_;
+  QString mostrato_;  // the file of the drawing shown: another one where the last could not be read
+  QString guasto_;    // what the last reading has found
   bool sorveglia_;
   bool daAdattare_ = true;
   int tentativi_ = 0;

@@ -22,12 +22,17 @@ def per(a, b):
 
 
 def leggi(percorso):
-    """The page's sides and its segments as (stroke colour, start, end), in millimetres."""
+    """The page's sides and its segments as (stroke colour, start, end), in millimetres.
+
+    Of a sheet from the example also the title, the file's name at the end of the title block, and the pen.
+    """
     with open(percorso, "rb") as file:
         byte = file.read()
     lati = [float(v) * MM for v in re.search(rb"/MediaBox \[0 0 (\S+) (\S+)\]", byte).groups()]
     correnti = (zlib.decompress(s) for s in re.findall(rb"/FlateDecode\s*>>\s*stream\r?\n(.*?)\nendstream", byte, re.S))
     pagina, = (c.decode("latin-1") for c in correnti if re.search(rb"\d cm\n", c))
+    assert b"/Title (\xfe\xff" + "SEZIONE U_PO_001".encode("utf-16-be") in byte
+    assert len("".join(re.findall(r"<(\w*)> Tj", pagina[pagina.rindex("BT"):]))) == 4 * len(os.path.basename(disegno))
     stato, pila, penna, segmenti, operandi = (1, 0, 0, 1, 0, 0), [], "", [], []
     for parola in re.sub(r"<[0-9A-Fa-f]*>|\[[^\]]*\]", "0", pagina).split():
         if re.fullmatch(r"-?[\d.]+", parola):
@@ -39,6 +44,8 @@ def leggi(percorso):
             stato, penna = pila.pop()
         elif parola == "cm":
             stato = per(operandi[-6:], stato)
+        elif parola == "w" and penna == ROSSO:
+            assert abs(operandi[-1] * abs(stato[0]) * MM - 0.25) < 1e-3, operandi
         elif parola == "SCN":
             penna = " ".join(f"{v:g}" for v in operandi[-3:])
         elif parola in "ml" and len(parola) == 1:
