@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QScreen>
 #include <algorithm>
 
 #include "tests/viewer/aiuti_viewer.h"
@@ -88,14 +87,21 @@ TEST(Cartiglio, DiceLaScalaSoloSeLaSa) {
   EXPECT_EQ(c.titolo + c.unita + c.data + c.file, "SEZIONE U_PO_001m02/01/2026ponte.1.dis");
 }
 
+struct Anteprima : AnteprimaFoglio {
+  using AnteprimaFoglio::AnteprimaFoglio;
+  void paintEvent(QPaintEvent* evento) override {
+    ++volte;
+    AnteprimaFoglio::paintEvent(evento);
+  }
+  int volte = 0;  // painted
+};
+
 // The ink of the sheet, beyond which there is paper alone, in millimetres; the sheet's own sides.
 struct Visto {
   QRectF inchiostro;
   QSizeF carta;
 };
-Visto Guarda(QWidget& anteprima, double lato) {
-  QCoreApplication::processEvents();
-  const QImage immagine = anteprima.screen()->grabWindow(anteprima.winId()).toImage();
+Visto Guarda(const QImage& immagine, double lato) {
   QRect bianco, altro;
   for (int y = 0; y < immagine.height(); ++y)
     for (int x = 0; x < immagine.width(); ++x)
@@ -109,12 +115,16 @@ Visto Guarda(QWidget& anteprima, double lato) {
 
 TEST(AnteprimaFoglio, EIlFoglioVero) {
   const Disegno disegno = prove::Esempio();
-  AnteprimaFoglio anteprima(disegno, {"s.dis"}, nullptr);
-  anteprima.resize(390, 390);  // the screen of the tests, also where it counts in double pixels
+  Anteprima anteprima(disegno, {"s.dis"}, nullptr);
+  anteprima.resize(1000, 1000);
   anteprima.show();
+  QCoreApplication::processEvents();
   for (const Orientamento verso : {Orientamento::Orizzontale, Orientamento::Verticale}) {
+    const int prima = anteprima.volte;
     anteprima.Mostra({Unita::Centimetri, 100, Carta::A4, verso});
-    const Visto visto = Guarda(anteprima, 297);
+    QCoreApplication::processEvents();
+    EXPECT_GT(anteprima.volte, prima) << "by itself";
+    const Visto visto = Guarda(anteprima.grab().toImage(), 297);
     const QSizeF carta = verso == Orientamento::Verticale ? QSizeF(210, 297) : QSizeF(297, 210);
     EXPECT_NEAR(visto.carta.width(), carta.width(), 1.2);
     EXPECT_NEAR(visto.carta.height(), carta.height(), 1.2);
