@@ -166,15 +166,18 @@ TEST_F(ConFinestra, IlFoglioPortaIlFileMostratoELUnitaScelta) {
     dialogo.findChild<QComboBox*>("scala")->setEditText("adatta");
     dialogo.accept();
   };
-  const auto guardaNome = [](QDialog& dialogo) {
-    // A printer, where there is one, asks other things.
-    if (const auto* uscita = qobject_cast<QFileDialog*>(&dialogo)) {
-      EXPECT_TRUE(uscita->selectedFiles().front().endsWith("/sezione.pdf"));
-      EXPECT_EQ(uscita->nameFilters(), QStringList(FiltroEsportazione("pdf")));
-    }
-    dialogo.reject();
+  const auto guardaNome = [](qsizetype generi) {
+    return [=](QDialog& dialogo) {
+      // A printer, where there is one, asks other things.
+      if (const auto* uscita = qobject_cast<QFileDialog*>(&dialogo)) {
+        EXPECT_TRUE(uscita->selectedFiles().front().contains("/sezione."));
+        EXPECT_EQ(uscita->nameFilters().size(), generi);
+      }
+      dialogo.reject();
+    };
   };
-  const Utente utente({scegliMetri, guardaNome});
+  const Utente utente({guardaNome(4), scegliMetri, guardaNome(1)});
+  Comanda("esporta");
   Comanda("stampa");
   EXPECT_EQ(utente.Restano(), 0u);
   EXPECT_EQ(tela.Misura().section('\n', 0, 0), "Distanza = 377.8826 m");
