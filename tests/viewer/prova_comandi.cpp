@@ -41,6 +41,7 @@ TEST_F(ConFinestra, OgniVoceHaITastiSuoi) {
 }
 
 TEST_F(ConFinestra, ITastiSonoQuelliDeiMenu) {
+  emit finestra.menuBar()->actions()[0]->menu()->aboutToShow();  // with the drawing just opened in it
   Comanda("tasti");
   const auto& tavola = *finestra.findChild<QDialog*>("tasti")->findChild<QTableWidget*>();
   const auto tasti = [&](const char* effetto) {
