@@ -27,6 +27,7 @@ bool Sostituire(const QString& percorso, QWidget* finestra) {
   QMessageBox domanda(QMessageBox::Warning, "Il file esiste già",
                       QString("%1 esiste già: sostituirlo?").arg(QDir::toNativeSeparators(percorso)),
                       QMessageBox::NoButton, finestra);
+  domanda.setTextFormat(Qt::PlainText);  // a name may look like markup
   const QAbstractButton* const si = domanda.addButton("&Sostituisci", QMessageBox::DestructiveRole);
   QPushButton* const annulla = domanda.addButton("&Annulla", QMessageBox::RejectRole);
   domanda.setDefaultButton(annulla);

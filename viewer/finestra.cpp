@@ -24,9 +24,10 @@ namespace {
 
 constexpr std::array kNomiLivelli = {"contorno", "quote", "testi"};
 
-// Hundredths as far as they can be read at a glance.
+// Hundredths as far as they can be read at a glance; a nothing has no sign.
 QString Lunghezza(double v) {
-  constexpr double kMassimaDistesa = 1e10;
+  constexpr double kMassimaDistesa = 1e10, kMezzoCentesimo = 0.005;
+  if (std::fabs(v) < kMezzoCentesimo) v = 0;
   return std::fabs(v) < kMassimaDistesa ? QString::number(v, 'f', 2) : QString::number(v, 'g', 6);
 }
 
@@ -78,7 +79,7 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   connect(&attesa_, &QTimer::timeout, this, &Finestra::Tenta);
   // The folder too: a file that is replaced by another one is no longer watched itself.
   const auto cambiato = [this] {
-    if (QFileInfo::exists(percorso_)) Ricarica();
+    if (QFileInfo::exists(percorso_)) Rileggi();
   };
   connect(&sorvegliante_, &QFileSystemWatcher::fileChanged, this, cambiato);
   connect(&sorvegliante_, &QFileSystemWatcher::directoryChanged, this, cambiato);
@@ -88,9 +89,9 @@ void Finestra::Apri(const QString& percorso) {
   // As the watch reports paths on every host.
   percorso_ = QDir::fromNativeSeparators(percorso);
   daAdattare_ = true;
-  tentativi_ = 0;
   if (!anteprima_.isEmpty()) anteprimaLasciata_ = QFileInfo(anteprima_).lastModified();
-  Tenta();
+  Avvisa({});
+  Rileggi();
 }
 
 void Finestra::ApriAnteprima(const QString& percorso) {
@@ -134,6 +135,11 @@ void Finestra::Ricarica() {
   if (const QFileInfo altra(anteprima_);
       percorso_ != anteprima_ && altra.exists() && altra.lastModified() != anteprimaLasciata_)
     return Apri(anteprima_);
+  Avvisa({});
+  Rileggi();
+}
+
+void Finestra::Rileggi() {
   tentativi_ = 0;
   Tenta();
 }
@@ -148,13 +154,17 @@ void Finestra::Tenta() {
     return;
   }
   if (esito.disegno) {
+    mostrato_ = percorso_;
     tela_->Mostra(std::move(*esito.disegno), daAdattare_);
     if (daAdattare_) AggiungiRecente(percorso_);
     daAdattare_ = false;
     Intitola();
   }
-  Avvisa(QString::fromStdString(esito.messaggio));
-  emit Letto(esito.messaggio.empty());
+  // A reading by itself, as when an export fails beside the drawing, leaves what was said of other things.
+  const QString guasto = QString::fromStdString(esito.messaggio);
+  if (!guasto.isEmpty() || avviso_->text() == guasto_) Avvisa(guasto);
+  guasto_ = guasto;
+  emit Letto(guasto.isEmpty());
 }
 
 void Finestra::Avvisa(const QString& testo) {
@@ -170,7 +180,7 @@ void Finestra::Conferma(const QString& testo) {
 void Finestra::Intitola() {
   QStringList parti = {Titolo(tela_->Mostrato())};
   parti.removeAll(QString());
-  if (!percorso_.isEmpty()) parti << QFileInfo(percorso_).fileName();
+  if (!mostrato_.isEmpty()) parti << QFileInfo(mostrato_).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
   Conta();
@@ -207,11 +217,11 @@ void Finestra::ScegliFile() {
 // What is hidden goes neither to paper nor into files: the status line says what is. Copies, as the drawing
 // may be read anew while the user is choosing.
 void Finestra::EsportaFile() {
-  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), percorso_, this));
+  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), mostrato_, this));
 }
 
 void Finestra::StampaDisegno() {
-  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), percorso_, this));
+  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), mostrato_, this));
 }
 
 // An order taken back says nothing, and leaves what was said before. With an order the unit may have been

@@ -58,6 +58,7 @@ class Finestra : public QMainWindow {
   void CopiaTabella();
   void NominaUnita();
   void Alterna(Strumento strumento);
+  void Rileggi();
   void Tenta();
   void Intitola();
   void Conta();
@@ -70,6 +71,8 @@ class Finestra : public QMainWindow {
   QString percorso_;
   QString anteprima_;
   QDateTime anteprimaLasciata_;  // as it was written when another drawing was opened
+  QString mostrato_;  // the file of the drawing shown: another one where the last could not be read
+  QString guasto_;    // what the last reading has found
   bool sorveglia_;
   bool daAdattare_ = true;
   int tentativi_ = 0;

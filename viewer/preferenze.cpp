@@ -2,6 +2,8 @@
 
 #include <QSettings>
 
+#include "viewer/esporta.h"
+
 namespace ostrel {
 namespace {
 
@@ -29,7 +31,8 @@ void Ricorda(const QString& chiave, const QVariant& valore) {
 SceltaResa ResaRicordata() {
   SceltaResa scelta;
   const auto testo = [](const char* chiave) { return Preferenza(chiave).toString(); };
-  scelta.genere = Preferenza(kChiaveGenere, scelta.genere).toString();
+  if (const QString genere = testo(kChiaveGenere); FinaliEsportazione().contains(genere))
+    scelta.genere = genere;
   scelta.resa.unita = LeggiUnita(testo(kChiaveUnita)).value_or(scelta.resa.unita);
   scelta.resa.rapporto = LeggiScala(testo(kChiaveScala)).value_or(scelta.resa.rapporto);
   scelta.resa.carta = LeggiCarta(testo(kChiaveCarta)).value_or(scelta.resa.carta);

@@ -29,15 +29,14 @@ Tela::Tela(QWidget* padre) : QWidget(padre) {
 }
 
 void Tela::Mostra(Disegno nuovo, bool daCapo) {
-  const bool altreMisure = nuovo.unita != disegno_.unita;
-  disegno_ = std::move(nuovo);
-  tutto_ = Ingombro(disegno_);
-  // Whoever measures goes on when the file is read again.
-  if (daCapo || altreMisure) metro_ = {};
-  if (daCapo) {
+  // Whoever measures goes on when the file is read again, but no view or place outlives its numbers.
+  if (daCapo || nuovo.unita != disegno_.unita) {
+    metro_ = {};
     storia_ = {};
     adattata_ = true;
   }
+  disegno_ = std::move(nuovo);
+  tutto_ = Ingombro(disegno_);
   MostraLivelli(livelli_);
   Inquadra({vista_, adattata_});
 }

@@ -25,7 +25,8 @@ class Tela : public QWidget {
   explicit Tela(QWidget* padre);
 
   /// Replaces the drawing. A fitted one stays fitted, whatever its extents have become; otherwise zoom
-  /// and place stay as they are. `daCapo`: another drawing, fitted, with no views before this one.
+  /// and place stay as they are. `daCapo`: another drawing, fitted, with no views before this one; so is one
+  /// in other numbers (Disegno::unita).
   void Mostra(Disegno nuovo, bool daCapo);
 
   /// Fits the whole drawing, and keeps it fitted until the user zooms or pans.

@@ -79,8 +79,10 @@ void Tela::MuoviPuntatore(QPoint passo) {
 }
 
 void Tela::wheelEvent(QWheelEvent* evento) {
+  const int scatti = evento->angleDelta().y();
+  if (scatti == 0) return QWidget::wheelEvent(evento);  // turned sideways
   emit Toccata();
-  Ingrandisci(std::pow(kPassoRotella, evento->angleDelta().y() / kUnoScattoRotella), evento->position());
+  Ingrandisci(std::pow(kPassoRotella, scatti / kUnoScattoRotella), evento->position());
   Segui(evento->position());
 }
 

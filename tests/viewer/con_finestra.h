@@ -33,9 +33,9 @@ struct ConFinestra : testing::Test {
     return scritta->isVisible() ? scritta->text() : QString();
   }
   QString Avviso() { return Detto("avviso"); }
-  void Rotella(int scatti, QPointF dove) {
-    QWheelEvent evento(dove, tela.mapToGlobal(dove), {}, {0, 120 * scatti}, Qt::NoButton, Qt::NoModifier,
-                       Qt::NoScrollPhase, false);
+  void Rotella(int scatti, QPointF dove, int diLato = 0) {
+    QWheelEvent evento(dove, tela.mapToGlobal(dove), {}, {120 * diLato, 120 * scatti}, Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&tela, &evento);
   }
   // The host's pointer does not move: what it does on its own is no part of the scene.
@@ -53,6 +53,16 @@ struct ConFinestra : testing::Test {
   void Indica(double x, double y) {
     Muovi(Sullo(x, y));
     QTest::mouseClick(&tela, Qt::LeftButton, {}, Sullo(x, y));
+  }
+
+  // The colour of the line that passes there, on a picture of the drawing as it is seen; of the ground where
+  // none does.
+  QColor Traccia(const QImage& immagine, double x, double y) const {
+    const QPoint p = (tela.VistaCorrente().Verso(x, y) * immagine.devicePixelRatio()).toPoint();
+    const QColor fondo = immagine.pixelColor(3, 3);
+    for (const int accanto : {0, -1, 1})
+      if (const QColor c = immagine.pixelColor(p + QPoint(0, accanto)); c != fondo) return c;
+    return fondo;
   }
 
   QTemporaryDir cartella;

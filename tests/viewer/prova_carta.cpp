@@ -1,4 +1,4 @@
-// The drawing on paper: the sheet's division, what is said of a drawing that does not fit, the dialogs.
+// The drawing on its way to paper and files: what the dialogs ask, say and remember.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -16,7 +16,6 @@
 #include "viewer/comandi_carta.h"
 #include "viewer/dialogo_carta.h"
 #include "viewer/esporta.h"
-#include "viewer/misure.h"
 #include "viewer/preferenze.h"
 
 namespace ostrel {
@@ -62,78 +61,6 @@ void Rifiuta(QDialog& dialogo) {
   dialogo.reject();
 }
 
-TEST(Foglio, IlDisegnoStaSopraIlCartiglio) {
-  const Disegno disegni[] = {prove::Esempio(), prove::Letto(prove::kUnoPerGenere)};
-  for (const Disegno& disegno : disegni)
-    for (const Unita unita : {Unita::Ignota, Unita::Centimetri})
-      for (const double rapporto : {0.0, 100.0})
-        // Down to a label's paper.
-        for (const QSizeF& stampabile :
-             {QSizeF(287, 200), QSizeF(200, 287), QSizeF(70, 20), QSizeF(15, 250)}) {
-          const Foglio foglio = Componi(disegno, {unita, rapporto}, stampabile);
-          const QRectF tutto({0, 0}, stampabile);
-          const Riquadro r = Ingombro(disegno);
-          const QRectF posto(foglio.vista.Verso(r.x0, r.y1), foglio.vista.Verso(r.x1, r.y0));
-          EXPECT_TRUE(tutto.contains(foglio.cartiglio) && tutto.contains(foglio.campo));
-          EXPECT_FALSE(foglio.campo.intersects(foglio.cartiglio));
-          EXPECT_LT(QLineF(posto.center(), foglio.campo.center()).length(), 1e-9);
-          const bool adattata = unita == Unita::Ignota || rapporto == 0;
-          EXPECT_TRUE(!adattata || foglio.campo.contains(posto));
-        }
-}
-
-TEST(Foglio, CioCheNonCiSta) {
-  const Disegno disegno = prove::Esempio();
-  // With the title and the values the drawing takes up 1413 by 827.
-  const struct {
-    Resa resa;
-    const char* foglio;  // of the objection; nullptr: none
-    double ciSta = 0;
-    const char* basta = nullptr;
-  } casi[] = {
-      {{Unita::Centimetri, 50}, nullptr},
-      {{Unita::Centimetri, 49}, "A4 orizzontale", 50, "A3 orizzontale"},
-      {{Unita::Centimetri, 50, Carta::A4, Orientamento::Verticale}, "A4 verticale", 100, "A4 orizzontale"},
-      {{Unita::Centimetri, 25, Carta::A3}, "A3 orizzontale", 50, "A2 orizzontale"},
-      {{Unita::Metri, 1}, "A4 orizzontale", 5000, nullptr},
-      {{Unita::Centimetri, 5000}, "non si vedrebbe niente"},
-      {{Unita::Ignota, 1}, nullptr},
-  };
-  for (const auto& c : casi) {
-    SCOPED_TRACE(InTesto(c.resa.rapporto).toStdString());
-    const auto obiezione = Esamina(disegno, c.resa, Pagina(disegno, c.resa));
-    ASSERT_EQ(obiezione.has_value(), c.foglio != nullptr);
-    if (!obiezione) continue;
-    EXPECT_TRUE(obiezione->testo.contains(c.foglio)) << obiezione->testo.toStdString();
-    EXPECT_EQ(obiezione->testo.contains("basta un foglio"), c.basta != nullptr)
-        << obiezione->testo.toStdString();
-    EXPECT_TRUE(!c.basta || obiezione->testo.endsWith(QString("foglio %1.").arg(c.basta)));
-    EXPECT_EQ(obiezione->ciSta, c.ciSta);
-  }
-  const std::string esteso = prove::ConRiga(prove::kUnoPerGenere, 8, "-1.5E+308  1.5E+308  0 ");
-  const Disegno smisurato = prove::Letto(esteso);
-  const Resa resa{Unita::Metri, 1};
-  EXPECT_TRUE(Esamina(smisurato, resa, Pagina(smisurato, resa)).value().assurda);
-  const QTemporaryDir cartella;
-  EXPECT_EQ(Esporta(smisurato, cartella.filePath("e.pdf"), resa), std::nullopt);
-}
-
-TEST(Cartiglio, DiceLaScalaSoloSeLaSa) {
-  const Disegno disegno = prove::Esempio();
-  const auto scala = [&](const Disegno& d, const Resa& resa) {
-    return Intesta(d, resa, Componi(d, resa, {287, 200}), {"/lavori/ponte.1.dis", {2026, 1, 2}});
-  };
-  EXPECT_EQ(scala(disegno, {}).scala, "non in scala");
-  EXPECT_EQ(scala(disegno, {Unita::Ignota, 50}).scala, "non in scala");
-  EXPECT_EQ(scala(disegno, {Unita::Centimetri, 12.5}).scala, "1:12,5");
-  EXPECT_EQ(scala(disegno, {Unita::Centimetri}).scala, "adattata, circa 1:51");
-  EXPECT_EQ(scala(disegno, {Unita::Metri}).scala, "adattata, circa 1:5100");
-  const Disegno piccolo = prove::Letto(prove::kUnoPerGenere);
-  EXPECT_TRUE(scala(piccolo, {Unita::Millimetri}).scala.endsWith(":1")) << "larger than life";
-  const Cartiglio c = scala(disegno, {Unita::Metri});
-  EXPECT_EQ(c.titolo + c.unita + c.data + c.file, "SEZIONE U_PO_001m02/01/2026ponte.1.dis");
-}
-
 TEST(ComandiCarta, IlNomeTieneISuoiPunti) {
   const QStringList tutti = FinaliEsportazione();
   const struct {
@@ -170,7 +97,11 @@ TEST(DialogoCarta, LaScalaSbagliataSiDicePrima) {
   dialogo.accept();
   EXPECT_EQ(dialogo.result(), QDialog::Accepted);
   EXPECT_EQ(utente.Restano(), 0u);
+  dialogo.findChild<QComboBox*>("orientamento")->setCurrentText("verticale");
+  EXPECT_TRUE(nota.text().contains("A4 verticale")) << nota.text().toStdString();
+  scala.setEditText("?");
   dialogo.findChild<QComboBox*>("unita")->setCurrentIndex(0);
+  EXPECT_TRUE(nota.text().startsWith("Foglio A4 verticale;")) << "a scale that no longer counts";
   EXPECT_EQ(dialogo.Scelta().rapporto, 0) << "no unit, no scale";
 }
 
@@ -190,7 +121,12 @@ TEST(ComandiCarta, EsportaChiedeERicorda) {
 
   // A file that is there is asked about under its whole name; what is taken back changes nothing.
   prove::Scrivi(pdf.toStdString(), "di prima");
-  EXPECT_EQ(esporta({Accetta, Preme("Annulla"), Rifiuta}), "");
+  const auto invio = [](QDialog& domanda) { QTest::keyClick(&domanda, Qt::Key_Return); };
+  const auto rifiutaFile = [](QDialog& file) {
+    EXPECT_NE(qobject_cast<QFileDialog*>(&file), nullptr) << "Enter replaces nothing";
+    file.reject();
+  };
+  EXPECT_EQ(esporta({Accetta, invio, rifiutaFile}), "");
   EXPECT_EQ(esporta({Accetta, Preme("Sostituisci"), Rifiuta}), "");
   EXPECT_EQ(prove::Leggi(pdf.toStdString()), "di prima");
 
@@ -216,6 +152,35 @@ TEST_F(ConFinestra, IlFoglioRestaQuelloDiQuandoSiEChiesto) {
   }});
   Comanda("stampa");
   EXPECT_EQ(utente.Restano(), 0u);
+}
+
+// A file that cannot be read gives the sheets of the drawing before it no name. What was chosen is remembered
+// also when no file is.
+TEST_F(ConFinestra, IlFoglioPortaIlFileMostratoELUnitaScelta) {
+  finestra.Apri(cartella.filePath("manca.dis"));
+  QTest::keyClick(&tela, Qt::Key_M);
+  Indica(0, 0);
+  Indica(329.5, -185);
+  const auto scegliMetri = [](QDialog& dialogo) {
+    dialogo.findChild<QComboBox*>("unita")->setCurrentIndex(3);
+    dialogo.findChild<QComboBox*>("scala")->setEditText("adatta");
+    dialogo.accept();
+  };
+  const auto guardaNome = [](qsizetype generi) {
+    return [=](QDialog& dialogo) {
+      // A printer, where there is one, asks other things.
+      if (const auto* uscita = qobject_cast<QFileDialog*>(&dialogo)) {
+        EXPECT_TRUE(uscita->selectedFiles().front().contains("/sezione."));
+        EXPECT_EQ(uscita->nameFilters().size(), generi);
+      }
+      dialogo.reject();
+    };
+  };
+  const Utente utente({guardaNome(4), scegliMetri, guardaNome(1)});
+  Comanda("esporta");
+  Comanda("stampa");
+  EXPECT_EQ(utente.Restano(), 0u);
+  EXPECT_EQ(tela.Misura().section('\n', 0, 0), "Distanza = 377.8826 m");
 }
 
 }  // namespace

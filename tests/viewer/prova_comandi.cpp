@@ -1,10 +1,13 @@
 // The commands of the menus: their keys, what is shown and copied, the drawings that come to the window.
 #include <QClipboard>
+#include <QDialog>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QTableWidget>
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <set>
 
@@ -37,27 +40,50 @@ TEST_F(ConFinestra, OgniVoceHaITastiSuoi) {
   EXPECT_EQ(finestra.findChild<QAction*>("ricarica")->text(), "Ricarica dise&gno");
 }
 
+TEST_F(ConFinestra, ITastiSonoQuelliDeiMenu) {
+  emit finestra.menuBar()->actions()[0]->menu()->aboutToShow();  // with the drawing just opened in it
+  Comanda("tasti");
+  const auto& tavola = *finestra.findChild<QDialog*>("tasti")->findChild<QTableWidget*>();
+  const auto tasti = [&](const char* effetto) {
+    const auto voci = tavola.findItems(effetto, Qt::MatchExactly);
+    return voci.size() == 1 ? tavola.item(voci[0]->row(), 0)->text() : QString("?");
+  };
+  EXPECT_EQ(tasti("Ricarica disegno"), "F5");
+  EXPECT_EQ(tasti("Sposta: In alto"), "↑");
+  EXPECT_EQ(tasti("Misura una distanza"), "M");
+  EXPECT_TRUE(tavola.findItems("sezione.dis", Qt::MatchContains).isEmpty()) << "a file is no command";
+}
+
 TEST_F(ConFinestra, QuelloCheENascostoNonSiVedeNeSiEsporta) {
-  const auto colori = [&](const Coordinata& dove) {
-    const QImage immagine = tela.grab().toImage();
-    const QPoint p = Sullo(dove.x, dove.y);
-    return immagine.pixelColor(p).red() + immagine.pixelColor(p - QPoint(0, 1)).red() > 200;
+  // Of the window and its copy, how many show it.
+  const auto visti = [&](const Coordinata& dove) {
+    const std::array immagini = {tela.grab().toImage(), tela.Immagine()};
+    return std::ranges::count_if(immagini, [&](const QImage& immagine) {
+      return Traccia(immagine, dove.x, dove.y) != immagine.pixelColor(3, 3);
+    });
   };
   const Coordinata contorno{500, -185}, quota{900, 200};
   QTest::keyClick(&tela, Qt::Key_1);
-  EXPECT_FALSE(colori(contorno));
-  EXPECT_TRUE(colori(quota));
+  EXPECT_EQ(visti(contorno), 0);
+  EXPECT_EQ(visti(quota), 2);
   EXPECT_TRUE(Detto("conteggio").endsWith("(nascosti: contorno)"));
   EXPECT_TRUE(
       std::ranges::all_of(LivelliLinee(tela.Visibile()), [](Livello l) { return l == Livello::Quote; }));
   EXPECT_EQ(tela.Mostrato().linee.size(), 102u);
   QTest::keyClick(&tela, Qt::Key_2);
   Comanda("ricarica");
-  EXPECT_FALSE(colori(quota)) << "read again, still hidden";
+  EXPECT_EQ(visti(quota), 0) << "read again, still hidden";
   EXPECT_EQ(tela.Visibile().scritte.size(), 9u) << "title and properties, no values of dimensions";
   EXPECT_TRUE(tela.Visibile().linee.empty() && tela.Visibile().archi.empty());
+  QTest::keyClick(&tela, Qt::Key_3);
+  for (const char* uscita : {"esporta", "stampa"}) {
+    finestra.Avvisa({});
+    Comanda(uscita);
+    EXPECT_TRUE(Avviso().endsWith("il disegno è vuoto o tutto nascosto.")) << uscita;
+  }
   QTest::keyClick(&tela, Qt::Key_0);
-  EXPECT_TRUE(colori(contorno) && colori(quota));
+  EXPECT_EQ(visti(contorno) + visti(quota), 4);
+  EXPECT_TRUE(SoloLivelli(prove::Letto(prove::kUnoPerGenere), {false, true, true}).punti.empty());
 }
 
 TEST_F(ConFinestra, FondoRicordatoECopiaSuBianco) {
@@ -129,6 +155,8 @@ TEST_F(ConFinestra, Recenti) {
   EXPECT_EQ(ostrel::Recenti().size(), 7);
   QTest::keyClick(&tela, Qt::Key_Escape);
   EXPECT_EQ(Avviso(), "");
+  EXPECT_EQ(VoceRecente(2, "/a&b/c&d.dis"), "&2  c&&d.dis (/a&&b)");
+  EXPECT_TRUE(VoceRecente(3, "/" + QString(99, 'x') + "/fine/s.dis").endsWith("x/fine)"));
 }
 
 }  // namespace

@@ -40,12 +40,12 @@ def contiene(documento):
 
 
 with tempfile.TemporaryDirectory() as cartella:
-    def letto(disegno):
+    def letto(disegno, unita="cm"):
         uscita = os.path.join(cartella, "sezione.dxf")
-        subprocess.run([sys.argv[1], "--esporta", uscita, "--unita", "cm", disegno], check=True)
+        subprocess.run([sys.argv[1], "--esporta", uscita, "--unita", unita, disegno], check=True)
         documento, esame = recover.readfile(uscita)
         assert not esame.errors and not esame.fixes, [e.message for e in esame.errors + esame.fixes]
-        assert documento.header["$INSUNITS"] == ezdxf.units.CM
+        assert documento.header["$INSUNITS"] == {"mm": ezdxf.units.MM, "cm": ezdxf.units.CM, "m": ezdxf.units.M}[unita]
         contiene(documento)
         return documento, ezdxf.readfile(uscita).modelspace()
 
@@ -65,10 +65,22 @@ with tempfile.TemporaryDirectory() as cartella:
     _, inizio, fine = titolo.get_placement()
     assert abs(inizio.distance(fine) - 16 * 20) < 1e-9 and titolo.dxf.height == 20
 
-    documento, spazio = letto(os.path.join(os.path.dirname(sys.argv[2]), "misto.dis"))
+    documento, spazio = letto(os.path.join(os.path.dirname(sys.argv[2]), "misto.dis"), "m")
     anello, = spazio.query("POLYLINE")
     vertici = [(v.dxf.location.x, v.dxf.location.y) for v in anello.vertices]
     assert vertici == [(0, 0), (12, 0), (12, 1), (0, 1)], vertici
     assert [l.dxf.linetype for l in spazio.query("LINE")] == TIPI
     colori = [l.dxf.get("color", documento.layers.get(l.dxf.layer).dxf.color) for l in spazio.query("LINE")]
     assert colori == [7, 172, 1, 3, 2, 94], colori
+
+    # A text longer than a string may be goes on where it was cut.
+    with open(sys.argv[2], "rb") as file:
+        lungo = file.read().replace(b"SEZIONE U_PO_001", b"titolo " * 60)
+    disegno = os.path.join(cartella, "lungo.dis")
+    with open(disegno, "wb") as file:
+        file.write(lungo)
+    _, spazio = letto(disegno, "mm")
+    parti = [t for t in spazio.query("TEXT") if "titolo" in t.dxf.text]
+    assert "".join(t.dxf.text for t in parti) == "titolo " * 60 and len(parti) == 2, parti
+    assert parti[0].get_placement()[2].isclose(parti[1].get_placement()[1])
+    assert abs(parti[0].get_placement()[1].distance(parti[1].get_placement()[2]) - 420 * 20) < 1e-9

@@ -15,6 +15,7 @@
 #include "viewer/esporta.h"
 #include "viewer/pittura.h"
 #include "viewer/stampa.h"
+#include "viewer/svg.h"
 
 namespace ostrel {
 namespace {
@@ -86,6 +87,25 @@ TEST(Dxf, ValoriDegliElementi) {
   for (const char* atteso : {"\r\n50\r\n0\r\n51\r\n90\r\n", "\r\n1\r\n5%%%%%% a^ b \xE8\r\n",
                              "\r\n6\r\nDOT\r\n", "\r\n10\r\n0.5\r\n20\r\n-5\r\n", "\r\n62\r\n3\r\n"})
     EXPECT_NE(dxf.find(atteso), std::string::npos) << atteso;
+}
+
+// A drawing in other numbers is the same file: by a power of two with its unit, or by one of ten that brings
+// an SVG's into the range where they are kept.
+TEST(Esporta, ConAltraUnita) {
+  for (const std::string& byte : {prove::kEsempio, prove::kUnoPerGenere}) {
+    const Disegno intero = prove::Letto(byte);
+    const auto per = [&](double fattore, double unita) {
+      Disegno d = intero;
+      for (Coordinata& c : d.coordinate) c = {c.x * fattore, c.y * fattore};
+      for (Scritta& s : d.scritte) s.base *= fattore, s.altezza *= fattore;
+      d.unita = unita;
+      return d;
+    };
+    for (const double potenza : {0x1p-40, 0x1p40})
+      EXPECT_EQ(ScriviDxf(per(potenza, 1 / potenza)), ScriviDxf(intero));
+    const double cifra = byte == prove::kEsempio ? 0.1 : 10;  // which brings it to the hundreds
+    EXPECT_TRUE(ScriviSvg(per(1e40, 1)) == ScriviSvg(per(cifra, 1)));
+  }
 }
 
 TEST(Esporta, Immagine) {

@@ -39,6 +39,9 @@ echo prima >s.png
 [ "$(ls)" = $'cartella.svg\nchiusa\npieno.png\ns.dis\ns.dxf\ns.png\ntubo.svg\nvuoto.dis' ]
 prova 1 'non è un file di disegno' --esporta s.pdf .
 
+printf '3\r\n0 0\r\n0 0\r\n0 0\r\n2\r\n0 0 0\r\n0 50 0\r\n0\r\n1\r\n0 1 1 0\r\n0\r\n0\r\n' >ritta.dis
+prova 0 '' --esporta ritta.pdf --unita mm --scala 1:1 ritta.dis
+
 # What is not understood is no failed export: another status, and nothing written.
 prima=$(ls)
 for uscita in s.bmp senza .dxf/; do prova 2 "file $uscita: si esporta in" --esporta "$uscita" s.dis; done
@@ -54,11 +57,14 @@ prova 2 '--carta vale soltanto per il PDF' --esporta a.dxf --carta A3 s.dis
 prova 2 '--comunque vale soltanto con --esporta' --comunque s.dis
 prova 2 'dopo --tipo manca il valore' --esporta . --tipo
 prova 1 'Ci sta a 1:50. A 1:20 basta un foglio A1 orizzontale.' --esporta a.pdf --unita cm --scala 20 s.dis
+prova 1 'non si vedrebbe niente' --esporta a.pdf --unita mm --scala 1:1000000 --comunque ritta.dis
+prova 2 '--unita vale soltanto per PDF e DXF' --esporta a.svg --unita mm s.dis
+prova 2 '--senza-sorveglianza vale soltanto per la finestra' --esporta a.svg --senza-sorveglianza s.dis
 prova 1 'misura 2,8' --esporta a.pdf --unita mm --scala 1:500 s.dis
 [ "$(ls)" = "$prima" ]
 
 # Several drawings: a bad one is passed over; two of one name are refused before anything is written.
-mkdir tavole altri
+mkdir -p tavole altri/s.svg
 cp s.dis altri/S.dis
 cp s.dis -- -t.1.dis
 prova 2 'andrebbero tutti e due in tavole/S.png' --esporta tavole --tipo png s.dis altri/S.dis
@@ -68,9 +74,13 @@ prova 2 'è un disegno da leggere' --esporta altri --tipo pdf altri/letto.pdf
 prova 1 'ostrel: 2 su 4 non esportati' --esporta=tavole/ --tipo=PDF --unita=cm manca.dis s.dis vuoto.dis -- -t.1.dis
 [ "$(ls tavole)" = $'-t.1.pdf\ns.pdf' ]
 
-# Or as the pages of one document.
+prova 1 'altri/s.svg: è una cartella' --esporta altri --tipo svg s.dis
+
+# Or as the pages of one document, each turned as suits it.
 prova 1 'ostrel: 1 su 3 non esportati' --esporta insieme.pdf s.dis vuoto.dis s.dis
 grep -aq '^/Count 2$' insieme.pdf
+"$ostrel" --esporta diversi.pdf s.dis ritta.dis s.dis
+[ "$(grep -ao 'MediaBox [^]]*' diversi.pdf | cut -d' ' -f4 | xargs)" = '842.000000 595.000000 842.000000' ]
 prova 1 'vuoto.dis: non' --esporta niente.pdf vuoto.dis vuoto.dis
 [ ! -e niente.pdf ]
 

@@ -37,13 +37,8 @@ TEST_F(ConFinestra, MostraTuttoConLaYVersoLAlto) {
     EXPECT_TRUE(QRectF(tela.rect()).contains(vista.Verso(c.x, c.y)));
   // White dimension lines, the red outline; the soffit below the upper side, on a dark ground.
   const QImage immagine = tela.grab().toImage();
-  const auto colore = [&](double x, double y) {
-    const QPoint p = vista.Verso(x, y).toPoint();
-    return immagine.pixelColor(p).red() > 200 ? immagine.pixelColor(p)
-                                              : immagine.pixelColor(p - QPoint(0, 1));
-  };
-  EXPECT_EQ(colore(900, 200), QColor(Qt::white));
-  EXPECT_EQ(colore(500, -185), QColor(255, 0, 0));
+  EXPECT_EQ(Traccia(immagine, 900, 200), QColor(Qt::white));
+  EXPECT_EQ(Traccia(immagine, 500, -185), QColor(255, 0, 0));
   EXPECT_LT(immagine.pixelColor(3, 3).lightness(), 50);
 }
 
@@ -64,6 +59,8 @@ TEST_F(ConFinestra, RotellaETrascinamento) {
   QTest::mouseMove(&tela, altrove);
   QTest::mouseRelease(&tela, Qt::LeftButton, {}, altrove);
   EXPECT_LT(QLineF(tela.VistaCorrente().Da(altrove), prima).length(), 1e-9);
+  QTest::mouseDClick(&tela, Qt::LeftButton, {}, altrove);
+  EXPECT_LT(QLineF(tela.VistaCorrente().Da(altrove), prima).length(), 1e-9);
 
   // What was scrolled with what came into sight is what painting everything anew gives.
   const QImage composta = fotografia();
@@ -73,7 +70,7 @@ TEST_F(ConFinestra, RotellaETrascinamento) {
 
   for (int i = 0; i < 200; ++i) Rotella(1, dove);
   EXPECT_LT(tela.VistaCorrente().scala, scala * 1e4);
-  Comanda("adatta");
+  QTest::mouseDClick(&tela, Qt::MiddleButton, {}, dove);
   EXPECT_NEAR(tela.VistaCorrente().scala, scala, 1e-12);
 }
 
@@ -133,7 +130,11 @@ TEST_F(ConFinestra, AttendeUnFileInScrittura) {
 
 TEST_F(ConSorveglianza, SiRicaricaDaSe) {
   prove::Scrivi(file, ritoccato);
+  finestra.Avvisa("il disco è pieno");
   while (!Mostra("SEZIONE U_PO_002")) ASSERT_TRUE(letto.wait(kAttesaMassimaMs));
+  EXPECT_EQ(Avviso(), "il disco è pieno") << "what failed beside the drawing is still said";
+  Comanda("ricarica");
+  EXPECT_EQ(Avviso(), "");
   // Replaced twice: the watch outlives the file it began with.
   for (const std::string& byte : {prove::kEsempio, ritoccato}) {
     const QString titolo = finestra.windowTitle();

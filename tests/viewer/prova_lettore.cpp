@@ -55,6 +55,11 @@ TEST(Lettore, FiniDiRigaELineeSenzaInizio) {
   }
 }
 
+TEST(Lettore, TestiSenzaCorpo) {
+  for (const char* celle : {" 0  2.5  5 ", " 1.5  0  5 ", "-1.5  2.5  5 "})
+    EXPECT_TRUE(prove::Letto(prove::ConRiga(prove::kUnoPerGenere, 17, celle)).scritte.empty()) << celle;
+}
+
 TEST(Lettore, RigheFinoAUnMegabyte) {
   for (const std::size_t lunga : {1u << 20, (1u << 20) + 1}) {
     const auto letto = LeggiDis(prove::ConRiga(prove::kUnoPerGenere, 18, std::string(lunga, 'x')));
@@ -93,7 +98,7 @@ void ControllaIngombro(const Disegno& disegno, const Riquadro& atteso) {
 TEST(Misure, ArchiEIngombri) {
   constexpr double kPi = std::numbers::pi;
   Disegno d;
-  d.coordinate = {{5, 5}, {7, 5}, {5, 7}, {7, 5}};
+  d.coordinate = {{5, 5}, {7, 5}, {5, 7}, {7, 5}, {3, 5}};
   const struct {
     const char* caso;
     Arco arco;
@@ -102,6 +107,7 @@ TEST(Misure, ArchiEIngombri) {
   } casi[] = {
       {"a quarter", {0, 1, 2, 1}, 0, kPi / 2, {5, 5, 7, 7}},
       {"the other three", {0, 2, 1, 1}, kPi / 2, 1.5 * kPi, {3, 3, 7, 7}},
+      {"round by the right", {0, 4, 2, 1}, kPi, 1.5 * kPi, {3, 3, 7, 7}},
       {"a full circle whose start was merged with an earlier point", {0, 1, 3, 1}, 0, 2 * kPi, {3, 3, 7, 7}},
   };
   for (const auto& c : casi) {

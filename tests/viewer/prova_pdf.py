@@ -21,13 +21,24 @@ def per(a, b):
             a[2] * b[1] + a[3] * b[3], a[4] * b[0] + a[5] * b[2] + b[4], a[4] * b[1] + a[5] * b[3] + b[5])
 
 
-def leggi(percorso):
-    """The page's sides and its segments as (stroke colour, start, end), in millimetres."""
+def pagina_di(percorso):
+    """The bytes of a document of one page, and the operators of the page."""
     with open(percorso, "rb") as file:
         byte = file.read()
-    lati = [float(v) * MM for v in re.search(rb"/MediaBox \[0 0 (\S+) (\S+)\]", byte).groups()]
     correnti = (zlib.decompress(s) for s in re.findall(rb"/FlateDecode\s*>>\s*stream\r?\n(.*?)\nendstream", byte, re.S))
     pagina, = (c.decode("latin-1") for c in correnti if re.search(rb"\d cm\n", c))
+    return byte, pagina
+
+
+def leggi(percorso):
+    """The page's sides and its segments as (stroke colour, start, end), in millimetres.
+
+    Of a sheet from the example also the title, the file's name at the end of the title block, and the pen.
+    """
+    byte, pagina = pagina_di(percorso)
+    lati = [float(v) * MM for v in re.search(rb"/MediaBox \[0 0 (\S+) (\S+)\]", byte).groups()]
+    assert b"/Title (\xfe\xff" + "SEZIONE U_PO_001".encode("utf-16-be") in byte
+    assert len("".join(re.findall(r"<(\w*)> Tj", pagina[pagina.rindex("BT"):]))) == 4 * len(os.path.basename(disegno))
     stato, pila, penna, segmenti, operandi = (1, 0, 0, 1, 0, 0), [], "", [], []
     for parola in re.sub(r"<[0-9A-Fa-f]*>|\[[^\]]*\]", "0", pagina).split():
         if re.fullmatch(r"-?[\d.]+", parola):
@@ -39,6 +50,8 @@ def leggi(percorso):
             stato, penna = pila.pop()
         elif parola == "cm":
             stato = per(operandi[-6:], stato)
+        elif parola == "w" and penna == ROSSO:
+            assert abs(operandi[-1] * abs(stato[0]) * MM - 0.25) < 1e-3, operandi
         elif parola == "SCN":
             penna = " ".join(f"{v:g}" for v in operandi[-3:])
         elif parola in "ml" and len(parola) == 1:
@@ -85,3 +98,13 @@ with tempfile.TemporaryDirectory() as cartella:
             assert abs(x1 - x0 - atteso) < 1e-4 and abs(y1 - y0 - atteso / 6) < 1e-4, (opzioni, x1 - x0, y1 - y0)
         x0, y0, x1, y1 = ingombro(segmenti)
         assert 5 - 0.4 < x0 and x1 < lati[0] - 5 + 0.4 and y1 < lati[1] - 5 + 0.4, (opzioni, x0, y0, x1, y1)
+
+    # A title somewhat too long for its cell is condensed, all others of the block are as broad as they are.
+    with open(disegno, "rb") as file:
+        lungo = file.read().replace(b"U_PO_001", b"DI UN PONTE MOLTO LARGO")
+    with open("lungo.dis", "wb") as file:
+        file.write(lungo)
+    subprocess.run([ostrel, "--esporta", "lungo.pdf", "lungo.dis"], check=True)
+    _, pagina = pagina_di("lungo.pdf")
+    forme = [float(a) / float(d) for a, d in re.findall(r"(\S+) 0 0 (\S+) \S+ \S+ cm", pagina)][-10:]
+    assert 0.75 < forme[1] < 0.99 and all(abs(f - 1) < 1e-6 for f in forme[:1] + forme[2:]), forme

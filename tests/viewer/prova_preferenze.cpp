@@ -38,6 +38,8 @@ TEST_F(Preferenze, IlFileGuastoNonNuoce) {
                                 "[esporta\n=\x01\xFF@@\n\n]]", std::string(9, '\0')};
   prove::Scrivi(file, guasti[0]);
   EXPECT_EQ(ResaRicordata().genere, "svg") << "what makes sense is kept";
+  prove::Scrivi(file, "[esporta]\ngenere=bmp\n");
+  EXPECT_EQ(ResaRicordata().genere, "pdf");
   for (const std::string& byte : guasti) {
     prove::Scrivi(file, byte);
     const Resa resa = ResaRicordata().resa;

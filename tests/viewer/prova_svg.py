@@ -39,6 +39,7 @@ def leggi_dis(nome):
 
 
 def prova_gruppi(svg, punti, testi, attesi):
+    assert svg.findtext("{*}title") == testi[0][-1]
     gruppi = {g.get("id"): g for g in svg.findall("{*}g")}
     trovati = {n: dict(collections.Counter(e.tag.split("}")[1] for e in g)) for n, g in gruppi.items()}
     assert trovati == attesi, trovati

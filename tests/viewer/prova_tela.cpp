@@ -23,7 +23,13 @@ TEST_F(ConFinestra, LAdattatoRestaAdattatoConAltroIngombro) {
 // Turns of the wheel in a row are one view left, each drag is one; a fitted view comes back fitted.
 TEST_F(ConFinestra, VistePrecedentiESuccessive) {
   const QPoint dove(300, 200);
-  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
+  Rotella(0, dove, 1);
+  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled()) << "turned sideways";
+  for (int i = 0; i < 2; ++i) {
+    Rotella(1, dove);
+    QTest::keyClick(&tela, Qt::Key_Backspace);
+    EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+  }
   for (int i = 0; i < 3; ++i) Rotella(1, dove);
   const Vista ingrandita = tela.VistaCorrente();
   Trascina(dove, {350, 220});
@@ -52,6 +58,9 @@ TEST_F(ConFinestra, TastiERettangoloEntroILimiti) {
   EXPECT_NEAR(tela.VistaCorrente().x - prima.x, std::round(tela.width() / 10.0) / prima.scala, 1e-9);
   QTest::keyClick(&tela, Qt::Key_Down);
   EXPECT_NEAR(prima.y - tela.VistaCorrente().y, std::round(tela.height() / 10.0) / prima.scala, 1e-9);
+  Comanda("alto");
+  Comanda("sinistra");
+  EXPECT_LT(QLineF(tela.VistaCorrente().Da({0, 0}), prima.Da({0, 0})).length(), 1e-9);
   QTest::keyClick(&tela, Qt::Key_Home);
   EXPECT_EQ(tela.VistaCorrente(), prima);
 
@@ -84,9 +93,11 @@ TEST_F(ConFinestra, TastiERettangoloEntroILimiti) {
 
 TEST(Aggancio, IlPostoPiuVicino) {
   Disegno d;
-  d.coordinate = {{0, 0}, {10, 0}, {10.01, 0}, {10.01, 5}, {5, -2}, {5, 2}, {20, 0}, {22, 0}, {20, 2}};
+  d.coordinate = {{0, 0}, {10, 0}, {10.01, 0}, {10.01, 5}, {5, -2},
+                  {5, 2}, {20, 0}, {22, 0},    {20, 2},    {30, 3}};
   d.linee = {{0, 1}, {2, 3}, {4, 5}};
   d.archi = {{6, 7, 8}};
+  d.punti = {{9}};
   const struct {
     Coordinata vicino;
     double raggio;
@@ -103,6 +114,7 @@ TEST(Aggancio, IlPostoPiuVicino) {
       {{20.1, 0.2}, 1, {{20, 0}}, Appiglio::Centro},
       {{22.1, 0.2}, 1, {{22, 0}}},
       {{15, 0.2}, 1, std::nullopt},
+      {{30.1, 3.1}, 1, {{30, 3}}},
   };
   for (const auto& c : casi) {
     const auto aggancio = Aggancia(d, c.vicino, c.raggio);
@@ -162,6 +174,28 @@ TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
   EXPECT_EQ(tela.InUso(), Strumento::Mano);
   EXPECT_FALSE(finestra.findChild<QAction*>("misura")->isChecked());
   EXPECT_EQ(tela.Misura(), "");
+}
+
+// Read again so large that its numbers are kept in another unit: a view or a place of before means nothing.
+TEST_F(ConFinestra, DiventatoSmisurato) {
+  finestra.resize(800, 500);
+  QTest::keyClick(&tela, Qt::Key_M);
+  Indica(0, 0);
+  Indica(329.5, -185);
+  Rotella(5, {300, 200});
+  prove::Scrivi(
+      file, prove::ConRiga(prove::ConRiga(prove::kUnoPerGenere, 7, " 3E+150  0  0 "), 8, " 0  3E+150  0 "));
+  Comanda("ricarica");
+  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
+  EXPECT_EQ(tela.Misura(), "");
+  const double tre = 3e150 / tela.Mostrato().unita;
+  Indica(0, 0);
+  Indica(tre, 0);
+  finestra.findChildren<QAction*>("unita")[2]->trigger();
+  EXPECT_EQ(tela.Misura(), "Distanza = 3e+150 cm\nΔX = 3e+150 cm\nΔY = 0 cm\nAngolo = 0.00°");
+  Muovi(Sullo(tre, tre));
+  EXPECT_EQ(Detto("coordinate").count("e+150"), 2) << Detto("coordinate").toStdString();
 }
 
 }  // namespace

@@ -1,0 +1,172 @@
+// The drawing on paper: the sheet's division, what is said of a drawing that does not fit, the title block,
+// the sheet as it is painted.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <algorithm>
+
+#include "tests/viewer/aiuti_viewer.h"
+#include "viewer/anteprima_foglio.h"
+#include "viewer/esporta.h"
+#include "viewer/foglio.h"
+#include "viewer/misure.h"
+#include "viewer/stampa.h"
+
+namespace ostrel {
+namespace {
+
+TEST(Foglio, IlDisegnoStaSopraIlCartiglio) {
+  const Disegno disegni[] = {prove::Esempio(), prove::Letto(prove::kUnoPerGenere)};
+  for (const Disegno& disegno : disegni)
+    for (const Unita unita : {Unita::Ignota, Unita::Centimetri})
+      for (const double rapporto : {0.0, 100.0})
+        // Down to a label's paper.
+        for (const QSizeF& stampabile :
+             {QSizeF(287, 200), QSizeF(200, 287), QSizeF(70, 20), QSizeF(15, 250)}) {
+          const Foglio foglio = Componi(disegno, {unita, rapporto}, stampabile);
+          const QRectF tutto({0, 0}, stampabile);
+          const Riquadro r = Ingombro(disegno);
+          const QRectF posto(foglio.vista.Verso(r.x0, r.y1), foglio.vista.Verso(r.x1, r.y0));
+          EXPECT_TRUE(tutto.contains(foglio.cartiglio) && tutto.contains(foglio.campo));
+          EXPECT_FALSE(foglio.campo.intersects(foglio.cartiglio));
+          EXPECT_LT(QLineF(posto.center(), foglio.campo.center()).length(), 1e-9);
+          const bool adattata = unita == Unita::Ignota || rapporto == 0;
+          EXPECT_TRUE(!adattata || foglio.campo.contains(posto));
+        }
+}
+
+TEST(Foglio, CioCheNonCiSta) {
+  const Disegno disegno = prove::Esempio();
+  // With the title and the values the drawing takes up 1413 by 827.
+  const struct {
+    Resa resa;
+    const char* foglio;  // of the objection; nullptr: none
+    double ciSta = 0;
+    const char* basta = nullptr;
+  } casi[] = {
+      {{Unita::Centimetri, 50}, nullptr},
+      {{Unita::Centimetri, 49}, "A4 orizzontale", 50, "A3 orizzontale"},
+      {{Unita::Centimetri, 50, Carta::A4, Orientamento::Verticale}, "A4 verticale", 100, "A4 orizzontale"},
+      {{Unita::Centimetri, 25, Carta::A3}, "A3 orizzontale", 50, "A2 orizzontale"},
+      {{Unita::Metri, 1}, "A4 orizzontale", 5000, nullptr},
+      {{Unita::Centimetri, 5000}, "non si vedrebbe niente"},
+      {{Unita::Ignota, 1}, nullptr},
+  };
+  for (const auto& c : casi) {
+    SCOPED_TRACE(InTesto(c.resa.rapporto).toStdString());
+    const auto obiezione = Esamina(disegno, c.resa, Pagina(disegno, c.resa));
+    ASSERT_EQ(obiezione.has_value(), c.foglio != nullptr);
+    if (!obiezione) continue;
+    EXPECT_TRUE(obiezione->testo.contains(c.foglio)) << obiezione->testo.toStdString();
+    EXPECT_EQ(obiezione->testo.contains("basta un foglio"), c.basta != nullptr)
+        << obiezione->testo.toStdString();
+    EXPECT_TRUE(!c.basta || obiezione->testo.endsWith(QString("foglio %1.").arg(c.basta)));
+    EXPECT_EQ(obiezione->ciSta, c.ciSta);
+  }
+  const std::string esteso = prove::ConRiga(prove::kUnoPerGenere, 8, "-1.5E+308  1.5E+308  0 ");
+  const Disegno smisurato = prove::Letto(esteso);
+  const Resa resa{Unita::Metri, 1};
+  EXPECT_TRUE(Esamina(smisurato, resa, Pagina(smisurato, resa)).value().assurda);
+  const QTemporaryDir cartella;
+  EXPECT_EQ(Esporta(smisurato, cartella.filePath("e.pdf"), resa), std::nullopt);
+}
+
+TEST(Cartiglio, DiceLaScalaSoloSeLaSa) {
+  const Disegno disegno = prove::Esempio();
+  const auto scala = [&](const Disegno& d, const Resa& resa) {
+    return Intesta(d, resa, Componi(d, resa, {287, 200}), {"/lavori/ponte.1.dis", {2026, 1, 2}});
+  };
+  EXPECT_EQ(scala(disegno, {}).scala, "non in scala");
+  EXPECT_EQ(scala(disegno, {Unita::Ignota, 50}).scala, "non in scala");
+  EXPECT_EQ(scala(disegno, {Unita::Centimetri, 12.5}).scala, "1:12,5");
+  EXPECT_EQ(scala(disegno, {Unita::Centimetri}).scala, "adattata, circa 1:51");
+  EXPECT_EQ(scala(disegno, {Unita::Metri}).scala, "adattata, circa 1:5100");
+  const Disegno piccolo = prove::Letto(prove::kUnoPerGenere);
+  EXPECT_TRUE(scala(piccolo, {Unita::Millimetri}).scala.endsWith(":1")) << "larger than life";
+  const Cartiglio c = scala(disegno, {Unita::Metri});
+  EXPECT_EQ(c.titolo + c.unita + c.data + c.file, "SEZIONE U_PO_001m02/01/2026ponte.1.dis");
+}
+
+struct Anteprima : AnteprimaFoglio {
+  using AnteprimaFoglio::AnteprimaFoglio;
+  void paintEvent(QPaintEvent* evento) override {
+    ++volte;
+    AnteprimaFoglio::paintEvent(evento);
+  }
+  int volte = 0;  // painted
+};
+
+// The ink of the sheet, beyond which there is paper alone, in millimetres; the sheet's own sides.
+struct Visto {
+  QRectF inchiostro;
+  QSizeF carta;
+};
+Visto Guarda(const QImage& immagine, double lato) {
+  QRect bianco, altro;
+  for (int y = 0; y < immagine.height(); ++y)
+    for (int x = 0; x < immagine.width(); ++x)
+      if (immagine.pixelColor(x, y) == QColor(Qt::white)) bianco |= QRect(x, y, 1, 1);
+  for (int y = bianco.top(); y <= bianco.bottom(); ++y)
+    for (int x = bianco.left(); x <= bianco.right(); ++x)
+      if (immagine.pixelColor(x, y).lightness() < 128) altro |= QRect(x - bianco.x(), y - bianco.y(), 1, 1);
+  const double mm = lato / std::max(bianco.width(), bianco.height());
+  return {QRectF(altro.topLeft() * mm, altro.size() * mm), QSizeF(bianco.size()) * mm};
+}
+
+TEST(AnteprimaFoglio, EIlFoglioVero) {
+  const Disegno disegno = prove::Esempio();
+  Anteprima anteprima(disegno, {"s.dis"}, nullptr);
+  anteprima.resize(1000, 1000);
+  anteprima.show();
+  QCoreApplication::processEvents();
+  for (const Orientamento verso : {Orientamento::Orizzontale, Orientamento::Verticale}) {
+    const int prima = anteprima.volte;
+    anteprima.Mostra({Unita::Centimetri, 100, Carta::A4, verso});
+    QCoreApplication::processEvents();
+    EXPECT_GT(anteprima.volte, prima) << "by itself";
+    const Visto visto = Guarda(anteprima.grab().toImage(), 297);
+    const QSizeF carta = verso == Orientamento::Verticale ? QSizeF(210, 297) : QSizeF(297, 210);
+    EXPECT_NEAR(visto.carta.width(), carta.width(), 1.2);
+    EXPECT_NEAR(visto.carta.height(), carta.height(), 1.2);
+    // The title block's corner.
+    EXPECT_NEAR(visto.inchiostro.right(), carta.width() - kMargineCarta, 1.2);
+    EXPECT_NEAR(visto.inchiostro.bottom(), carta.height() - kMargineCarta, 1.2);
+  }
+}
+
+// What is cut or too long stays where it belongs: no ink beside or just above the title block, nor in its
+// narrow margins between the cells.
+TEST(Stampa, QuelloCheETroppoGrandeRestaNelSuoPosto) {
+  Disegno disegno = prove::Esempio();
+  disegno.titolo = std::string(80, 'W');
+  for (Scritta& scritta : disegno.scritte) scritta.altezza = scritta.base = 60;
+  const Resa resa{Unita::Centimetri, 20};
+  const QPageLayout pagina = Pagina(disegno, resa);
+  const Foglio foglio = Componi(disegno, resa, Stampabile(pagina));
+  constexpr double kFine = 10;  // pixels to a millimetre
+  QImage immagine((Stampabile(pagina) * kFine).toSize(), QImage::Format_RGB32);
+  immagine.fill(Qt::white);
+  QPainter pittore(&immagine);
+  DipingiFoglio(pittore, disegno, resa, {"s.dis"}, pagina, kFine);
+  pittore.end();
+  const auto scuri = [&](double x, double y, double larga, double alta) {
+    int quanti = 0;
+    for (int j = qRound(y * kFine); j < qRound((y + alta) * kFine); ++j)
+      for (int i = qRound(x * kFine); i < qRound((x + larga) * kFine); ++i)
+        quanti += immagine.pixelColor(i, j) != QColor(Qt::white);
+    return quanti;
+  };
+  const QRectF& c = foglio.cartiglio;
+  EXPECT_GT(scuri(foglio.campo.x(), foglio.campo.y(), foglio.campo.width(), foglio.campo.height()), 1000);
+  EXPECT_EQ(scuri(0, foglio.campo.bottom() + 0.2, c.left() - 0.5, c.height() + 2), 0);
+  EXPECT_EQ(scuri(0, foglio.campo.bottom() + 0.2, c.right(), 2), 0);
+  double confine = c.left();
+  for (const double parte : {0.34, 0.21, 0.11, 0.13}) {
+    confine += parte * c.width();
+    EXPECT_GT(scuri(confine - 0.2, c.top(), 0.4, c.height()), 100) << "a line between cells";
+    EXPECT_EQ(scuri(confine - 1, c.top() + 0.3, 0.7, c.height() - 0.6), 0) << "and room beside it";
+  }
+}
+
+}  // namespace
+}  // namespace ostrel
