@@ -216,6 +216,7 @@ def sbagliate(base):
          'manca soletta mezzeria (p7); nomi non riconosciuti: "spessore"'),
         ([], INTESTAZIONE.replace("p8", "raccordo inferiore") + "\n", 1, "ambiguo"),
         ([], "PK\x03\x04", 1, "cartella di lavoro"),
+        ([], b"\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1" + bytes(500), 1, "cartella di lavoro"),
         ([], RIGA.encode("utf-16"), 1, "UTF-16"),
         (["manca.csv"], "", 1, "il file non si legge (manca.csv)"),
         (["--da", "manca"], "", 1, "File manca non trovato"),
@@ -236,6 +237,17 @@ def sbagliate(base):
         messaggio = esito.stderr.decode()
         controlla(f"{argomenti} {testo[:40]!r}", (esito.returncode, detto in messaggio, messaggio), (stato, True, messaggio))
         controlla(f"{argomenti}: righe", len(tabella(esito)) <= 1, True)
+
+    # Rows added to what is being read would never end.
+    stesso = os.path.join(base, "stesso.csv")
+    for argomenti in ([stesso], ["manca", stesso], [], ["--da", stesso]):
+        with open(stesso, "w+") as file:
+            file.write(RIGA)
+            file.seek(0)
+            esito = subprocess.run([*EMULATORE, LOTTO, *argomenti], stdin=file, stdout=open(stesso, "a"),
+                                   stderr=subprocess.PIPE, timeout=60)
+        controlla(f"{argomenti}: stesso file", (esito.returncode, b"lo stesso file" in esito.stderr, byte(stesso)),
+                  (2, True, RIGA.encode()))
 
     # Names that stand twice, or that a section file or a folder cannot hold apart.
     esito = lotto(["--sezio", os.path.join(base, "nomi"), "--disegni", piena], con_nome + "".join(
