@@ -18,6 +18,11 @@ done
 # was left half done or taken away, and leaves what the user has.
 if [ -e "$dove/bin/tarvel1-avvia" ]; then
   unset XDG_DATA_HOME
+  for n in 1 2 3 4 5 6 7 8; do # first starts at once
+    HOME="$dove/insieme$((n / 4))" "$dove/bin/tarvel1-avvia" --cartella >/dev/null &
+    avviati+=($!)
+  done
+  for avviato in "${avviati[@]}"; do wait "$avviato"; done
   export HOME="$dove/CITTÀ €, casa"
   radice=$("$dove/bin/tarvel1-avvia" --cartella)
   sed -i '1s/.*/123\r/' "$radice/custom/CapSezDe.txt"
@@ -33,6 +38,14 @@ if [ -e "$dove/bin/tarvel1-avvia" ]; then
     { echo "cartelle: $lavori"; exit 1; }
   "$dove/bin/tarvel1-headless" --script "$(dirname "$0")/../../esempi/sessione.txt" "|diroot=$radice|" >/dev/null
   [ -s "$radice/Lavori/PR0042/sezio_ut" ] || { echo "non vi si lavora"; exit 1; }
+  # It follows a home that is renamed; where the user's own place for jobs is away for now, it waits.
+  mv "$HOME" "$dove/altra CITTÀ €"
+  HOME="$dove/altra CITTÀ €"
+  for detta in "\"$HOME/.local/share/tarvel1/Lavori\"" '"/media/chiave/tarvel1/Lavori"'; do
+    radice=$("$dove/bin/tarvel1-avvia" --cartella)
+    [ "$(iconv -f CP1252 -t UTF-8 "$radice/impostazioni/dirlav")" = "$detta"$'\r' ] || { echo "dirlav: non $detta"; exit 1; }
+    echo $'"/media/chiave/tarvel1/Lavori"\r' >"$radice/impostazioni/dirlav"
+  done
 fi
 cd "$dove/share"
 for file in doc/tarvel1/guida{,-esempio}.md doc/tarvel1/immagini/{finestra.png,punti.svg} icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
