@@ -26,13 +26,28 @@ metti() {
 # usage: prepara_radice ROOT DATA VIEWER. Adds what the root lacks of what the program looks for; what is
 # there is the user's.
 prepara_radice() {
-  local radice=$1 dati=$2 visore=$3 file lavoro sua
-  mkdir -p "$radice" && mkdir -p "$radice"/{Lavori,progra,driver,custom,impostazioni} || return
+  mkdir -p "$1" || return
+  # One start at a time, of two at once; a file system without locks has to do without.
+  { flock 9 2>/dev/null; completa_radice "$@" 9<&-; } 9<"$1"
+}
+
+completa_radice() {
+  local radice=$1 dati=$2 visore=$3 file lavoro sua detta prima
+  mkdir -p "$radice"/{Lavori,progra,driver,custom,impostazioni} || return
   for file in "$dati"/{custom,impostazioni}/*; do
     metti "$radice${file#"$dati"}" <"$file" || return
   done
   # In quotes, or the folder would end at a comma.
   sua=$(printf '"%s"' "$radice/Lavori" | iconv -f UTF-8 -t CP1252)
+  # A home that was renamed: the setting, as it is written here, names the same folder of one that is gone.
+  if [ -e "$radice/impostazioni/dirlav" ]; then
+    detta=$(head -n 1 "$radice/impostazioni/dirlav" | tr -d '\r' | iconv -f CP1252 -t UTF-8)
+    prima=${detta#\"} prima=${prima%\"}
+    case $detta in
+      '"/'*/.local/share/tarvel1/Lavori'"')
+        [ -e "$prima" ] || [ "${radice%/.local/share/tarvel1}" = "$radice" ] || rm "$radice/impostazioni/dirlav" ;;
+    esac
+  fi
   printf '%s\r\n' "$sua" | metti "$radice/impostazioni/dirlav" || return
   # The job's folder, where the jobs are kept here.
   if [ "$(head -n 1 "$radice/impostazioni/dirlav" | tr -d '\r')" = "$sua" ]; then

@@ -124,7 +124,7 @@ FormatoCsv RiconosciCodifica(LettoreCsv& lettore) {
   Riempi(lettore);
   const std::string_view inizio = lettore.blocco;
   const auto rifiuta = [](const char* cosa) { throw ErroreFatale(TipoErrore::Formato, cosa); };
-  if (inizio.starts_with("PK\x03\x04"))
+  if (inizio.starts_with("PK\x03\x04") || inizio.starts_with("\xD0\xCF\x11\xE0"))
     rifiuta("è una cartella di lavoro: va salvata dal foglio di calcolo come CSV"_t.c_str());
   if (inizio.starts_with("\xFF\xFE") || inizio.starts_with("\xFE\xFF") || inizio.find('\0') != npos)
     rifiuta("è in UTF-16: va salvato come CSV UTF-8"_t.c_str());

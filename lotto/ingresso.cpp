@@ -65,6 +65,7 @@ std::optional<RecordCsv> Comincia(Ingresso& ingresso, const std::string& file) {
   if (!primo) return primo;
   const auto dove = [&] { return "riga " + std::to_string(primo->riga); };
   lettore.separatore = tracciato->formato.separatore = RiconosciSeparatore(primo->testo);
+  if (!ingresso.formato) ingresso.formato = tracciato->formato;
   std::vector<std::string> celle;
   Celle(primo->testo, lettore.separatore, celle);
   if (primo->guasto != nullptr) throw ErroreFatale(TipoErrore::Formato, primo->guasto, dove());

@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@ struct Ingresso {
   std::ifstream flusso;
   std::unique_ptr<LettoreCsv> lettore;  // of the file that is being read
   std::shared_ptr<const Tracciato> tracciato;
+  std::optional<FormatoCsv> formato;  // of the first file that has a record
   long long righe = 0;  // read so far
 };
 

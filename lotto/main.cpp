@@ -93,8 +93,9 @@ bool Leggi(Lotto& l, std::vector<Riga>& righe) {
     return false;
   }
   const bool altre = LeggiRighe(l.ingresso, righe);
-  if (!l.deciso && l.ingresso.tracciato) {
-    l.uscita.formato = l.ingresso.tracciato->formato;
+  // A block of rows may be of several files.
+  if (!l.deciso && l.ingresso.formato) {
+    l.uscita.formato = *l.ingresso.formato;
     l.deciso = true;
   }
   return altre;

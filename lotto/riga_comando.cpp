@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "base/errore.h"
+#include "platform/comune/terminale.h"
 #include "platform/file.h"
 
 namespace tarvel::lotto {
@@ -77,6 +78,10 @@ void Controlla(const Richieste& r) {
     Rifiuta("--opzioni: il file " + r.opzioni + " non si legge");
   if (!r.disegni.empty() && GenereFile(r.disegni) != TipoVoce::Cartella)
     Rifiuta("--disegni: la cartella " + r.disegni + " non esiste");
+  // Rows added to the file that is being read would be read in turn, without end.
+  if (std::any_of(r.ingressi.begin(), r.ingressi.end(), UscitaNelFile) ||
+      (!r.da.empty() && UscitaNelFile(InUtf8(r.da))))
+    Rifiuta("legge e scrive lo stesso file: le righe calcolate vanno in un altro");
   if (r.sezio.empty()) return;
   // A file of sections may be a job's only one.
   if (GenereFile(r.sezio) != TipoVoce::Assente)
@@ -130,8 +135,8 @@ Richieste LeggiRichieste(std::span<const std::string> argomenti) {
       *p->percorso = Percorso(*a);
   }
   if (r.aiuto || r.versione) return r;
-  Controlla(r);
   if (r.da.empty() && r.ingressi.empty()) r.ingressi.emplace_back("-");
+  Controlla(r);
   return r;
 }
 

@@ -1,10 +1,16 @@
-// What a filter asks of its host: whether somebody is watching, and to be told of a pipe that was closed.
+// What a filter asks of its host: whether somebody is watching, where its rows go, and to be told of a pipe
+// that was closed.
 #pragma once
+
+#include <string>
 
 namespace tarvel {
 
 /// Rows go to a file or a program while somebody watches the messages: a progress line disturbs nobody.
 bool SoltantoErroriSulTerminale();
+
+/// The standard output goes into this very file: its path in UTF-8, or "-" for the standard input.
+bool UscitaNelFile(const std::string& percorso);
 
 /// From now on writing into a pipe that nobody reads any more fails, rather than ends the program.
 void NonFinireColTubo();

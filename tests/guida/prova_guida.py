@@ -6,7 +6,8 @@ remade, its links followed.
 
 A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
 example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
-LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values. Of a line "= ..." the last word, or after a name of CAMPI_INTERI the whole
+LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values, "ordine N"
+presses the buttons of the steps in the Nth column of the page's table of orders. Of a line "= ..." the last word, or after a name of CAMPI_INTERI the whole
 rest, has to stand in the text under the same heading too; a line "~ ..." is compared with the program alone:
     = NAME FIELD VALUE           a section of the file: larghezza, ZG, An, O10y, P14.tauVy, punti, ...
     = calcolo EXPRESSION VALUE   of such values of the only section
@@ -26,11 +27,13 @@ DOCS = os.path.join(QUI, "..", "..", "docs")
 sys.dont_write_bytecode = True
 sys.path[:0] = [os.path.join(QUI, "..", "app"), os.path.join(DOCS, "immagini")]
 from installazione import ESEMPIO, installa  # noqa: E402
-from schizzi import SCHIZZI  # noqa: E402
+from finestre import LETTERE  # noqa: E402
+from schizzi import SCHIZZI, TOZZA, Foglio  # noqa: E402
 
 HEADLESS, LOTTO, OSTREL, *_ = [*(os.path.abspath(p) for p in sys.argv[1:]), None]
 DOMANDA_FINALE = 'a question without an answer: "INFORMAZIONE" "Sezione non salvata. Salvare?"'
 CAMPI_INTERI = ("riga", "messaggio", "disegno", "elenco")
+BOTTONI = {"Anteprima": "Command4", "Calcola": "Calcolo", "Salva": "Command2"}
 errori = 0
 
 
@@ -86,6 +89,10 @@ class Prova:
                 elif verbo == "tabella":
                     for numero, valore in re.findall(r"\| (\d+) \| [^|]+ \| ([-\d.]+) (?=\|)", pagina):
                         self.copione.append(f"type Text1({numero}) {valore}")
+                elif verbo == "ordine":
+                    for passi in re.findall(r"^\| \d\. \*\*.*$", pagina, re.M):
+                        colonna = passi.split("|")[int(resto)]
+                        self.copione.append("click " + BOTTONI[re.search(r"\*\*(\w+)\*\*", colonna)[1]])
                 elif verbo == "ripeti":
                     quante, _, corpo = resto.partition(" ")
                     self.copione += [(c % k if "%" in c else c) for k in range(1, int(quante) + 1)
@@ -188,6 +195,24 @@ def prove():
 
 
 def schizzi():
+    # What a dimension line measures is the dimension whose number follows it.
+    misure = {}
+    quota, numero = Foglio.quota, Foglio.numero
+
+    def quotata(foglio, a, b, colore):
+        misure["ultima"] = abs(a[0] - b[0]) + abs(a[1] - b[1]), foglio.scala
+        quota(foglio, a, b, colore)
+
+    def numerata(foglio, p, n, colore):
+        if isinstance(n, int) and n < 16 and "ultima" in misure:
+            lunga, scala = misure.pop("ultima")
+            misure[n] = round(lunga / scala)
+        numero(foglio, p, n, colore)
+
+    Foglio.quota, Foglio.numero = quotata, numerata
+    SCHIZZI["dimensioni.svg"](HEADLESS)
+    Foglio.quota, Foglio.numero = quota, numero
+    controlla("dimensioni.svg", "quote", [misure.get(n) for n in range(16)], [int(v) for v in TOZZA[:16]])
     for nome, disegna in SCHIZZI.items():
         fatto = leggi(os.path.join(DOCS, "immagini", nome))
         controlla(nome, "schizzo", "da rifare con docs/immagini/fai" if disegna(HEADLESS) != fatto else "", "")
@@ -274,6 +299,20 @@ def rimandi():
     controlla("immagini", "byte", peso < 1000000, True)
 
 
+def lettere():
+    """The letters stand at the commands that the table gives them."""
+    tabella = dict(re.findall(r"\*\*([A-L])\*\* \| ([^|]+?) (?=\|)", leggi(os.path.join(DOCS, "guida.md"))))
+    with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
+        installa(radice)
+        detto = subprocess.run([HEADLESS, f"|diroot={radice}|"], text=True, stdout=subprocess.PIPE, timeout=60, check=True,
+                               input="".join(f"print {nome}\n" for nome in LETTERE.values()) + "close\n").stdout
+    scritte = dict(re.findall(r'^text (\w+) "(.*)"$', detto, re.M))
+    for lettera, nome in LETTERE.items():
+        if nome not in ("nome", "nomute"):
+            controlla("guida.md", lettera, scritte[nome], tabella[lettera])
+    controlla("guida.md", "lettere", sorted(tabella), sorted(LETTERE))
+
+
 def messaggi():
     """The messages of the table are said by a source; the keys of the viewer's table are those of its menus."""
     sorgenti = "".join(leggi(os.path.join(radice, n)) for cartella in ("app", "base", "model", "options", "lavoro", "preview",
@@ -285,6 +324,9 @@ def messaggi():
     menu = leggi(os.path.join(QUI, "..", "..", "viewer", "menu.cpp"))
     tasti = re.findall(r"`(.)`", leggi(os.path.join(DOCS, "guida-disegno.md")).split("| per | si fa |")[1].split("\n\n")[0])
     controlla("tasti", "del visualizzatore", [t for t in tasti if f'"{t}"' not in menu] or len(tasti) > 8, True)
+    livelli = re.search(r"`1`.*", leggi(os.path.join(DOCS, "guida-disegno.md")))[0]
+    for tasto, voce in re.findall(r"`(\d)` (\w+)", livelli):
+        controlla("tasti", voce, re.search(r'"&?Mostra [^"]*?(\w+)", \{?(?:QKeySequence\()?"%s"' % tasto, menu.replace("&", ""))[1], voce)
     righe = re.findall(r"^\| ([^|]+?) \| .* \|$", leggi(os.path.join(DOCS, "guida-messaggi.md")).split("|---|---|")[1], re.M)
     controlla("messaggi", "righe", len(righe) > 10, True)
     for messaggio in righe:
@@ -292,7 +334,7 @@ def messaggi():
             controlla("messaggi", messaggio, parte if parte in sorgenti else "in nessun sorgente", parte)
 
 
-for passo in (prove, schizzi, opzioni, *([comandi] if OSTREL else []), rimandi, messaggi):
+for passo in (prove, schizzi, opzioni, *([comandi] if OSTREL else []), rimandi, lettere, messaggi):
     passo()
 print(f"{errori} errori")
 sys.exit(errori > 0)

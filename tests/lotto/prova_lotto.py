@@ -59,7 +59,8 @@ def desktop(radice, copione, *opzioni):
 def come_il_desktop(base):
     """20 sections: the section file and every drawing byte for byte; the rows are what the file has cut."""
     caso = random.Random(7)
-    sezioni = [VALORI] + [dimensioni(caso) for _ in range(19)]
+    # Of the second the axis crosses no web: it has 13 points.
+    sezioni = [VALORI, "130 8 60 75 80 85 75 70".split() + VALORI[8:]] + [dimensioni(caso) for _ in range(18)]
     radice = os.path.join(base, "inst")
     lavoro = installa(radice)
     disegni = {"punto": os.path.join(base, "disegni"), "virgola": os.path.join(base, "disegni,"),
@@ -99,7 +100,9 @@ def come_il_desktop(base):
                 next(file)
         letti += next(file).split() + next(file).split()[:3]
         numeri += [avuti[nome] for nome in ("An", "Aty", "Atz", "Jt", "Jyg", "Jzg")]
-        for k in range(1, int(next(file)) + 1):
+        punti = int(next(file))
+        controlla(f"{riga[0]}: punti", [bool(avuti[f"P{k} tauVz"]) for k in range(1, 15)], [k <= punti for k in range(1, 15)])
+        for k in range(1, punti + 1):
             letti += next(file).split()[:2] + [next(file).split()[0] for _ in range(3)]
             numeri += [avuti[f"P{k} {nome}"].lstrip("-" if nome.startswith("tau") else "") for nome in
                        ("z", "y", "tauT", "tauVy", "tauVz")]
@@ -127,6 +130,13 @@ def come_il_desktop(base):
     esito = lotto(["--da", sezio, "--opzioni", opzioni, "--sezio", sezio + "2", "--disegni", disegni["rilette"]])
     controlla("--da", (esito.returncode, esito.stderr), (0, b""))
     uguali("--da", disegni["rilette"], sezio + "2")
+    guaste = byte(sezio).split(b"\r\n")
+    guaste[4:6] = [b"12"]  # a vertex less in the first outline
+    with open(sezio + "3", "wb") as file:
+        file.write(b"\r\n".join(guaste))
+    guasta = lotto(["--da", sezio + "3"])
+    controlla("--da: un'altra forma", (guasta.returncode, [bool(r[1]) for r in tabella(guasta)[1:4]], tabella(guasta)[1][-1]),
+              (3, [False, True, True], "Sezione non valida"))
     controlla("--da: nomi", [r[0] for r in tabella(esito)[1:]], [f"U_PO_{n:03}" for n in range(1, 21)])
     return righe
 
@@ -140,6 +150,8 @@ def forme(base):
     for n, nome in celle:
         nomi[int(n)] = {8: "altezza ", 14: "base "}.get(int(n), "") + nome if "raccordo inferiore" == nome else nome
     controlla("nomi della guida", all(nomi), True)
+    with open(os.path.join(QUI, "..", "..", "docs", "lotto.md"), encoding="utf-8") as pagina:
+        brevi = dict(re.findall(r"\| (p\d+) \| ([^|]+?) (?=\|)", pagina.read()))
     virgolette = ",".join(f'"{n}"' for n in nomi)
     giro = random.Random(3).sample(range(21), 21)
     misto = ";".join(f"P{i}" if i % 2 else nomi[i].upper() for i in giro) + ";Nome;note"
@@ -154,6 +166,10 @@ def forme(base):
         ([], misto + "\n" + riga_mista + ';perché;"due\nrighe"\n', "perché", ";", "utf-8", "\n"),
         ([], senza_accenti + "\n" + RIGA, "U_PO_001", ";", "utf-8", "\n"),
         ([], ";".join(nomi).replace(" ", "_") + ";;\n" + RIGA + ";;", "U_PO_001", ";", "utf-8", "\n"),
+        ([], ";".join(brevi[f"p{i}"] for i in range(21)) + "\n" + RIGA, "U_PO_001", ";", "utf-8", "\n"),
+        ([], misto + "\n" + riga_mista, "U_PO_001", ";", "utf-8", "\n"),
+        ([], misto + "\n" + riga_mista + ';  "a;b"c;', "a;bc", ";", "utf-8", "\n"),
+        ([], misto + "\n" + riga_mista + ";# 1", "# 1", ";", "utf-8", "\n"),
         (["--virgola"], ",".join(f'"{v}"'.replace(".", ",") for v in VALORI), "U_PO_001", ",", "utf-8", "\n"),
         (["--virgola"], RIGA.replace(".", ","), "U_PO_001", ";", "utf-8", "\n"),
         (["-", "-"], RIGA, "U_PO_001", ";", "utf-8", "\n"),
@@ -165,13 +181,24 @@ def forme(base):
         controlla(f"{testo!r}: stato", esito.returncode, 0)
         controlla(f"{testo!r}: fine riga", uscita.count(fine), uscita.count("\n"))
         controlla(f"{testo!r}: segno", esito.stdout.startswith(b"\xef\xbb\xbf"), codice == "utf-8-sig")
-        scritto = nome if '"' not in nome else '"' + nome.replace('"', '""') + '"'
+        scritto = nome if not re.search('^#|[";]', nome) else '"' + nome.replace('"', '""') + '"'
         righe_uscita = uscita.splitlines()
         trovato = righe_uscita[1] if len(righe_uscita) == 2 else uscita
         numeri = [v.replace(".", ",") for v in atteso] if "--virgola" in argomenti else atteso
         if "--virgola" in argomenti and separatore == ",":
             numeri = [f'"{v}"' if v else "" for v in numeri]
         controlla(f"{testo!r}", trovato, separatore.join([scritto, *numeri]))
+    # A letter of two bytes where one block ends and the next begins.
+    for nome in ("è" * 3000, "a" + "è" * 3000):
+        esito = lotto([], f"nome;{INTESTAZIONE}\n" + f"{nome};{RIGA}\n" * 20)
+        controlla("codifica", [r[0] for r in tabella(esito)[1:]] == [nome] * 20, True)
+    # The first file's separator, line end and code, also where a block of rows is of several.
+    seconda = os.path.join(base, "seconda.csv")
+    with open(seconda, "w", encoding="utf-8", newline="") as file:
+        file.write(RIGA.replace(";", ",") + "\n")
+    esito = lotto(["-", seconda], "\ufeff" + RIGA.replace(";", "\t") + "\r\n")
+    controlla("due file", esito.stdout.decode("utf-8-sig").split("\r\n")[1:],
+              ["\t".join([nome, *atteso]) for nome in ("U_PO_001", "U_PO_002")] + [""])
 
 
 def cambiata(**celle):
@@ -216,7 +243,9 @@ def sbagliate(base):
          'manca soletta mezzeria (p7); nomi non riconosciuti: "spessore"'),
         ([], INTESTAZIONE.replace("p8", "raccordo inferiore") + "\n", 1, "ambiguo"),
         ([], "PK\x03\x04", 1, "cartella di lavoro"),
+        ([], b"\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1" + bytes(500), 1, "cartella di lavoro"),
         ([], RIGA.encode("utf-16"), 1, "UTF-16"),
+        (["--", "-manca.csv"], "", 1, "il file non si legge (-manca.csv)"),
         (["manca.csv"], "", 1, "il file non si legge (manca.csv)"),
         (["--da", "manca"], "", 1, "File manca non trovato"),
         (["--da", __file__], "", 1, "riga 1"),
@@ -237,16 +266,34 @@ def sbagliate(base):
         controlla(f"{argomenti} {testo[:40]!r}", (esito.returncode, detto in messaggio, messaggio), (stato, True, messaggio))
         controlla(f"{argomenti}: righe", len(tabella(esito)) <= 1, True)
 
+    # One cell with the other decimal sign among proper ones is that row's mistake.
+    controlla("una virgola", lotto([], cambiata(p1="25,5") + "\n" + RIGA).returncode, 3)
+
+    # Rows added to what is being read would never end.
+    stesso = os.path.join(base, "stesso.csv")
+    for argomenti in ([stesso], ["manca", stesso], [], ["--da", stesso]):
+        with open(stesso, "w+") as file:
+            file.write(RIGA)
+            file.seek(0)
+            esito = subprocess.run([*EMULATORE, LOTTO, *argomenti], stdin=file, stdout=open(stesso, "a"),
+                                   stderr=subprocess.PIPE, timeout=60)
+        controlla(f"{argomenti}: stesso file", (esito.returncode, b"lo stesso file" in esito.stderr, byte(stesso)),
+                  (2, True, RIGA.encode()))
+
     # Names that stand twice, or that a section file or a folder cannot hold apart.
     esito = lotto(["--sezio", os.path.join(base, "nomi"), "--disegni", piena], con_nome + "".join(
-        f"{n};{RIGA}\n" for n in ("variante_1", "variante_1", "variante_2", '"a,b"', "")))
+        f"{n};{RIGA}\n" for n in ("variante_1", "variante_1", "variante_2", '"a,b"', "", '"""q"', '"x\ny"')) + "1;2\n")
     controlla("nomi", [(r[0], bool(r[1]), r[-1].split(" ")[:2]) for r in tabella(esito)[1:]],
               [("variante_1", True, [""]), ("variante_1", True, ["il", "nome"]), ("variante_2", True, ["il", "disegno"]),
-               ("a,b", True, ["un", "file"]), ("U_PO_005", True, [""])])
+               ("a,b", True, ["un", "file"]), ("U_PO_005", True, [""]), ('"""q"', True, ["un", "file"]),
+               ("x y", False, ["il", "nome"]), ("1", False, ["colonne:", "2"])])
+    controlla("nomi: righe", re.findall(r"\(riga \d+\)", esito.stdout.decode()), ["(riga 8)", "(riga 10)"])
     controlla("nomi: sezio_ut", byte(os.path.join(base, "nomi"))[:1], b"3")
     controlla("nomi: disegni", sorted(os.listdir(piena)), ["U_PO_005.dis", "variante.dis"])
-    oltre = lotto(["--sezio", os.path.join(base, "501")], f"{RIGA}\n" * 501)
-    controlla("501", (oltre.returncode, len(tabella(oltre)), os.path.exists(os.path.join(base, "501"))), (1, 502, False))
+    for quante, stato in ((500, 0), (501, 1)):
+        sezio = os.path.join(base, str(quante))
+        esito = lotto(["--sezio", sezio], f"{RIGA}\n" * quante)
+        controlla(quante, (esito.returncode, len(tabella(esito)), os.path.exists(sezio)), (stato, quante + 1, stato == 0))
 
 
 def memoria(righe):
@@ -271,8 +318,26 @@ def memoria(righe):
     return massima
 
 
+def tubo_chiuso():
+    """Whoever was reading has had enough: no message, whatever the program was told of such signals."""
+    for preparazione in (None, lambda: signal.signal(signal.SIGPIPE, signal.SIG_DFL)):
+        with subprocess.Popen([*EMULATORE, LOTTO, "-"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                              preexec_fn=preparazione) as processo:
+            processo.stdout.close()
+            try:
+                processo.stdin.write(f"{RIGA}\n".encode() * 20000)
+                processo.stdin.flush()
+            except BrokenPipeError:
+                pass
+            controlla("tubo chiuso", (processo.wait(60), processo.stderr.read()), (141, b""))
+            try:
+                processo.stdin.close()
+            except BrokenPipeError:
+                pass
+
+
 def fine(base):
-    """Order, memory, Ctrl+C, a closed pipe, a full disk, a watcher's line."""
+    """Order, memory, Ctrl+C, a full disk, a watcher's line."""
     tante = "".join(cambiata(p0=str(150 + n % 200)) + "\n" for n in range(5000))
     una, otto = (lotto(["--punti", "--processi", n], tante).stdout for n in ("1", "8"))
     controlla("ordine", una == otto and una.count(b"\n") == 5001, True)
@@ -295,20 +360,6 @@ def fine(base):
         larghe = {riga.count(b";") for riga in uscita.splitlines()}
         controlla("interrotto: righe intere", (larghe, uscita[-1:], len(uscita.splitlines()) > 1000), ({11}, b"\n", True))
     controlla("interrotto: sezio_ut", os.path.exists(os.path.join(base, "interrotto")), False)
-    for preparazione in (None, lambda: signal.signal(signal.SIGPIPE, signal.SIG_DFL)):
-        with subprocess.Popen([LOTTO, "-"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-                              preexec_fn=preparazione) as processo:
-            processo.stdout.close()
-            try:
-                processo.stdin.write(f"{RIGA}\n".encode() * 20000)
-                processo.stdin.flush()
-            except BrokenPipeError:
-                pass
-            controlla("tubo chiuso", (processo.wait(10), processo.stderr.read()), (141, b""))
-            try:
-                processo.stdin.close()
-            except BrokenPipeError:
-                pass
     with open("/dev/full", "w") as pieno:
         esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
         controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
@@ -321,6 +372,7 @@ with tempfile.TemporaryDirectory(prefix="Lotto_") as temporanea:
     come_il_desktop(temporanea)
     forme(temporanea)
     sbagliate(temporanea)
+    tubo_chiuso()
     if not EMULATORE:
         fine(temporanea)
 print(f"{errori} errori")
