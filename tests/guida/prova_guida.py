@@ -325,7 +325,7 @@ def messaggi():
     tasti = re.findall(r"`(.)`", leggi(os.path.join(DOCS, "guida-disegno.md")).split("| per | si fa |")[1].split("\n\n")[0])
     controlla("tasti", "del visualizzatore", [t for t in tasti if f'"{t}"' not in menu] or len(tasti) > 8, True)
     livelli = re.search(r"`1`.*", leggi(os.path.join(DOCS, "guida-disegno.md")))[0]
-    for tasto, voce in re.findall(r"`(\d)` (\w+)", livelli):
+    for tasto, voce in re.findall(r"`(\d)` (?:\w+ )*(\w+)", livelli):
         controlla("tasti", voce, re.search(r'"&?Mostra [^"]*?(\w+)", \{?(?:QKeySequence\()?"%s"' % tasto, menu.replace("&", ""))[1], voce)
     righe = re.findall(r"^\| ([^|]+?) \| .* \|$", leggi(os.path.join(DOCS, "guida-messaggi.md")).split("|---|---|")[1], re.M)
     controlla("messaggi", "righe", len(righe) > 10, True)
