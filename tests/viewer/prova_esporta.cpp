@@ -78,6 +78,8 @@ TEST(Dxf, OgniElementoNelSuoLivello) {
 }
 
 TEST(Dxf, ValoriDegliElementi) {
+  const std::string andata = prove::ConRiga(prove::kUnoPerGenere, 14, " 1  0  3  0 ");
+  EXPECT_EQ(Elementi(ScriviDxf(prove::Letto(andata)).value())["LINE CONTORNO"], 2) << "there and back";
   Disegno d = prove::Letto(prove::kUnoPerGenere);
   d.scritte[0].testo = "5%% a^b \xE8";
   const std::string dxf = ScriviDxf(d).value();

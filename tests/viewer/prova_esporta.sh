@@ -54,6 +54,7 @@ prova 2 '--scala vuole anche --unita' --esporta a.pdf --scala 1:50 s.dis
 prova 2 '--scala: una scala, come 1:50' --esporta a.pdf --unita cm --scala=5:1 s.dis
 prova 2 '--unita: mm, cm o m, non "piedi"' --esporta a.pdf --unita piedi s.dis
 prova 2 '--carta vale soltanto per il PDF' --esporta a.dxf --carta A3 s.dis
+prova 2 'troppi argomenti' s.dis vuoto.dis
 prova 2 '--comunque vale soltanto con --esporta' --comunque s.dis
 prova 2 'dopo --tipo manca il valore' --esporta . --tipo
 prova 1 'Ci sta a 1:50. A 1:20 basta un foglio A1 orizzontale.' --esporta a.pdf --unita cm --scala 20 s.dis
@@ -83,6 +84,9 @@ grep -aq '^/Count 2$' insieme.pdf
 [ "$(grep -ao 'MediaBox [^]]*' diversi.pdf | cut -d' ' -f4 | xargs)" = '842.000000 595.000000 842.000000' ]
 prova 1 'vuoto.dis: non' --esporta niente.pdf vuoto.dis vuoto.dis
 [ ! -e niente.pdf ]
+
+truncate -s 65M grande.dis
+prova 1 'troppo grande per un disegno (65 MB' --esporta grande.svg grande.dis
 
 "$ostrel" -h >aiuto
 "$ostrel" --aiuto | cmp - aiuto

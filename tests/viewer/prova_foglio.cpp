@@ -66,7 +66,8 @@ TEST(Foglio, CioCheNonCiSta) {
   const std::string esteso = prove::ConRiga(prove::kUnoPerGenere, 8, "-1.5E+308  1.5E+308  0 ");
   const Disegno smisurato = prove::Letto(esteso);
   const Resa resa{Unita::Metri, 1};
-  EXPECT_TRUE(Esamina(smisurato, resa, Pagina(smisurato, resa)).value().assurda);
+  const Obiezione assurda = Esamina(smisurato, resa, Pagina(smisurato, resa)).value();
+  EXPECT_TRUE(assurda.assurda && assurda.testo.contains("misura più di un chilometro"));
   const QTemporaryDir cartella;
   EXPECT_EQ(Esporta(smisurato, cartella.filePath("e.pdf"), resa), std::nullopt);
 }

@@ -93,10 +93,10 @@ TEST_F(ConFinestra, TastiERettangoloEntroILimiti) {
 
 TEST(Aggancio, IlPostoPiuVicino) {
   Disegno d;
-  d.coordinate = {{0, 0}, {10, 0}, {10.01, 0}, {10.01, 5}, {5, -2},
-                  {5, 2}, {20, 0}, {22, 0},    {20, 2},    {30, 3}};
+  d.coordinate = {{0, 0},  {10, 0}, {10.01, 0}, {10.01, 5}, {5, -2}, {5, 2},
+                  {20, 0}, {22, 0}, {20, 2},    {30, 3},    {40, 0}, {41, 0}};
   d.linee = {{0, 1}, {2, 3}, {4, 5}};
-  d.archi = {{6, 7, 8}};
+  d.archi = {{6, 7, 8}, {10, 11, 11}};
   d.punti = {{9}};
   const struct {
     Coordinata vicino;
@@ -115,6 +115,7 @@ TEST(Aggancio, IlPostoPiuVicino) {
       {{22.1, 0.2}, 1, {{22, 0}}},
       {{15, 0.2}, 1, std::nullopt},
       {{30.1, 3.1}, 1, {{30, 3}}},
+      {{41.1, 0}, 0.5, std::nullopt},  // where a circle's line begins
   };
   for (const auto& c : casi) {
     const auto aggancio = Aggancia(d, c.vicino, c.raggio);
