@@ -20,7 +20,7 @@ struct Ingresso {
   std::unique_ptr<LettoreCsv> lettore;  // of the file that is being read
   std::shared_ptr<const Tracciato> tracciato;
   std::optional<FormatoCsv> formato;  // of the first file that has a record
-  long long righe = 0;  // read so far
+  long long righe = 0;                // read so far
 };
 
 /// Adds the next rows; false when there are none after them. A file that cannot be read, or has no proper

@@ -38,6 +38,10 @@ if [ -e "$dove/bin/tarvel1-avvia" ]; then
   [ "$("$dove/bin/tarvel1-avvia" --cartella)" = "$radice" ]
   [ "$(head -n 1 "$radice/custom/CapSezDe.txt")" = $'123\r' ] || { echo "riscritto quello dell'utente"; exit 1; }
   [ "$radice/progra/ostrel.exe" -ef "$dove/bin/ostrel" ] || { echo "ostrel.exe non è il visualizzatore"; exit 1; }
+  [ -d "$radice/driver" ] || { echo "manca driver"; exit 1; }
+  esito=0
+  "$dove/bin/tarvel1-avvia" --boh 2>/dev/null || esito=$?
+  [ $esito = 2 ] || { echo "--boh: $esito"; exit 1; }
   lavori=$(cd "$radice" && find Lavori impostazioni | sort | tr '\n' ' ')
   [ "$lavori" = "Lavori Lavori/PR0042 impostazioni impostazioni/dirlav impostazioni/lavoro " ] ||
     { echo "cartelle: $lavori"; exit 1; }
