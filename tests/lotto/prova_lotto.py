@@ -7,53 +7,15 @@ import csv
 import os
 import random
 import re
-import shlex
-import signal
 import subprocess
 import sys
 import tempfile
-import time
 
-QUI = os.path.dirname(os.path.realpath(__file__))
-sys.path.insert(0, os.path.join(QUI, "..", "app"))
+sys.dont_write_bytecode = True
+import fine  # noqa: E402
+from banco import (EMULATORE, INTESTAZIONE, LOTTO, QUI, RIGA, VALORI, byte, cambiata, controlla, desktop,  # noqa: E402
+                   errori, lotto, tabella)
 from installazione import ESEMPIO, dimensioni, installa  # noqa: E402
-
-EMULATORE = shlex.split(os.environ.get("TARVEL_EMULATORE", ""))
-LOTTO, HEADLESS = (os.path.abspath(p) for p in sys.argv[1:3])
-VALORI = ESEMPIO.split()
-RIGA = ";".join(VALORI)
-INTESTAZIONE = ";".join(f"p{i}" for i in range(21))
-errori = 0
-
-
-def controlla(cosa, avuto, atteso):
-    global errori
-    if avuto != atteso:
-        errori += 1
-        print(f"{cosa}\n  atteso: {atteso!r}\n  avuto:  {avuto!r}")
-
-
-def lotto(argomenti, ingresso=b"", **altro):
-    if isinstance(ingresso, str):
-        ingresso = ingresso.encode()
-    return subprocess.run([*EMULATORE, LOTTO, *argomenti], input=ingresso, capture_output=True, timeout=120, **altro)
-
-
-def tabella(esito, separatore=";"):
-    return [riga.split(separatore) for riga in esito.stdout.decode().splitlines()]
-
-
-def byte(percorso):
-    with open(percorso, "rb") as file:
-        return file.read()
-
-
-def desktop(radice, copione, *opzioni):
-    with open(os.path.join(radice, "copione"), "w") as file:
-        file.write(copione)
-    esito = subprocess.run([*EMULATORE, HEADLESS, "--script", os.path.join(radice, "copione"), *opzioni, "--",
-                            f"|diroot={radice}|"], stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
-    controlla("desktop", (esito.returncode, esito.stderr), (0, b""))
 
 
 def come_il_desktop(base):
@@ -206,13 +168,6 @@ def forme(base):
     controlla("non usate", b'colonne non usate: "note"' in lotto([], misto + "\n" + riga_mista).stderr, True)
 
 
-def cambiata(**celle):
-    valori = list(VALORI)
-    for chiave, valore in celle.items():
-        valori[int(chiave[1:])] = valore
-    return ";".join(valori)
-
-
 def sbagliate(base):
     """What is wrong is said; of a row in its place, of the whole before anything is written."""
     con_nome = "nome;" + INTESTAZIONE + "\n"
@@ -302,84 +257,12 @@ def sbagliate(base):
         controlla(quante, (esito.returncode, len(tabella(esito)), os.path.exists(sezio)), (stato, quante + 1, stato == 0))
 
 
-def memoria(righe):
-    """Rows of a pipe, and what they have taken at most."""
-    blocco = f"{RIGA}\n".encode() * 1000
-    with subprocess.Popen([LOTTO, "--processi", "2"], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as processo:
-        if os.fork() == 0:
-            processo.stdout.close()
-            for _ in range(righe // 1000):
-                processo.stdin.write(blocco)
-            os._exit(0)
-        processo.stdin.close()
-        time.sleep(.5)  # a reader that is slow
-        scritte = massima = 0
-        for pezzo in iter(lambda: processo.stdout.read(1 << 16), b""):
-            scritte += pezzo.count(b"\n")
-            with open(f"/proc/{processo.pid}/status") as file:
-                massima = max([massima, *map(int, re.findall(r"VmHWM:\s+(\d+)", file.read()))])
-        stato = processo.wait()
-        os.wait()
-    controlla(f"{righe} righe", (stato, scritte), (0, righe + 1))
-    return massima
-
-
-def tubo_chiuso():
-    """Whoever was reading has had enough: no message, whatever the program was told of such signals."""
-    for preparazione in (None, lambda: signal.signal(signal.SIGPIPE, signal.SIG_DFL)):
-        with subprocess.Popen([*EMULATORE, LOTTO, "-"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-                              preexec_fn=preparazione) as processo:
-            processo.stdout.close()
-            try:
-                processo.stdin.write(f"{RIGA}\n".encode() * 20000)
-                processo.stdin.flush()
-            except BrokenPipeError:
-                pass
-            controlla("tubo chiuso", (processo.wait(60), processo.stderr.read()), (141, b""))
-            try:
-                processo.stdin.close()
-            except BrokenPipeError:
-                pass
-
-
-def fine(base):
-    """Order, memory, Ctrl+C, a full disk, a watcher's line."""
-    tante = "".join(cambiata(p0=str(150 + n % 200)) + "\n" for n in range(5000))
-    una, otto = (lotto(["--punti", "--processi", n], tante).stdout for n in ("1", "8"))
-    controlla("ordine", una == otto and una.count(b"\n") == 5001, True)
-    poche, molte = memoria(5000), memoria(100000)
-    # The sanitizer keeps what is freed.
-    with open(LOTTO, "rb") as programma:
-        custodita = b"__asan_init" in programma.read()
-    controlla(f"memoria costante ({poche} e {molte} kB)", custodita or molte < poche + 2000, True)
-    for segnale in (signal.SIGINT, signal.SIGTERM):
-        with tempfile.TemporaryFile() as file, subprocess.Popen(
-                [LOTTO, "--sezio", os.path.join(base, "interrotto")], stdin=subprocess.PIPE, stdout=file,
-                stderr=subprocess.PIPE) as processo:
-            processo.stdin.write(f"{RIGA}\n".encode() * 3000)
-            processo.stdin.flush()
-            time.sleep(.5)  # the rows that have come are written, the others never come
-            processo.send_signal(segnale)
-            controlla("interrotto", (processo.wait(10), b"interrotto dopo" in processo.stderr.read()), (130, True))
-            file.seek(0)
-            uscita = file.read()
-        larghe = {riga.count(b";") for riga in uscita.splitlines()}
-        controlla("interrotto: righe intere", (larghe, uscita[-1:], len(uscita.splitlines()) > 1000), ({11}, b"\n", True))
-    controlla("interrotto: sezio_ut", os.path.exists(os.path.join(base, "interrotto")), False)
-    with open("/dev/full", "w") as pieno:
-        esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
-        controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
-    padrone, terminale = os.openpty()
-    subprocess.run([LOTTO], input=tante.encode() * 40, stdout=subprocess.DEVNULL, stderr=terminale)
-    controlla("avanzamento", b" righe, 0 con errore" in os.read(padrone, 1 << 16), True)
-
-
 with tempfile.TemporaryDirectory(prefix="Lotto_") as temporanea:
     come_il_desktop(temporanea)
     forme(temporanea)
     sbagliate(temporanea)
-    tubo_chiuso()
+    fine.tubo_chiuso()
     if not EMULATORE:
-        fine(temporanea)
-print(f"{errori} errori")
-sys.exit(errori > 0)
+        fine.fine(temporanea)
+print(f"{len(errori)} errori")
+sys.exit(bool(errori))
