@@ -1,0 +1,166 @@
+"""The sessions in the guide's pages, played.
+
+A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
+example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
+LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values, "ordine N"
+presses the buttons of the steps in the Nth column of the page's table of orders. Of a line "= ..." the last word,
+or after a name of CAMPI_INTERI the whole rest, has to stand in the text under the same heading too; a line "~ ..."
+is compared with the program alone:
+    = NAME FIELD VALUE           a section of the file: larghezza, ZG, An, O10y, P14.tauVy, punti, ...
+    = calcolo EXPRESSION VALUE   of such values of the only section
+    = casella N TEXT             what a box shows     = messaggio TEXT    a message box has said
+    = riga TEXT                  a line of the file   = disegno TEXT      a text of a drawing
+    = nomi generale|lavoro A B   a file's sections    = file A B          the drawings of the job
+    = elenco TEXT                a list's entries     = lotto FIELD VALUE the beginning of the filter's figure
+"""
+import os
+import re
+import subprocess
+import sys
+import tempfile
+
+QUI = os.path.dirname(os.path.realpath(__file__))
+sys.path.insert(0, os.path.join(QUI, "..", "app"))
+from installazione import ESEMPIO, installa  # noqa: E402
+
+HEADLESS, LOTTO, OSTREL, *_ = [*(os.path.abspath(p) for p in sys.argv[1:]), None]
+DOMANDA_FINALE = 'a question without an answer: "INFORMAZIONE" "Sezione non salvata. Salvare?"'
+CAMPI_INTERI = ("riga", "messaggio", "disegno", "elenco")
+BOTTONI = {"Anteprima": "Command4", "Calcola": "Calcolo", "Salva": "Command2"}
+errori = []
+
+
+def controlla(dove, cosa, avuto, atteso):
+    if avuto != atteso:
+        errori.append(cosa)
+        print(f"{dove}: {cosa}\n  guida:     {atteso}\n  programma: {avuto}")
+
+
+def leggi(percorso, codice="utf-8"):
+    with open(percorso, encoding=codice) as file:
+        return file.read()
+
+
+def sezioni(percorso):
+    """What a section file holds: by name, its figures as they are written."""
+    righe = iter(leggi(percorso, "cp1252").splitlines())
+    trovate = {}
+    for _ in range(int(next(righe))):
+        voci = trovate[next(righe)] = {}
+        voci.update(zip(("larghezza", "altezza", "ZG", "YG"), next(righe).split()))
+        for lettera in "OC"[:int(next(righe))]:
+            for v in range(int(next(righe)), 0, -1):
+                voci[f"{lettera}{v}z"], voci[f"{lettera}{v}y"] = next(righe).split()[:2]
+        voci.update(zip(("An", "Aty", "Atz"), next(righe).split()))
+        voci.update(zip(("Jt", "Jyg", "Jzg"), next(righe).split()))
+        voci["punti"] = next(righe)
+        for k in range(1, int(voci["punti"]) + 1):
+            voci[f"P{k}.z"], voci[f"P{k}.y"] = next(righe).split()[:2]
+            voci.update((f"P{k}.{tau}", next(righe).split()[0]) for tau in ("tauT", "tauVy", "tauVz"))
+        next(righe), next(righe)
+    return trovate
+
+
+class Prova:
+    """One commented session: its lines so far are played as far as each thing it comes to."""
+
+    def __init__(self, dove, righe, visibile, pagina):
+        self.dove, self.visibile, self.copione, self.detto = dove, visibile, [], ""
+        with tempfile.TemporaryDirectory(prefix="Guida_") as base:
+            self.base, self.passo = base, 0
+            self.nuova()
+            for n, riga in enumerate(righe):
+                verbo, _, resto = riga.partition(" ")
+                if verbo in "=~":
+                    self.confronta(resto, verbo == "=")
+                elif verbo == "riavvia":
+                    self.gioca()
+                    self.copione, self.inizio = [], self.radice
+                elif verbo == "zeri":
+                    os.remove(os.path.join(self.radice, "custom", "CapSezDe.txt"))
+                elif verbo == "tabella":
+                    for numero, valore in re.findall(r"\| (\d+) \| [^|]+ \| ([-\d.]+) (?=\|)", pagina):
+                        self.copione.append(f"type Text1({numero}) {valore}")
+                elif verbo == "ordine":
+                    for passi in re.findall(r"^\| \d\. \*\*.*$", pagina, re.M):
+                        colonna = passi.split("|")[int(resto)]
+                        self.copione.append("click " + BOTTONI[re.search(r"\*\*(\w+)\*\*", colonna)[1]])
+                elif verbo == "ripeti":
+                    quante, _, corpo = resto.partition(" ")
+                    self.copione += [(c % k if "%" in c else c) for k in range(1, int(quante) + 1)
+                                     for c in corpo.split(" / ")]
+                else:
+                    self.copione.append(riga)
+                if n + 1 == len(righe):
+                    self.gioca()
+
+    def nuova(self):
+        self.inizio = self.radice = os.path.join(self.base, "inst")
+        installa(self.radice)
+        with open(os.path.join(self.radice, "custom", "CapSezDe.txt"), "w", newline="") as file:
+            file.write(ESEMPIO)
+
+    def gioca(self, *altre):
+        """The lines so far, on a copy of what was there when they began."""
+        self.passo += 1
+        originale, self.radice = self.inizio, os.path.join(self.base, "copia%d" % self.passo)
+        subprocess.run(["cp", "-a", originale, self.radice], check=True)
+        with open(os.path.join(self.radice, "impostazioni", "dirlav"), "w", newline="") as file:
+            file.write(os.path.join(self.radice, "Lavori") + "\r\n")
+        for fine in ([], ["answer no", "close"]):
+            testo = "\n".join([*self.copione, *altre, *fine]) + "\n"
+            esito = subprocess.run([HEADLESS, f"|diroot={self.radice}|"], input=testo, capture_output=True, text=True,
+                                   timeout=120)
+            if DOMANDA_FINALE not in esito.stdout + esito.stderr:
+                break
+        self.detto = esito.stdout
+        # A fatal error's message is one of those that the guide tells of.
+        if esito.returncode and "Errore irreversibile" not in self.detto:
+            controlla(self.dove, "la sessione", (esito.stdout + esito.stderr)[-300:], "giocata fino in fondo")
+
+    def nel_lavoro(self, *nome):
+        return os.path.join(self.radice, "Lavori", "PR0001", *nome)
+
+    def confronta(self, atteso, nel_testo):
+        campo, _, resto = atteso.partition(" ")
+        valore = resto if campo in CAMPI_INTERI else resto.split(" ")[-1]
+        self.gioca(*([f"print Text1({resto.split(' ')[0]})"] if campo == "casella" else ()))
+        controlla(self.dove, atteso, self.trova(campo, resto, valore), valore)
+        if nel_testo:
+            cercato = re.sub(r"^\w+ *: +", "", valore) if campo == "disegno" else valore.strip('"')
+            controlla(self.dove, atteso, cercato if re.search(
+                r"(?<![\w.-])" + re.sub(r"(\\ )+", r"\\s+", re.escape(cercato)) + r"(?!\w|\.\d)", self.visibile) else "non è nel testo", cercato)
+
+    def trova(self, campo, resto, valore):
+        if campo == "casella":
+            return re.findall(r'^text Text1\(%s\) "(.*)"$' % resto.split(" ")[0], self.detto, re.M)[-1]
+        if campo in ("messaggio", "elenco"):
+            return valore if valore in self.detto else self.detto[-300:]
+        if campo == "file":
+            controlla(self.dove, campo, sorted(os.listdir(self.nel_lavoro())), resto.split(" "))
+            return valore
+        if campo == "disegno":
+            disegni = [self.nel_lavoro(n) for n in os.listdir(self.nel_lavoro()) if n.endswith(".dis")]
+            ultimo = max(disegni, key=lambda d: os.stat(d).st_mtime_ns)
+            return valore if f"\n{valore}\n" in leggi(ultimo, "cp1252") else "manca in " + ultimo
+        if campo == "nomi":
+            quale, *nomi = resto.split(" ")
+            posto = os.path.join(self.radice, "custom", "sezio_ut") if quale == "generale" else self.nel_lavoro("sezio_ut")
+            controlla(self.dove, resto, list(sezioni(posto)), nomi)
+            return valore
+        file = self.nel_lavoro("sezio_ut")
+        if campo == "riga":
+            return valore if valore in leggi(file, "cp1252").splitlines() else "manca"
+        if campo == "lotto":
+            detto = subprocess.run([LOTTO, "--punti", "--da", file], capture_output=True, text=True).stdout
+            testa, riga = detto.splitlines()[:2]
+            intero = dict(zip(testa.split(";"), riga.split(";")))[resto.split(" ")[0].replace(".", " ")]
+            cifre, _, potenza = intero.partition("E")
+            attese, _, sua = valore.partition("E")
+            return cifre[:len(attese)] + ("E" + potenza if sua else "")
+        lette = sezioni(file)
+        if campo == "calcolo":
+            voci, = lette.values()
+            espressione = re.sub(r"P\d+\.\w+|[A-Z]\w+", lambda m: voci[m[0]], resto.split(" ")[0])
+            return f"{eval(espressione):.{len(valore.partition('.')[2])}f}"
+        return lette[campo][resto.split(" ")[0]]
