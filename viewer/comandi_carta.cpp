@@ -9,6 +9,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <algorithm>
 #include <optional>
 
@@ -37,20 +38,19 @@ bool Sostituire(const QString& percorso, QWidget* finestra) {
 }
 
 // A file of one of the kinds `finali`, its ending among them; empty: the user has thought better of it.
-QString ScegliUscita(const QString& titolo, const QString& percorso, const QStringList& finali,
+QString ScegliUscita(const QString& titolo, const Provenienza& da, const QStringList& finali,
                      const QString& genere, QWidget* finestra) {
-  const QFileInfo file(percorso);
   QStringList filtri;
   for (const QString& finale : finali) filtri << FiltroEsportazione(finale);
   const auto scelto = [&](qsizetype indice) { return std::max(indice, qsizetype{0}); };
-  QFileDialog dialogo(finestra, titolo, file.path());
+  QFileDialog dialogo(finestra, titolo, QFileInfo(da.percorso).path());
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setNameFilters(filtri);
   const auto primo = scelto(finali.indexOf(genere));
   dialogo.selectNameFilter(filtri[primo]);
   // With its ending: with another kind the toolkit puts the new ending in the place of what follows the last
   // dot.
-  dialogo.selectFile(file.completeBaseName() + '.' + finali[primo]);
+  dialogo.selectFile(da.nome + '.' + finali[primo]);
   // Asked here, about the name with its ending.
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {
@@ -175,12 +175,22 @@ QString ConFinale(const QString& percorso, const QStringList& finali, const QStr
   return percorso + (percorso.endsWith('.') ? "" : ".") + finale;
 }
 
-Esito EsportaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra) {
+Provenienza DiUnFile(const QString& percorso) {
+  return {percorso, QFileInfo(percorso).completeBaseName()};
+}
+
+Provenienza DiUnAnteprima(const Disegno& disegno, const QString& percorso) {
+  static const QRegularExpression inadatti(R"([\\/:*?"<>|])");
+  QString nome = Titolo(disegno).replace(inadatti, "_");
+  while (nome.endsWith('.')) nome.chop(1);
+  return nome.isEmpty() ? DiUnFile(percorso) : Provenienza{percorso, nome};
+}
+
+Esito EsportaDaFinestra(const Disegno& disegno, const Provenienza& da, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("esportare");
-  const Origine origine{percorso};
+  const Origine origine{da.percorso};
   SceltaResa scelta = ResaRicordata();
-  const QString uscita =
-      ScegliUscita("Esporta disegno", percorso, FinaliEsportazione(), scelta.genere, finestra);
+  const QString uscita = ScegliUscita("Esporta disegno", da, FinaliEsportazione(), scelta.genere, finestra);
   if (uscita.isEmpty()) return {};
   scelta.genere = FinaleDi(uscita);
   if (scelta.genere == kPdf) {
@@ -196,9 +206,9 @@ Esito EsportaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget
   return EsportaIn(uscita, disegno, scelta.resa, origine);
 }
 
-Esito StampaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget* finestra) {
+Esito StampaDaFinestra(const Disegno& disegno, const Provenienza& da, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("stampare");
-  const Origine origine{percorso};
+  const Origine origine{da.percorso};
   const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();
   SceltaResa scelta = ResaRicordata();
   DialogoCarta dialogo(
@@ -210,7 +220,7 @@ Esito StampaDaFinestra(const Disegno& disegno, const QString& percorso, QWidget*
   scelta.resa = dialogo.Scelta();
   RicordaResa(scelta);
   if (!senza) return MandaInStampa(disegno, scelta.resa, origine, finestra);
-  const QString uscita = ScegliUscita("Stampa in PDF", percorso, {kPdf}, kPdf, finestra);
+  const QString uscita = ScegliUscita("Stampa in PDF", da, {kPdf}, kPdf, finestra);
   return uscita.isEmpty() ? Esito{} : EsportaIn(uscita, disegno, scelta.resa, origine);
 }
 

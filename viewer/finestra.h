@@ -14,6 +14,7 @@ namespace ostrel {
 class Tela;
 enum class Strumento;
 struct Esito;
+struct Provenienza;
 
 class Finestra : public QMainWindow {
   Q_OBJECT
@@ -64,6 +65,7 @@ class Finestra : public QMainWindow {
   void Conta();
   void Sorveglia();
   void ScegliFile();
+  Provenienza Proviene() const;
   void EsportaFile();
   void StampaDisegno();
   void Riferisci(const Esito& esito);

@@ -111,7 +111,7 @@ TEST(ComandiCarta, EsportaChiedeERicorda) {
   RicordaResa({"pdf", {Unita::Centimetri, 50}});
   const auto esporta = [&](std::deque<Utente::Mossa> mosse) {
     const Utente utente(std::move(mosse));
-    const Esito esito = EsportaDaFinestra(prove::Esempio(), disegno, nullptr);
+    const Esito esito = EsportaDaFinestra(prove::Esempio(), DiUnFile(disegno), nullptr);
     EXPECT_EQ(utente.Restano(), 0u);
     EXPECT_EQ(esito.errore, "");
     return esito.conferma;
@@ -181,6 +181,19 @@ TEST_F(ConFinestra, IlFoglioPortaIlFileMostratoELUnitaScelta) {
   Comanda("stampa");
   EXPECT_EQ(utente.Restano(), 0u);
   EXPECT_EQ(tela.Misura().section('\n', 0, 0), "Distanza = 377.8826 m");
+}
+
+// Whose own name is always the same; a title may hold what a file's name may not.
+TEST_F(ConFinestra, DellAnteprimaSiProponeIlTitolo) {
+  prove::Scrivi(file, prove::ConRiga(prove::kEsempio, 388, "SEZIONE A/B:1."));
+  finestra.ApriAnteprima(QString::fromStdString(file));
+  const Utente utente({[](QDialog& dialogo) {
+    const QString proposto = dynamic_cast<QFileDialog&>(dialogo).selectedFiles().front();
+    EXPECT_EQ(proposto.section('/', -1).section('.', 0, -2), "SEZIONE A_B_1");
+    dialogo.reject();
+  }});
+  Comanda("esporta");
+  EXPECT_EQ(utente.Restano(), 0u);
 }
 
 }  // namespace
