@@ -38,7 +38,7 @@ bool Sostituire(const QString& percorso, QWidget* finestra) {
 }
 
 // A file of one of the kinds `finali`, its ending among them; empty: the user has thought better of it.
-QString ScegliUscita(const QString& titolo, const Provenienza& da, const QStringList& finali,
+QString ScegliUscita(const QString& titolo, const FileDisegno& da, const QStringList& finali,
                      const QString& genere, QWidget* finestra) {
   QStringList filtri;
   for (const QString& finale : finali) filtri << FiltroEsportazione(finale);
@@ -50,7 +50,7 @@ QString ScegliUscita(const QString& titolo, const Provenienza& da, const QString
   dialogo.selectNameFilter(filtri[primo]);
   // With its ending: with another kind the toolkit puts the new ending in the place of what follows the last
   // dot.
-  dialogo.selectFile(da.nome + '.' + finali[primo]);
+  dialogo.selectFile(da.proposto + '.' + finali[primo]);
   // Asked here, about the name with its ending.
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {
@@ -175,18 +175,18 @@ QString ConFinale(const QString& percorso, const QStringList& finali, const QStr
   return percorso + (percorso.endsWith('.') ? "" : ".") + finale;
 }
 
-Provenienza DiUnFile(const QString& percorso) {
+FileDisegno FileDi(const QString& percorso) {
   return {percorso, QFileInfo(percorso).completeBaseName()};
 }
 
-Provenienza DiUnAnteprima(const Disegno& disegno, const QString& percorso) {
+FileDisegno FileAnteprima(const Disegno& disegno, const QString& percorso) {
   static const QRegularExpression inadatti(R"([\\/:*?"<>|])");
   QString nome = Titolo(disegno).replace(inadatti, "_");
   while (nome.endsWith('.')) nome.chop(1);
-  return nome.isEmpty() ? DiUnFile(percorso) : Provenienza{percorso, nome};
+  return nome.isEmpty() ? FileDi(percorso) : FileDisegno{percorso, nome};
 }
 
-Esito EsportaDaFinestra(const Disegno& disegno, const Provenienza& da, QWidget* finestra) {
+Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("esportare");
   const Origine origine{da.percorso};
   SceltaResa scelta = ResaRicordata();
@@ -206,7 +206,7 @@ Esito EsportaDaFinestra(const Disegno& disegno, const Provenienza& da, QWidget* 
   return EsportaIn(uscita, disegno, scelta.resa, origine);
 }
 
-Esito StampaDaFinestra(const Disegno& disegno, const Provenienza& da, QWidget* finestra) {
+Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("stampare");
   const Origine origine{da.percorso};
   const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();

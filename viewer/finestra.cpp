@@ -216,17 +216,17 @@ void Finestra::ScegliFile() {
 
 // What is hidden goes neither to paper nor into files: the status line says what is. Copies, as the drawing
 // may be read anew while the user is choosing.
-Provenienza Finestra::Proviene() const {
+FileDisegno Finestra::FileMostrato() const {
   const bool anteprima = !anteprima_.isEmpty() && mostrato_ == anteprima_;
-  return anteprima ? DiUnAnteprima(tela_->Mostrato(), mostrato_) : DiUnFile(mostrato_);
+  return anteprima ? FileAnteprima(tela_->Mostrato(), mostrato_) : FileDi(mostrato_);
 }
 
 void Finestra::EsportaFile() {
-  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), Proviene(), this));
+  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), FileMostrato(), this));
 }
 
 void Finestra::StampaDisegno() {
-  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), Proviene(), this));
+  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), FileMostrato(), this));
 }
 
 // An order taken back says nothing, and leaves what was said before. With an order the unit may have been

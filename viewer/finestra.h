@@ -14,7 +14,7 @@ namespace ostrel {
 class Tela;
 enum class Strumento;
 struct Esito;
-struct Provenienza;
+struct FileDisegno;
 
 class Finestra : public QMainWindow {
   Q_OBJECT
@@ -65,7 +65,7 @@ class Finestra : public QMainWindow {
   void Conta();
   void Sorveglia();
   void ScegliFile();
-  Provenienza Proviene() const;
+  FileDisegno FileMostrato() const;
   void EsportaFile();
   void StampaDisegno();
   void Riferisci(const Esito& esito);

@@ -111,7 +111,7 @@ TEST(ComandiCarta, EsportaChiedeERicorda) {
   RicordaResa({"pdf", {Unita::Centimetri, 50}});
   const auto esporta = [&](std::deque<Utente::Mossa> mosse) {
     const Utente utente(std::move(mosse));
-    const Esito esito = EsportaDaFinestra(prove::Esempio(), DiUnFile(disegno), nullptr);
+    const Esito esito = EsportaDaFinestra(prove::Esempio(), FileDi(disegno), nullptr);
     EXPECT_EQ(utente.Restano(), 0u);
     EXPECT_EQ(esito.errore, "");
     return esito.conferma;
