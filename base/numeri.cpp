@@ -26,13 +26,13 @@ struct Cifre {
 };
 using BufferCifre = std::array<char, 32>;
 
-Cifre Scomponi(double grandezza, BufferCifre& buffer) {
+Cifre Scomponi(double grandezza, int quante, BufferCifre& buffer) {
   char* const inizio = buffer.data();
   char* const limite = inizio + buffer.size();
   const char* fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific).ptr;
   const char* e = std::find(inizio + 1, limite, 'e');
-  if (e - inizio > kCifre + 1) {
-    fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific, kCifre - 1).ptr;
+  if (e - inizio > quante + 1) {
+    fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific, quante - 1).ptr;
     e = std::find(inizio + 1, limite, 'e');
   }
   Cifre esito;
@@ -177,16 +177,11 @@ std::optional<Testo> Invariante(std::string_view testo, char decimale, char migl
   return esito;
 }
 
-}  // namespace
-
-void AccodaNumero(Testo& testo, Reale valore, char separatore, bool zeroIniziale) {
-  const double v = valore.Valore();
-  if (AccodaCentesimi(testo, v, separatore, zeroIniziale)) return;
+void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroIniziale) {
   if (v < 0) testo += '-';
   BufferCifre buffer;
-  const auto [cifre, esponente] = Scomponi(std::fabs(v), buffer);
-  // From 1E+15 upwards there are no decimals, and the shorter of both forms is written: a value of 15
-  // digits has to leave room for the next one of its line.
+  const auto [cifre, esponente] = Scomponi(std::fabs(v), quante, buffer);
+  // From 1E+15 upwards there are no decimals, and the shorter of both forms is written.
   const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + (esponente < 100 ? 4 : 5));
   if (esponente < -4 || (esponente >= kCifre && conEsponente <= esponente + 1)) {
     testo += cifre[0];
@@ -202,6 +197,23 @@ void AccodaNumero(Testo& testo, Reale valore, char separatore, bool zeroIniziale
     testo += cifre.substr(0, intere);
     if (cifre.size() < intere) testo.append(intere - cifre.size(), '0');
     if (cifre.size() > intere) (testo += separatore) += cifre.substr(intere);
+  }
+}
+
+}  // namespace
+
+void AccodaNumero(Testo& testo, Reale valore, char separatore, bool zeroIniziale) {
+  const double v = valore.Valore();
+  if (!AccodaCentesimi(testo, v, separatore, zeroIniziale))
+    AccodaCifre(testo, v, kCifre, separatore, zeroIniziale);
+}
+
+void AccodaNumeroEntro(Testo& testo, Reale valore, std::size_t spazio) {
+  const std::size_t inizio = testo.size();
+  AccodaNumero(testo, valore);
+  for (int quante = kCifre - 1; testo.size() - inizio > spazio && quante > 0; --quante) {
+    testo.resize(inizio);
+    AccodaCifre(testo, valore.Valore(), quante, '.', false);
   }
 }
 

@@ -18,6 +18,9 @@ Testo FormatoNumero(Reale valore);
 /// before it below 1 ('0,5').
 void AccodaNumero(Testo& testo, Reale valore, char separatore = '.', bool zeroIniziale = false);
 
+/// FormatoNumero with as many of the 15 digits as leave it within so many characters: 12 at least in 19.
+void AccodaNumeroEntro(Testo& testo, Reale valore, std::size_t spazio);
+
 /// The printed form: a blank in the sign's place of a number that is not negative, and one blank
 /// after it (' 13 ', '-2.5 ').
 void AccodaStampato(Testo& testo, Reale valore, char separatore = '.');

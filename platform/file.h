@@ -69,6 +69,9 @@ class FileInLettura {
   /// A whole number of 16 bits; ends as a number does.
   Intero16 LeggiVoceIntero();
 
+  /// Nothing but blank lines follows, and the character 26 that some editors put last.
+  void PretendiFine();
+
   /// "file, riga n" of the line last read from.
   Testo Luogo() const;
   [[noreturn]] void Malformato(const Testo& cosa) const;

@@ -125,4 +125,17 @@ Intero16 FileInLettura::LeggiVoceIntero() {
   return {static_cast<long long>(valore.Valore())};
 }
 
+void FileInLettura::PretendiFine() {
+  bool fine = false;
+  while (Prepara()) {
+    const Testo resto = riga_.substr(letti_);
+    rigaAperta_ = false;
+    if (resto.find_first_not_of(" \t") == Testo::npos) continue;
+    if (fine || resto != "\x1A")
+      Malformato("righe in più dopo l'ultima, o un conteggio sbagliato: \""_t + resto.substr(0, 40) + '"');
+    fine = true;
+  }
+  if (mancanza_ != Mancanza::FineFile) static_cast<void>(Preteso(std::nullopt));
+}
+
 }  // namespace tarvel
