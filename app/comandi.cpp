@@ -24,6 +24,38 @@ void Avverti(const Testo& testo) {
   MostraMessaggio(testo, "ATTENZIONE", Icona::Esclamazione);
 }
 
+// A new section with the outline of the boxes. It counts once it has that: what a fatal error keeps is whole
+// sections.
+Intero16 AggiungiSezione(const Testo& nome) {
+  const Intero16 posto = NumeroSezioni + 1;
+  RecordSezione& nuova = TabellaSezioni[posto];
+  RifaiContorno(nuova, ParametriSezione);
+  nuova.Nome = nome;
+  return NumeroSezioni = posto;
+}
+
+// Of the file that another program had written since it was read here.
+Testo DettoDiAltri(const EsitoSezioni& esito) {
+  const auto [leggibile, mancanti, diverse] = esito.confronto;
+  Testo testo = "Il file " + FileSezioni +
+                " era stato cambiato da un altro programma. Com'era è conservato in "_t + esito.altro;
+  if (!leggibile) return testo + ", ma non si legge come file di sezioni.";
+  testo += mancanti == 1 ? ": 1 sua sezione qui non c'è"_t
+                         : ": " + std::to_string(mancanti) + " sue sezioni qui non ci sono";
+  return testo + ", " + std::to_string(diverse) + (diverse == 1 ? " è diversa."_t : " sono diverse.");
+}
+
+// Writes the table, and says what came of it where that is not what was asked.
+void ScriviTabella() {
+  const EsitoSezioni esito = ScriviFileSezioni();
+  if (!esito.altro.empty()) Avverti(DettoDiAltri(esito));
+  if (esito.scritte) return;
+  Testo testo = "Problemi nella scrittura del file " + FileSezioni;
+  for (const Testo& riga : {esito.ostacolo, ConservaNonSalvate()})
+    if (!riga.empty()) testo += "\n" + riga;
+  MostraMessaggio(testo, "ERRORE", Icona::Stop);
+}
+
 }  // namespace
 
 void tarvel1::Calcolo_Click() {
@@ -36,11 +68,8 @@ void tarvel1::Calcolo_Click() {
       CalcolaCaratteristiche(TabellaSezioni[i]);
       SezioneCorrente = i;
     } else {
-      SezioneCorrente = ++NumeroSezioni;
-      RecordSezione& nuova = TabellaSezioni[NumeroSezioni];
-      Durante("contorno", [&] { CostruisciGeometria(nuova, ParametriSezione); });
-      nuova.Nome = nomeSezione;
-      CalcolaCaratteristiche(nuova);
+      SezioneCorrente = AggiungiSezione(nomeSezione);
+      CalcolaCaratteristiche(TabellaSezioni[SezioneCorrente]);
     }
   };
   Durante([&] { return SullaSezione("calcolo", nomeSezione); }, calcola, kNonCassone);
@@ -84,17 +113,17 @@ void tarvel1::SalvaSezione() {
   if (!SezioneCalcolata && !Conferma("Sezione non calcolata. Salvare comunque?")) return;
 
   // A calculated section has its slot already, the last one: an unknown name renames it.
-  if (i == 0 && !SezioneCalcolata) ++NumeroSezioni;
-  const Intero16 k = i != 0 ? i : NumeroSezioni;
   const auto aggiorna = [&] {
-    RecordSezione& r = TabellaSezioni[k];
-    Durante("contorno", [&] { CostruisciGeometria(r, ParametriSezione); });
-    r.Nome = s;
+    if (i == 0 && !SezioneCalcolata) return AggiungiSezione(s);
+    const Intero16 k = i != 0 ? i : NumeroSezioni;
+    RifaiContorno(TabellaSezioni[k], ParametriSezione);
+    TabellaSezioni[k].Nome = s;
+    return k;
   };
-  Durante([&] { return SullaSezione("salvataggio", s); }, aggiorna, kNonCassone);
-  SezioneCorrente = k;
+  SezioneCorrente = Durante([&] { return SullaSezione("salvataggio", s); }, aggiorna, kNonCassone);
 
-  ScriviFileSezioni();
+  SezioneSalvata = false;  // should it end here
+  ScriviTabella();
   SezioneSalvata = true;
   MostraMessaggio("File salvato", "INFORMAZIONE", Icona::Informazione);
   if (s.starts_with(PrefissoNome)) ++NumeroProposto;

@@ -1,45 +1,59 @@
-// What a fatal error has to save, and where.
+// What a fatal error or a failed save has to keep, and where.
 #include "app/salvataggio.h"
 
 #include <optional>
+#include <vector>
 
+#include "model/copie_sezioni.h"
 #include "model/file_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "platform/desktop.h"
-#include "platform/file.h"
 
 namespace tarvel {
 namespace {
 
-struct Salvataggio {
-  Testo percorso;
-  Testo testo;
+struct DaConservare {
+  Testo file;
+  std::vector<Testo> sezioni;
 };
-std::optional<Salvataggio> gDaParte;
+std::optional<DaConservare> gDaParte;
+// A save failed, which counts as a save for the user's next steps, and its sections could not be kept.
+bool gPerse = false;
 
-std::optional<Salvataggio> DaSalvare() {
-  if (SezioneSalvata || NumeroSezioni < 1) return std::nullopt;
-  return Salvataggio{FileSezioni + ".salvataggio", ComponiSezioniScrivibili()};
+Testo Conserva(const DaConservare& sezioni) {
+  const auto dove = ConservaSezioni(sezioni.file, FileSezioniIntero, sezioni.sezioni);
+  gPerse = !dove;
+  if (dove.value_or("").empty()) return {};
+  return "Le sezioni non ancora salvate sono nel file " + *dove;
 }
 
-Testo Salva() {
-  const auto salvataggio = gDaParte ? gDaParte : DaSalvare();
-  if (!salvataggio || !SostituisciFile(salvataggio->percorso, salvataggio->testo)) return {};
-  return "Le sezioni non ancora salvate sono nel file " + salvataggio->percorso;
+std::optional<DaConservare> NonSalvate() {
+  if ((SezioneSalvata && !gPerse) || NumeroSezioni < 1) return std::nullopt;
+  return DaConservare{FileSezioni, SezioniScrivibili()};
+}
+
+Testo ConservaAllaFine() {
+  const auto sezioni = gDaParte ? gDaParte : NonSalvate();
+  return sezioni ? Conserva(*sezioni) : Testo();
 }
 
 }  // namespace
 
 void PreparaSalvataggio() {
-  PrimaDellaFine(Salva);
+  PrimaDellaFine(ConservaAllaFine);
+}
+
+Testo ConservaNonSalvate() {
+  return Conserva({FileSezioni, SezioniScrivibili()});
 }
 
 void MettiDaParteSezioni() {
-  gDaParte = DaSalvare();
+  gDaParte = NonSalvate();
 }
 
 void LasciaSezioniDaParte() {
   gDaParte.reset();
+  gPerse = false;
 }
 
 }  // namespace tarvel

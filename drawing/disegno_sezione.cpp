@@ -194,7 +194,7 @@ void GeneraDisegno(disegno::ModoAvviso avvisi) {
   const auto genera = [&] {
     disegno::SvuotaDisegno();
     disegno::FlagDisegno = true;
-    if (!SezioneCalcolata) Durante("contorno", [&] { CostruisciGeometria(r, ParametriSezione); });
+    if (!SezioneCalcolata) RifaiContorno(r, ParametriSezione);
     DisegnaSezione(r);
     disegno::FlagDisegno = false;
     static_cast<void>(disegno::SalvaDisegno(DirLavori + NomeFileDisegno, avvisi));

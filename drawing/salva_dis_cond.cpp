@@ -9,8 +9,8 @@
 #include "drawing/disegno.h"
 #include "drawing/ottimizza.h"
 #include "platform/desktop.h"
-#include "platform/file.h"
 #include "platform/regione.h"
+#include "platform/scrittura.h"
 
 namespace tarvel::disegno {
 namespace {

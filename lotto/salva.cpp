@@ -71,8 +71,7 @@ void ScriviSezioni(const Salvataggi& s, const Testo& percorso) {
             std::to_string(kMaxSezioni));
   FileSezioni = percorso;
   NumeroSezioni = static_cast<long long>(s.nomi.size());
-  ScriviFileSezioni();
-  if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
+  if (!ScriviFileSezioni().scritte) rifiuta("il file non si crea");
 }
 
 }  // namespace tarvel::lotto

@@ -91,7 +91,7 @@ void Calcola(Riga& riga, Calcolata& c, bool conserva) {
     LeggiValori(riga, c.p);
     c.record.Nome = riga.nome;
   }
-  const auto contorno = [&] { Durante("contorno", [&] { CostruisciGeometria(c.record, c.p); }); };
+  const auto contorno = [&] { RifaiContorno(c.record, c.p); };
   const auto calcola = [&] {
     // A section of a file keeps the outline that it has there.
     if (riga.riletta == nullptr) contorno();

@@ -1,18 +1,20 @@
 // The table as a whole; its records are lines of model/righe_sezione.h.
 #include "model/file_sezioni.h"
 
-#include <algorithm>
+#include <optional>
+#include <vector>
 
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "model/righe_sezione.h"
 #include "model/tabella_sezioni.h"
 #include "platform/desktop.h"
-#include "platform/file.h"
+#include "platform/scrittura.h"
 
 namespace tarvel {
 
 Testo FileSezioni;
+bool FileSezioniIntero = true;
 Testo PrefissoNome;
 Intero16 NumeroProposto = 1;
 
@@ -26,18 +28,46 @@ Testo FileCopia() {
   return FileSezioni + ".bak";
 }
 
-Testo DoveLaCopia() {
-  return "la versione precedente è in "_t + FileCopia();
+Testo DoveLaCopia(const Testo& copia) {
+  return "la versione precedente è in "_t + copia;
 }
 
-Testo ConConteggio(Intero16 sezioni, const Testo& record) {
-  return FormatoNumero(static_cast<int>(sezioni)) + "\r\n" + record;
+// The file as it was last read or written here, to tell whether it still is; none where there was none.
+std::optional<std::uint64_t> gImpronta;
+
+// Puts the text in the place of a file that is there, once that is kept whole under another name. What
+// another program has left may be half a file: it never takes the place of the copy.
+void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
+  auto file = FileDaRiscrivere::Apri(FileSezioni);
+  const auto vecchio = file ? file->Contenuto() : std::nullopt;
+  if (!vecchio) return;
+  const bool nostro = Impronta(*vecchio) == gImpronta;
+  if (!nostro) esito.altro = Conserva(*vecchio, FileSezioni, ".altro");
+  if (!nostro && esito.altro.empty()) {
+    esito.ostacolo =
+        "Un altro programma ha cambiato il file, che non si può conservare come "_t + FileSezioni + ".altro.";
+    return;
+  }
+  if (nostro && !SostituisciFile(FileCopia(), *vecchio, FileSezioni)) {
+    esito.scritte = file->Sostituisci(testo);
+    if (!esito.scritte)
+      esito.ostacolo = "Non si può fare né la copia "_t + FileCopia() + " né un file nuovo accanto."_t;
+    return;
+  }
+  const EsitoScrittura scritto = file->Riscrivi(testo);
+  FileSezioniIntero = scritto != EsitoScrittura::Incompleto;
+  if (!FileSezioniIntero)
+    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
+                       "il file " + FileSezioni + " può essere incompleto; "_t +
+                           DoveLaCopia(nostro ? FileCopia() : esito.altro));
+  esito.scritte = scritto == EsitoScrittura::Scritto;
 }
 
 }  // namespace
 
 void LeggiFileSezioni(bool mostraErrore) {
   auto file = FileInLettura::Apri(FileSezioni);
+  gImpronta.reset();
   gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;
   if (!file) {
     if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
@@ -48,44 +78,28 @@ void LeggiFileSezioni(bool mostraErrore) {
     NumeroSezioni = NumeroSezioniFile;
     for (int i = 1; i <= NumeroSezioni; ++i) LeggiSezione(*file, TabellaSezioni[i]);
     file->PretendiFine();
+    gImpronta = file->ImprontaLetta();
   } catch (ErroreFatale& errore) {
-    if (GenereFile(FileCopia()) == TipoVoce::File) errore.dove += "; " + DoveLaCopia();
+    if (GenereFile(FileCopia()) == TipoVoce::File) errore.dove += "; " + DoveLaCopia(FileCopia());
     throw;
   }
 }
 
-void ScriviFileSezioni() {
-  Testo record;
+EsitoSezioni ScriviFileSezioni() {
+  std::vector<Testo> sezioni;
   for (int i = 1; i <= NumeroSezioni; ++i)
     Durante([&] { return SullaSezione("salvataggio", TabellaSezioni[i].Nome); },
-            [&] { AccodaSezione(record, TabellaSezioni[i]); });
+            [&] { AccodaSezione(sezioni.emplace_back(), TabellaSezioni[i]); });
 
-  const TipoVoce vecchio = FileSezioni == gIntoccabile ? TipoVoce::Ignota : GenereFile(FileSezioni);
-  const bool alSicuro =
-      vecchio == TipoVoce::Assente || (vecchio == TipoVoce::File && CopiaFile(FileSezioni, FileCopia()));
-  const auto esito = alSicuro ? ScriviFile(FileSezioni, ConConteggio(NumeroSezioni, record), true)
-                              : EsitoScrittura::NonAperto;
-  if (esito == EsitoScrittura::NonAperto)
-    MostraMessaggio("Problemi nella scrittura del file " + FileSezioni, "ERRORE", Icona::Stop);
-  if (esito == EsitoScrittura::Incompleto)
-    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
-                       "il file " + FileSezioni + " può essere incompleto"_t +
-                           (vecchio == TipoVoce::File ? "; " + DoveLaCopia() : ""));
-}
-
-Testo ComponiSezioniScrivibili() {
-  Testo record;
-  Intero16 scritte;
-  for (int i = 1; i <= std::min<int>(NumeroSezioni, kMaxSezioni); ++i) {
-    const std::size_t inizio = record.size();
-    try {
-      AccodaSezione(record, TabellaSezioni[i]);
-      ++scritte;
-    } catch (const ErroreFatale&) {
-      record.resize(inizio);
-    }
-  }
-  return ConConteggio(scritte, record);
+  EsitoSezioni esito;
+  if (FileSezioni == gIntoccabile) return esito;
+  const Testo testo = ComponiFileSezioni(sezioni);
+  // A file that another program makes meanwhile is there the second time.
+  if (GenereFile(FileSezioni) == TipoVoce::Assente) esito.scritte = CreaFile(FileSezioni, testo);
+  if (!esito.scritte) Riscrivi(testo, esito);
+  if (esito.scritte) gImpronta = Impronta(testo);
+  if (!esito.altro.empty()) esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
+  return esito;
 }
 
 Testo ProponiNome(Intero16 numero) {

@@ -6,11 +6,14 @@
 
 #include "base/intero.h"
 #include "base/testo.h"
+#include "model/copie_sezioni.h"
 
 namespace tarvel {
 
 /// Full path of the current section file: the job's or the general one.
 extern Testo FileSezioni;
+/// No write of a section file has stopped half-way: one that did may be read whole and not be on the disk.
+extern bool FileSezioniIntero;
 /// What proposed names begin with: "U_PO_" in the job's file, "G_PO_" in the general one.
 extern Testo PrefissoNome;
 /// Counter of proposed names, 1 at start.
@@ -22,15 +25,22 @@ extern Intero16 NumeroProposto;
 /// before stays in the table.
 void LeggiFileSezioni(bool mostraErrore);
 
-/// Writes the whole table. A record that cannot be written (a number too large to be cut) is fatal before
-/// anything has changed. The file as it was is then kept whole beside it, as FileSezioni + ".bak"; where
-/// that cannot be done, or the file cannot be created or has never been readable, a message says so and
-/// nothing has changed. A failure in the middle of writing is fatal; the message names the copy. On the
-/// disk when it returns.
-void ScriviFileSezioni();
+/// What became of writing the table.
+struct EsitoSezioni {
+  bool scritte = false;  // otherwise nothing has changed
+  Testo ostacolo;        // what could not be made, in a sentence, where it is not the file itself
+  Testo altro;           // where the file is kept as another program had left it; "" where none had
+  Confronto confronto;   // of that one's sections with the table's
+};
 
-/// The text of a section file with the records of the table that can be written.
-Testo ComponiSezioniScrivibili();
+/// Writes the whole table, on the disk when it returns. A record that cannot be written (a number too large
+/// to be cut) is fatal before anything has changed. While one program writes, another one waits. A file that
+/// is not any more what was last read or written here is kept as FileSezioni + ".altro"; then the file as it
+/// was is kept whole as FileSezioni + ".bak", and written in place. Where there can be no such copy, the new
+/// file is written whole beside the old one and takes its name. Nothing changes where that cannot be done,
+/// the file cannot be opened or has never been readable. A failure in the middle of writing is fatal; the
+/// message names the copy.
+[[nodiscard]] EsitoSezioni ScriviFileSezioni();
 
 /// PrefissoNome and the last three digits of the number: 42 gives 'U_PO_042', 1000 'U_PO_000'.
 Testo ProponiNome(Intero16 numero);

@@ -4,6 +4,7 @@
 
 #include <span>
 
+#include "base/errore.h"
 #include "model/tabella_sezioni.h"
 
 namespace tarvel {
@@ -93,6 +94,12 @@ void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p)
       {zRL + p[kRaccordoInferiore], yF},
   };
   Scrivi(geometria, 2, cella);
+}
+
+void RifaiContorno(GeometriaSezione& geometria, const VettoreParametri& p) {
+  GeometriaSezione nuova = geometria;
+  Durante("contorno", [&] { CostruisciGeometria(nuova, p); });
+  geometria = nuova;
 }
 
 }  // namespace tarvel

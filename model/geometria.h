@@ -13,6 +13,10 @@ inline constexpr char kNonCassone[] = "Le dimensioni non formano una sezione a c
 /// dimensions give crossing polygons. An arithmetic fault is fatal.
 void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p);
 
+/// The same of a section that has an outline already: it keeps that where a fault is fatal, and the error
+/// says that it was about the outline.
+void RifaiContorno(GeometriaSezione& geometria, const VettoreParametri& p);
+
 /// Height at z of the line through the left tip's top with the left slope.
 inline Reale TettoSinistro(const VettoreParametri& p, Reale z) {
   return p[kPendenzaSinistra] * z / 100;

@@ -4,24 +4,31 @@
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "lavoro/cartelle.h"
-#include "platform/file.h"
+#include "platform/scrittura.h"
 
 namespace tarvel {
 
 VettoreParametri ParametriSezione;
 
 namespace {
+
+// A file that is there and that the host did not let read: what it holds is not known, so it stays.
+bool gIntoccabile = false;
+
 Testo FileDefault() {
   return DirCustom + "\\CapSezDe.txt";
 }
+
 }  // namespace
 
 void LeggiDefault() {
   auto file = FileInLettura::Apri(FileDefault());
+  gIntoccabile = !file && GenereFile(FileDefault()) != TipoVoce::Assente;
   if (!file) return;
   for (Reale& p : ParametriSezione) {
     // A short or spoiled file is no reason to stop a start: the user sees the values in the boxes.
     const auto voce = file->ProssimaVoce();
+    gIntoccabile = file->Guasto();
     if (!voce) return;
     const auto valore = InizioNumerico(*voce);
     if (!valore && !voce->empty()) return;
@@ -30,13 +37,15 @@ void LeggiDefault() {
 }
 
 void ScriviDefault(std::span<const Testo> caselle) {
+  if (gIntoccabile) return;
   Testo testo;
   for (const Testo& casella : caselle) AccodaRiga(testo, SenzaBlanchi(casella));
-  switch (ScriviFile(FileDefault(), testo)) {
+  switch (ScriviFile(FileDefault(), testo, true)) {
     case EsitoScrittura::Scritto:
       return;
     case EsitoScrittura::NonAperto:
-      throw ErroreFatale(TipoErrore::File, "impossibile creare il file dei valori iniziali", FileDefault());
+      throw ErroreFatale(TipoErrore::File, "il file dei valori iniziali non si può scrivere"_t,
+                         FileDefault());
     case EsitoScrittura::Incompleto:
       throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
                          "il file " + FileDefault() + " può essere incompleto"_t);

@@ -6,8 +6,8 @@
 #include "base/numeri.h"
 #include "lavoro/cartelle.h"
 #include "platform/desktop.h"
-#include "platform/file.h"
 #include "platform/regione.h"
+#include "platform/scrittura.h"
 
 namespace tarvel {
 
@@ -50,6 +50,10 @@ void LeggiOpzioni(const Testo& percorso) {
   VettoreOpzioni lette;
   for (int i = 1; i <= kNumOpzioni; ++i) {
     auto riga = file->ProssimaRiga();
+    if (file->Guasto()) {
+      MostraMessaggio("Lettura del file " + percorso + " non riuscita", "ERRORE", Icona::Esclamazione);
+      return;
+    }
     const auto valore = riga ? Valore(i, PrimaParola(*riga)) : std::nullopt;
     if (!valore) {
       MostraMessaggio("File " + percorso + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i),
@@ -66,7 +70,7 @@ void ScriviOpzioni() {
   for (int i = 1; i <= kNumOpzioni; ++i)
     AccodaRiga(testo, FormatoNumero(Opzioni[i]) + Testo(10, ' ') + Voce(i).etichettaFile);
   // A disk that is full has the same answer as a file that cannot be created.
-  if (ScriviFile(FileOpzioni(), testo) != EsitoScrittura::Scritto)
+  if (ScriviFile(FileOpzioni(), testo, true) != EsitoScrittura::Scritto)
     MostraMessaggio("Problemi con la scrittura del file " + FileOpzioni(), "ERRORE", Icona::Esclamazione);
 }
 

@@ -1,4 +1,5 @@
-// Sequential text files of 8-bit text with CR LF line ends.
+// Sequential text files of 8-bit text with CR LF line ends: paths and reading. Writing is
+// platform/scrittura.h.
 //
 // Paths of the program use the backslash. Where the host separates by '/', a backslash becomes one
 // and each component is looked up: exactly first, then without regard to case (the program lower-cases
@@ -7,6 +8,7 @@
 // letter is the host's, and a folder's name like any other where the host has no drives.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -32,11 +34,16 @@ class FileAperto {
     if (file_) OspiteDeiFile().Chiudi(*file_);
   }
   Ospite::Maniglia operator*() const { return *file_; }
+  /// All that follows in it; nothing for a fault.
+  [[nodiscard]] std::optional<Testo> Resto() const;
   [[nodiscard]] bool Chiudi() { return OspiteDeiFile().Chiudi(*std::exchange(file_, std::nullopt)); }
 
  private:
   std::optional<Ospite::Maniglia> file_;
 };
+
+/// Tells one text from another (FNV-1a, 64 bits); `prima`: of the text that this one continues.
+std::uint64_t Impronta(std::string_view testo, std::uint64_t prima = 0xcbf29ce484222325);
 
 /// The longest line of a file, in characters: what is longer is no text.
 inline constexpr std::size_t kRigaMassima = 1 << 20;
@@ -72,6 +79,10 @@ class FileInLettura {
   /// Nothing but blank lines follows, and the character 26 that some editors put last.
   void PretendiFine();
 
+  /// The last reading had nothing because the host failed.
+  bool Guasto() const { return mancanza_ == Mancanza::Guasto; }
+  /// Of all that was read, of the whole file once its end was.
+  std::uint64_t ImprontaLetta() const { return impronta_; }
   /// "file, riga n" of the line last read from.
   Testo Luogo() const;
   [[noreturn]] void Malformato(const Testo& cosa) const;
@@ -95,29 +106,16 @@ class FileInLettura {
   int numero_ = 0;  // of riga_ in the file
   Testo buffer_;
   std::size_t posto_ = 0;  // of the next character in buffer_
+  std::uint64_t impronta_ = Impronta({});
 };
 
 /// Adds a line and CR LF to the text of a file.
-void AccodaRiga(Testo& testo, std::string_view riga);
+inline void AccodaRiga(Testo& testo, std::string_view riga) {
+  (testo += riga) += "\r\n";
+}
 
-// --- Writing. A file is composed in memory and handed to the host at once.
-
-enum class EsitoScrittura {
-  Scritto,
-  NonAperto,   // nothing has changed
-  Incompleto,  // the file was opened, so that what it held is gone
-};
-
-/// Creates the file, or truncates it in place, and writes the text. `sulDisco`: it is on the disk, not
-/// only with the host, when this returns.
-[[nodiscard]] EsitoScrittura ScriviFile(const Testo& percorso, std::string_view testo, bool sulDisco = false);
-
-/// The file becomes the text, or stays as it was: written beside it and then given its name, on the
-/// disk when this returns true.
-[[nodiscard]] bool SostituisciFile(const Testo& percorso, std::string_view testo);
-
-/// Copies a file as SostituisciFile writes one. False also when it cannot be read to its end.
-[[nodiscard]] bool CopiaFile(const Testo& da, const Testo& a);
+/// The whole file; nothing where it cannot be opened or read to its end.
+[[nodiscard]] std::optional<Testo> LeggiTutto(const Testo& percorso);
 
 /// What stands at a path of the program.
 [[nodiscard]] TipoVoce GenereFile(const Testo& percorso);

@@ -25,22 +25,29 @@ struct Ospite {
 
   /// Regular files only: what has no end, or waits for another program, cannot be opened.
   std::optional<Maniglia> (*ApriLettura)(const std::string& percorso);
-  /// Created, or truncated in place: owner, permissions and links stay. Regular files and, where devices
-  /// are files of a folder, those that take characters; never waits.
-  std::optional<Maniglia> (*ApriScrittura)(const std::string& percorso);
+  /// A file that is there, to be read and written; what it holds stays, and so do owner, permissions and
+  /// links. Regular files and, where devices are files of a folder, those that take characters. While one
+  /// program has a file so, another one waits, some seconds at most, and then has nothing; where the host
+  /// does not tell, nobody waits.
+  std::optional<Maniglia> (*ApriRiscrittura)(const std::string& percorso);
+  /// A new file, to be written; nothing where the name is taken, be it by a link that leads nowhere. It has
+  /// the rights of the file `come`, as far as they can be given; of an empty name, those of any new file.
+  std::optional<Maniglia> (*Crea)(const std::string& percorso, const std::string& come);
 
   /// How many bytes were read, 0 at the end; nothing for a fault.
   std::optional<std::size_t> (*Leggi)(Maniglia file, std::span<char> posto);
   /// All of it, in as few calls as the host allows; a limit to the size of files is a fault as a full
   /// disk is.
   bool (*Scrivi)(Maniglia file, std::string_view byte);
+  /// Nothing is left of it, and the next byte is its first.
+  bool (*Svuota)(Maniglia file);
   /// Returns when what was written is on the disk.
   bool (*SulDisco)(Maniglia file);
   bool (*Chiudi)(Maniglia file);
 
-  /// The file takes the new name, in place of a file that has it; at every moment one of the two is
-  /// there, whole. On the disk when it returns.
-  bool (*Rinomina)(const std::string& da, const std::string& a);
+  /// The file takes the new name; at every moment a whole file has it, where one had. On the disk when it
+  /// returns. Without `sostituisci` a name that is taken is left alone, and the call fails.
+  bool (*Rinomina)(const std::string& da, const std::string& a, bool sostituisci);
   bool (*Togli)(const std::string& percorso);
 };
 

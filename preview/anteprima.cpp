@@ -5,7 +5,7 @@
 #include "lavoro/nome_disegno.h"
 #include "platform/comune/scala.h"
 #include "platform/desktop.h"
-#include "platform/file.h"
+#include "platform/scrittura.h"
 #include "platform/programmi.h"
 
 namespace tarvel {

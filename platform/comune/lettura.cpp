@@ -1,5 +1,6 @@
 // Reading files line by line or item by item, a block of the host's at a time.
 #include <algorithm>
+#include <array>
 
 #include "base/errore.h"
 #include "base/numeri.h"
@@ -11,13 +12,40 @@ namespace {
 
 constexpr std::size_t kBlocco = 1 << 16;
 
-}  // namespace
-
-std::optional<FileInLettura> FileInLettura::Apri(const Testo& percorso) {
+std::optional<FileAperto> ApriLettura(const Testo& percorso) {
   const auto host = PercorsoHost(percorso);
   const auto file = host ? OspiteDeiFile().ApriLettura(*host) : std::nullopt;
   if (!file) return std::nullopt;
-  return FileInLettura(percorso, FileAperto(*file));
+  return FileAperto(*file);
+}
+
+}  // namespace
+
+std::uint64_t Impronta(std::string_view testo, std::uint64_t prima) {
+  for (const char c : testo) prima = (prima ^ static_cast<unsigned char>(c)) * 0x100000001b3;
+  return prima;
+}
+
+std::optional<Testo> FileAperto::Resto() const {
+  Testo resto;
+  std::array<char, kBlocco> blocco;
+  for (;;) {
+    const auto letti = OspiteDeiFile().Leggi(*file_, blocco);
+    if (!letti) return std::nullopt;
+    if (*letti == 0) return resto;
+    resto.append(blocco.data(), *letti);
+  }
+}
+
+std::optional<Testo> LeggiTutto(const Testo& percorso) {
+  const auto file = ApriLettura(percorso);
+  return file ? file->Resto() : std::nullopt;
+}
+
+std::optional<FileInLettura> FileInLettura::Apri(const Testo& percorso) {
+  auto file = ApriLettura(percorso);
+  if (!file) return std::nullopt;
+  return FileInLettura(percorso, std::move(*file));
 }
 
 Testo FileInLettura::Luogo() const {
@@ -41,6 +69,7 @@ bool FileInLettura::Riempi() {
   const auto letti = OspiteDeiFile().Leggi(*file_, buffer_);
   buffer_.resize(letti.value_or(0));
   posto_ = 0;
+  impronta_ = Impronta(buffer_, impronta_);
   mancanza_ = letti ? Mancanza::FineFile : Mancanza::Guasto;
   return !buffer_.empty();
 }

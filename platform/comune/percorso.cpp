@@ -91,4 +91,16 @@ std::optional<std::string> PercorsoHost(const Testo& percorso) {
   return esito.string();
 }
 
+std::string PercorsoReale(const std::string& host) {
+  if constexpr (fs::path::preferred_separator != '/') return host;
+  std::error_code guasto;
+  const fs::path reale = fs::canonical(host, guasto);
+  return guasto ? host : reale.string();
+}
+
+TipoVoce GenereFile(const Testo& percorso) {
+  const auto host = PercorsoHost(percorso);
+  return host ? OspiteDeiFile().Genere(*host) : TipoVoce::Ignota;
+}
+
 }  // namespace tarvel

@@ -12,4 +12,7 @@ namespace tarvel {
 /// looked into: what is in it is then not known, and "not there" would be a guess.
 [[nodiscard]] std::optional<std::string> PercorsoHost(const Testo& percorso);
 
+/// Of a host's path of a file that is there: where the links on it lead.
+[[nodiscard]] std::string PercorsoReale(const std::string& host);
+
 }  // namespace tarvel

@@ -1,70 +1,123 @@
-// Writing files whole.
-#include <array>
+// The ways to the disk: beside the file and renamed, or in place.
+#include "platform/scrittura.h"
+
+#include <random>
 
 #include "platform/comune/percorso.h"
-#include "platform/file.h"
 
 namespace tarvel {
 namespace {
 
-constexpr std::size_t kBloccoCopia = 1 << 16;
+// A name that nobody else uses, beside the file.
+std::string Provvisorio(const std::string& file) {
+  constexpr std::string_view kCifre = "0123456789abcdef";
+  std::random_device caso;
+  std::string nome = file + '.';
+  for (int i = 0; i < 12; ++i) nome += kCifre[caso() % kCifre.size()];
+  return nome + ".tmp";
+}
 
-// Writes `a` beside its place by `riempi` and gives it its name at the end; what was written is taken
-// away where that fails.
-template <class Riempi>
-bool Sostituisci(const Testo& a, Riempi riempi) {
+bool Riempi(Ospite::Maniglia file, std::string_view testo, bool sulDisco) {
+  return OspiteDeiFile().Scrivi(file, testo) && (!sulDisco || OspiteDeiFile().SulDisco(file));
+}
+
+EsitoScrittura InPosto(FileAperto& file, std::string_view testo, bool sulDisco) {
+  if (!OspiteDeiFile().Svuota(*file)) return EsitoScrittura::NonAperto;
+  const bool scritto = Riempi(*file, testo, sulDisco);
+  return file.Chiudi() && scritto ? EsitoScrittura::Scritto : EsitoScrittura::Incompleto;
+}
+
+enum class Accanto {
+  Riuscito,
+  NonScritto,  // no room for another file
+  NonAmmesso,  // no other file may be made here, or none may take the name
+};
+
+struct Sostituzione {
+  std::string file, come;  // whose name it takes, whose rights
+  bool sulDisco = true;
+  bool sostituisci = true;
+  FileAperto* aperto = nullptr;  // the file itself, where it is open: a host may not rename over it
+};
+
+// Writes another file beside this one and gives it the name; what was written is taken away where that fails.
+Accanto ScriviAccanto(const Sostituzione& s, std::string_view testo) {
   const Ospite& ospite = OspiteDeiFile();
-  const auto definitivo = PercorsoHost(a), provvisorio = PercorsoHost(a + ".tmp");
-  const auto aperto = definitivo && provvisorio ? ospite.ApriScrittura(*provvisorio) : std::nullopt;
-  if (!aperto) return false;
-  FileAperto file(*aperto);
-  bool riuscito = riempi(*file) && ospite.SulDisco(*file);
-  riuscito = file.Chiudi() && riuscito;
-  if (riuscito && ospite.Rinomina(*provvisorio, *definitivo)) return true;
-  ospite.Togli(*provvisorio);
-  return false;
+  const std::string provvisorio = Provvisorio(s.file);
+  const auto creato = ospite.Crea(provvisorio, s.come);
+  if (!creato) return Accanto::NonAmmesso;
+  FileAperto file(*creato);
+  const bool scritto = Riempi(*file, testo, s.sulDisco);
+  Accanto esito = Accanto::NonScritto;
+  if (file.Chiudi() && scritto) {
+    const auto rinomina = [&] { return ospite.Rinomina(provvisorio, s.file, s.sostituisci); };
+    if (rinomina()) return Accanto::Riuscito;
+    if (s.aperto != nullptr && s.aperto->Chiudi() && rinomina()) return Accanto::Riuscito;
+    esito = Accanto::NonAmmesso;
+  }
+  ospite.Togli(provvisorio);
+  return esito;
+}
+
+bool Scrivi(const Testo& percorso, std::string_view testo, const Testo& come, bool sostituisci) {
+  const auto host = PercorsoHost(percorso);
+  const auto modello = come.empty() ? std::string() : PercorsoHost(come);
+  return host && ScriviAccanto({.file = *host, .come = modello.value_or(""), .sostituisci = sostituisci},
+                               testo) == Accanto::Riuscito;
 }
 
 }  // namespace
 
-void AccodaRiga(Testo& testo, std::string_view riga) {
-  (testo += riga) += "\r\n";
-}
-
 EsitoScrittura ScriviFile(const Testo& percorso, std::string_view testo, bool sulDisco) {
   const Ospite& ospite = OspiteDeiFile();
   const auto host = PercorsoHost(percorso);
-  const auto aperto = host ? ospite.ApriScrittura(*host) : std::nullopt;
+  const TipoVoce voce = host ? ospite.Genere(*host) : TipoVoce::Ignota;
+  if (voce == TipoVoce::Ignota || voce == TipoVoce::Cartella) return EsitoScrittura::NonAperto;
+  if (voce != TipoVoce::Assente) {
+    // Who may not write into a file may not put another in its place.
+    const auto aperto = ospite.ApriRiscrittura(*host);
+    if (!aperto) return EsitoScrittura::NonAperto;
+    FileAperto file(*aperto);
+    if (voce == TipoVoce::Altro) return InPosto(file, testo, sulDisco);
+  }
+  const std::string reale = PercorsoReale(*host);
+  const Accanto esito = ScriviAccanto(
+      {.file = reale, .come = voce == TipoVoce::File ? reale : "", .sulDisco = sulDisco}, testo);
+  if (esito == Accanto::Riuscito) return EsitoScrittura::Scritto;
+  const auto aperto =
+      esito == Accanto::NonAmmesso && voce == TipoVoce::File ? ospite.ApriRiscrittura(*host) : std::nullopt;
   if (!aperto) return EsitoScrittura::NonAperto;
   FileAperto file(*aperto);
-  const bool scritto = ospite.Scrivi(*file, testo) && (!sulDisco || ospite.SulDisco(*file));
-  return file.Chiudi() && scritto ? EsitoScrittura::Scritto : EsitoScrittura::Incompleto;
+  return InPosto(file, testo, sulDisco);
 }
 
-bool SostituisciFile(const Testo& percorso, std::string_view testo) {
-  return Sostituisci(percorso, [&](Ospite::Maniglia file) { return OspiteDeiFile().Scrivi(file, testo); });
+bool SostituisciFile(const Testo& percorso, std::string_view testo, const Testo& come) {
+  return Scrivi(percorso, testo, come, true);
 }
 
-bool CopiaFile(const Testo& da, const Testo& a) {
-  const Ospite& ospite = OspiteDeiFile();
-  const auto host = PercorsoHost(da);
-  const auto aperta = host ? ospite.ApriLettura(*host) : std::nullopt;
-  if (!aperta) return false;
-  const FileAperto origine(*aperta);
-  return Sostituisci(a, [&](Ospite::Maniglia copia) {
-    std::array<char, kBloccoCopia> blocco;
-    for (;;) {
-      const auto letti = ospite.Leggi(*origine, blocco);
-      if (!letti) return false;
-      if (*letti == 0) return true;
-      if (!ospite.Scrivi(copia, {blocco.data(), *letti})) return false;
-    }
-  });
+bool CreaFile(const Testo& percorso, std::string_view testo, const Testo& come) {
+  return Scrivi(percorso, testo, come, false);
 }
 
-TipoVoce GenereFile(const Testo& percorso) {
+std::optional<FileDaRiscrivere> FileDaRiscrivere::Apri(const Testo& percorso) {
   const auto host = PercorsoHost(percorso);
-  return host ? OspiteDeiFile().Genere(*host) : TipoVoce::Ignota;
+  if (!host || OspiteDeiFile().Genere(*host) != TipoVoce::File) return std::nullopt;
+  const auto file = OspiteDeiFile().ApriRiscrittura(*host);
+  if (!file) return std::nullopt;
+  return FileDaRiscrivere(*host, FileAperto(*file));
+}
+
+std::optional<Testo> FileDaRiscrivere::Contenuto() {
+  return file_.Resto();
+}
+
+EsitoScrittura FileDaRiscrivere::Riscrivi(std::string_view testo) {
+  return InPosto(file_, testo, true);
+}
+
+bool FileDaRiscrivere::Sostituisci(std::string_view testo) {
+  const std::string reale = PercorsoReale(host_);
+  return ScriviAccanto({.file = reale, .come = reale, .aperto = &file_}, testo) == Accanto::Riuscito;
 }
 
 }  // namespace tarvel

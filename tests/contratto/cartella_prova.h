@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/file.h"
+#include "platform/scrittura.h"
 #include "tests/cartella.h"
 
 namespace tarvel::contratto {

@@ -69,12 +69,20 @@ TEST_F(ContrattoFile, LoScrittoPrendeIlPostoDelFile) {
   EXPECT_EQ(Letto("Vecchio"), "gi\xE0\r\n\r\n");
 
   const Testo grande(200'000, 'x');
-  Metti("grande", grande);
-  EXPECT_TRUE(CopiaFile(Percorso("GRANDE"), Percorso("copia")) && Letto("copia") == grande);
-  EXPECT_TRUE(SostituisciFile(Percorso("copia"), "breve") && Letto("copia") == "breve");
-  EXPECT_FALSE(CopiaFile(Percorso("assente"), Percorso("copia")));
-  EXPECT_EQ(Letto("copia"), "breve");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella_.radice), {}), 3);
+  EXPECT_TRUE(CreaFile(Percorso("grande"), grande) && Letto("grande") == grande);
+  EXPECT_EQ(LeggiTutto(Percorso("GRANDE")), grande);
+  EXPECT_FALSE(CreaFile(Percorso("GRANDE"), "altro") || Letto("grande") != grande);
+  EXPECT_TRUE(SostituisciFile(Percorso("grande"), "breve", {}) && Letto("grande") == "breve");
+  EXPECT_FALSE(FileDaRiscrivere::Apri(Percorso("assente")) || LeggiTutto(Percorso("assente")));
+  for (const bool accanto : {false, true}) {
+    auto file = FileDaRiscrivere::Apri(Percorso("GRANDE"));
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->Contenuto(), accanto ? "u" : "breve");
+    const Testo nuovo = accanto ? "due" : "u";
+    EXPECT_TRUE(accanto ? file->Sostituisci(nuovo) : file->Riscrivi(nuovo) == EsitoScrittura::Scritto);
+    EXPECT_EQ(Letto("grande"), nuovo);
+  }
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella_.radice), {}), 2);
 }
 
 TEST_F(ContrattoFile, NessunFileDoveNonCE) {

@@ -4,7 +4,8 @@
     guasti.py PROGRAM          linked with ospite_guasto.cpp
 
 Each call fails once alone, then together with all that follow. Whatever happens, the answer is one of
-those that are foreseen, and no section is lost without a whole copy.
+those that are foreseen, no section is lost without a whole copy, and no file is emptied or takes another's
+name before the one that stands for it is whole and on the disk.
 """
 import os
 import re
@@ -23,10 +24,30 @@ SCENA = "type nome C\nclick Calcolo\nclick Command2\nclick Command4\n" \
 PREVISTI = re.compile("|".join((
     "Calcolo eseguito", "File salvato", r"Sezione non salvata\. Salvare\?",
     r"Errore: file \S+impostazioni\\(dirlav|lavoro) errato o mancante",
-    r"Problemi nella scrittura del file \S+\\sezio_ut", r"Problemi con la scrittura del file \S+ostrel\.inp",
+    r"Problemi nella scrittura del file \S+\\sezio_ut(\\nNon si può fare né .*)?(\\nLe sezioni non ancora salvate .*)?",
+    r"Lettura del file \S+CapOpSez\.txt non riuscita", r"Problemi con la scrittura del file \S+ostrel\.inp",
     r"Problemi con l'apertura dell'applicazione \S+ostrel\.exe", r"File \S+CapOpSez\.txt non valido.*",
     "Errore irreversibile: (?!fine del file inattesa).*")))  # whole files do not end early
 guasti = 0
+
+
+def in_ordine(diario):
+    """What a program did to its files: of each, what stands wrong."""
+    stati, intere = {}, set()
+    for chiamata, riuscita, nome in diario:
+        file = nome.split(".tmp")[0].rsplit(".", 1)[0] if nome.endswith(".tmp") else nome
+        if chiamata == "n":
+            stati[nome] = "n" if riuscita else "?"
+        elif nome.endswith(".tmp") and chiamata in ">dc":
+            stati[nome] = stati[nome] + chiamata if riuscita else "?"
+        elif chiamata in "rR":
+            su_disco = not file.lower().endswith((".dis", ".inp"))
+            if stati[nome] != ("n>dc" if su_disco else "n>c"):
+                yield f"{nome} prende il posto di {file} dopo {stati[nome]}"
+            if riuscita:
+                intere.add(file.lower())
+        elif chiamata == "v" and nome.lower() == "sezio_ut" and "sezio_ut.bak" not in intere:
+            yield "sezio_ut vuotato senza una copia"
 
 
 def gioca(radice, copione, guasto):
@@ -73,12 +94,20 @@ def esamina(guasto, solo):
         if fatale and solo and calcolate > len([m for m in messaggi if m == "File salvato"]):
             esige(".salvataggio" in fatale and "CD"[calcolate - 1] in (stato[".salvataggio"] or []),
                   "sezioni non salvate che l'errore ha perduto")
-        esige(not solo or not [f for f in os.listdir(lavoro) if f.endswith(".tmp")], "un avanzo")
-        return int(re.search(r"chiamate (\d+)", esito.stderr).group(1))
+        avanzi = [f for c in ("Lavori/PR0001", "custom", "progra") for f in os.listdir(os.path.join(radice, c))
+                  if f.endswith(".tmp")]
+        esige(not solo or not avanzi, "un avanzo")
+        diario = [(c, r == "si", n) for c, r, n in re.findall(r"^(\S) (si|no) (.*)$", esito.stderr, re.M)]
+        storti = list(in_ordine(diario))
+        esige(not storti, f"{storti}")
+        return int(re.search(r"chiamate (\d+)", esito.stderr).group(1)), diario
 
 
-chiamate = esamina("", True)
+chiamate, diario = esamina("", True)
 assert chiamate > 100
+# Salva, from the disk's side: the old file is read while it is held, its copy is whole, then it is emptied.
+sezioni = [c for c, _, n in diario if n.lower().startswith("sezio_ut")]
+assert "".join(sezioni).startswith("l<<ca<<n>dcrv>dc"), "".join(sezioni)
 for n in range(1, chiamate + 1):
     esamina(str(n), True)
     esamina(f"{n}-999999", False)

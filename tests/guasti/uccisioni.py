@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Kills the program at random moments while it saves 500 sections; a whole file or a whole copy is left.
+"""Kills the program at random moments while it saves 500 sections, alone and beside another one that saves the
+same job; a whole file or a whole copy is left.
 
-    uccisioni.py build/bin/tarvel1-headless [TIMES]
+    uccisioni.py build/bin/tarvel1-headless [TIMES [TIMES IN PAIRS]]
 
 Takes minutes, so no part of the tests.
 """
@@ -15,9 +16,11 @@ import time
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
 from installazione import ESEMPIO, installa, nomi  # noqa: E402
 
-programma, volte = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 200
+programma = sys.argv[1]
+volte, coppie = (int(v) for v in (sys.argv[2:] + ["200", "60"][len(sys.argv) - 2:])[:2])
 with tempfile.TemporaryDirectory(prefix="Uccisioni_") as radice:
-    file = os.path.join(installa(radice), "sezio_ut")
+    lavoro = installa(radice)
+    file = os.path.join(lavoro, "sezio_ut")
     argomenti = [programma, "--", f"|diroot={radice}|"]
     with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as d:
         d.write(ESEMPIO)
@@ -30,18 +33,27 @@ with tempfile.TemporaryDirectory(prefix="Uccisioni_") as radice:
     subprocess.run(argomenti, input=salva, encoding="utf-8", stdout=subprocess.DEVNULL, check=True)
     durata = time.monotonic() - inizio
     rovinati = perduti = 0
-    for _ in range(volte):
-        gioco = subprocess.Popen(argomenti, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, encoding="utf-8")
-        gioco.stdin.write(salva)
-        gioco.stdin.flush()
-        time.sleep(random.uniform(0, durata))
-        gioco.kill()
-        gioco.communicate()
+    for volta in range(volte + coppie):
+        giochi = []
+        for _ in range(1 if volta < volte else 2):
+            giochi.append(subprocess.Popen(argomenti, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, encoding="utf-8"))
+            giochi[-1].stdin.write(salva)
+            giochi[-1].stdin.flush()
+        time.sleep(random.uniform(0, durata * len(giochi)))
+        for gioco in giochi:
+            gioco.kill()
+        for gioco in giochi:
+            gioco.communicate()
         if nomi(file) != tutte:
             rovinati += 1
             if nomi(file + ".bak") != tutte:
                 perduti += 1
                 break
             os.replace(file + ".bak", file)
-print(f"{volte} volte in {durata:.2f} s di salvataggi: {rovinati} file rovinati, {perduti} senza una copia intera")
+        for avanzo in os.listdir(lavoro):
+            if ".altro" in avanzo:
+                assert nomi(os.path.join(lavoro, avanzo)) == tutte, avanzo
+            if ".altro" in avanzo or avanzo.endswith(".tmp"):
+                os.remove(os.path.join(lavoro, avanzo))
+print(f"{volte} volte, {coppie} in due, {durata:.2f} s di salvataggi: {rovinati} file rovinati, {perduti} senza una copia intera")
 sys.exit(perduti > 0)

@@ -114,9 +114,9 @@ TEST_F(ProvaFile, QuelloCheSiScriveSiRilegge) {
   const int quante = NumeroSezioni;
   ASSERT_GT(quante, 250);
   const auto scritte = std::make_unique<decltype(TabellaSezioni)>(TabellaSezioni);
-  ScriviFileSezioni();
+  EXPECT_TRUE(ScriviFileSezioni().scritte);
   const std::string testo = Contenuto(percorso);
-  EXPECT_EQ(ComponiSezioniScrivibili(), testo);
+  EXPECT_EQ(ComponiFileSezioni(SezioniScrivibili()), testo);
   ASSERT_EQ(Leggi(testo), "");
   ASSERT_EQ(NumeroSezioni, quante);
   EXPECT_EQ(NumeroSezioniFile, quante);
@@ -142,7 +142,7 @@ TEST_F(ProvaFile, QuelloCheSiScriveSiRilegge) {
 TEST_F(ProvaFile, OgniRigaConta) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
   AggiungiCalcolata(prove::Esempio(), "U_PO_002");
-  ScriviFileSezioni();
+  EXPECT_TRUE(ScriviFileSezioni().scritte);
   const auto righe = Righe(Contenuto(percorso));
   for (std::size_t n = 0; n < righe.size(); ++n) {
     const Testo errore = Leggi(Unite({righe.begin(), righe.begin() + static_cast<long>(n)}));
@@ -164,7 +164,7 @@ TEST_F(ProvaFile, OgniRigaConta) {
 
 TEST_F(ProvaFile, OgniRigaRovinata) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
-  ScriviFileSezioni();
+  EXPECT_TRUE(ScriviFileSezioni().scritte);
   const auto righe = Righe(Contenuto(percorso));
   // Lines that are read leniently take a word for 0: the name, extents, vertices, Jt..., Sigla.
   const auto indulgente = [&](std::size_t i) {

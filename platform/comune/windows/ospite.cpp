@@ -16,9 +16,10 @@ HANDLE Di(Ospite::Maniglia file) {
 
 // A handle, where what was opened is a file of a disk: a device (CON, NUL, a port) would swallow a drawing
 // of its name, or wait for ever.
-std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DWORD condiviso, DWORD come) {
-  const HANDLE file = CreateFileW(PercorsoLargo(percorso).c_str(), modo, condiviso, nullptr, come,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DWORD condiviso, DWORD come,
+                                     DWORD attributi = FILE_ATTRIBUTE_NORMAL) {
+  const HANDLE file =
+      CreateFileW(PercorsoLargo(percorso).c_str(), modo, condiviso, nullptr, come, attributi, nullptr);
   if (file == INVALID_HANDLE_VALUE) return std::nullopt;
   if (GetFileType(file) == FILE_TYPE_DISK) return reinterpret_cast<Ospite::Maniglia>(file);
   CloseHandle(file);
@@ -56,12 +57,23 @@ std::optional<Ospite::Maniglia> ApriLettura(const std::string& percorso) {
   return Apri(percorso, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
 }
 
-std::optional<Ospite::Maniglia> ApriScrittura(const std::string& percorso) {
-  // CREATE_ALWAYS would take a hidden file for one that must not be written; emptying keeps what it is.
-  const auto file = Apri(percorso, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
-  if (!file || SetEndOfFile(Di(*file)) != 0) return file;
-  CloseHandle(Di(*file));
-  return std::nullopt;
+std::optional<Ospite::Maniglia> ApriRiscrittura(const std::string& percorso) {
+  constexpr DWORD kAttesa = 5000, kPasso = 20;  // milliseconds
+  for (DWORD atteso = 0;; atteso += kPasso) {
+    const auto file = Apri(percorso, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
+    const DWORD errore = GetLastError();
+    const bool occupato = errore == ERROR_SHARING_VIOLATION || errore == ERROR_LOCK_VIOLATION;
+    if (file || !occupato || atteso >= kAttesa) return file;
+    Sleep(kPasso);
+  }
+}
+
+std::optional<Ospite::Maniglia> Crea(const std::string& percorso, const std::string& come) {
+  // Who may do what is inherited from the folder.
+  constexpr DWORD kDelFile = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+  const DWORD suoi = come.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(PercorsoLargo(come).c_str());
+  const DWORD attributi = suoi == INVALID_FILE_ATTRIBUTES ? 0 : suoi & kDelFile;
+  return Apri(percorso, GENERIC_WRITE, 0, CREATE_NEW, attributi != 0 ? attributi : FILE_ATTRIBUTE_NORMAL);
 }
 
 std::optional<std::size_t> Leggi(Ospite::Maniglia file, std::span<char> posto) {
@@ -82,6 +94,10 @@ bool Scrivi(Ospite::Maniglia file, std::string_view byte) {
   return true;
 }
 
+bool Svuota(Ospite::Maniglia file) {
+  return SetFilePointer(Di(file), 0, nullptr, FILE_BEGIN) == 0 && SetEndOfFile(Di(file)) != 0;
+}
+
 bool SulDisco(Ospite::Maniglia file) {
   return FlushFileBuffers(Di(file)) != 0;
 }
@@ -90,9 +106,9 @@ bool Chiudi(Ospite::Maniglia file) {
   return CloseHandle(Di(file)) != 0;
 }
 
-bool Rinomina(const std::string& da, const std::string& a) {
-  return MoveFileExW(PercorsoLargo(da).c_str(), PercorsoLargo(a).c_str(),
-                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+bool Rinomina(const std::string& da, const std::string& a, bool sostituisci) {
+  const DWORD come = MOVEFILE_WRITE_THROUGH | (sostituisci ? MOVEFILE_REPLACE_EXISTING : 0U);
+  return MoveFileExW(PercorsoLargo(da).c_str(), PercorsoLargo(a).c_str(), come) != 0;
 }
 
 bool Togli(const std::string& percorso) {
@@ -104,9 +120,11 @@ bool Togli(const std::string& percorso) {
 const Ospite kOspiteSistema = {.Genere = Genere,
                                .Elenco = Elenco,
                                .ApriLettura = ApriLettura,
-                               .ApriScrittura = ApriScrittura,
+                               .ApriRiscrittura = ApriRiscrittura,
+                               .Crea = Crea,
                                .Leggi = Leggi,
                                .Scrivi = Scrivi,
+                               .Svuota = Svuota,
                                .SulDisco = SulDisco,
                                .Chiudi = Chiudi,
                                .Rinomina = Rinomina,

@@ -61,13 +61,25 @@ TEST_F(ContrattoFile, SoloIFileSiAprono) {
   ASSERT_EQ(mkfifo((cartella_ / "tubo").c_str(), 0600), 0);
   EXPECT_FALSE(FileInLettura::Apri(Percorso("tubo")));
   EXPECT_FALSE(FileInLettura::Apri("\\dev\\zero"));
-  EXPECT_FALSE(CopiaFile("\\dev\\zero", Percorso("copia")));
+  EXPECT_FALSE(FileDaRiscrivere::Apri("\\dev\\null") || LeggiTutto("\\dev\\zero"));
   EXPECT_EQ(ScriviFile(Percorso("tubo"), "x"), EsitoScrittura::NonAperto);
   EXPECT_EQ(ScriviFile("\\dev\\full", "x"), EsitoScrittura::Incompleto);
+}
+
+TEST_F(ContrattoFile, DirittiERimandiRestano) {
   Metti("Vecchio", "vecchio");
+  fs::permissions(cartella_ / "Vecchio", fs::perms(0642));
   fs::create_symlink("Vecchio", cartella_ / "rimando");
+  fs::create_symlink("assente", cartella_ / "sospeso");
   EXPECT_EQ(ScriviFile(Percorso("RIMANDO"), "nuovo"), EsitoScrittura::Scritto);
   EXPECT_EQ(Letto("Vecchio"), "nuovo");
+  EXPECT_TRUE(FileDaRiscrivere::Apri(Percorso("rimando"))->Sostituisci("altro"));
+  EXPECT_EQ(Letto("Vecchio"), "altro");
+  EXPECT_TRUE(SostituisciFile(Percorso("copia"), "x", Percorso("Vecchio")));
+  for (const char* nome : {"Vecchio", "copia"})
+    EXPECT_EQ(fs::status(cartella_ / nome).permissions(), fs::perms(0642)) << nome;
+  EXPECT_FALSE(CreaFile(Percorso("sospeso"), "x") || fs::exists(cartella_ / "assente"));
+  EXPECT_TRUE(fs::is_symlink(cartella_ / "rimando"));
 }
 
 // Where nothing tells of another program's windows, the one that lives is running all the same.

@@ -1,0 +1,105 @@
+#include "model/copie_sezioni.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "base/errore.h"
+#include "base/numeri.h"
+#include "model/righe_sezione.h"
+#include "model/tabella_sezioni.h"
+#include "platform/scrittura.h"
+
+namespace tarvel {
+namespace {
+
+Testo Nome(const Testo& file, const char* coda, int n) {
+  return file + coda + (n == 1 ? Testo() : std::to_string(n));
+}
+
+// Of every section of a file the record and its lines, as they would be written. False where the file cannot
+// be read to its end.
+bool Scorri(const Testo& percorso, const std::function<void(const RecordSezione&, const Testo&)>& guarda) {
+  auto file = FileInLettura::Apri(percorso);
+  if (!file) return false;
+  try {
+    for (int n = LeggiConteggio(*file, kMaxSezioni, "sezioni"); n > 0; --n) {
+      RecordSezione r;
+      LeggiSezione(*file, r);
+      Testo righe;
+      AccodaSezione(righe, r);
+      guarda(r, righe);
+    }
+    file->PretendiFine();
+    return true;
+  } catch (const ErroreFatale&) {
+    return false;
+  }
+}
+
+// Whether the sections stand in a file: to the letter, or as they are once they are read from it, since a
+// figure that is cut again may lose a hundredth more.
+bool Contiene(const Testo& percorso, std::span<const Testo> sezioni) {
+  Testo tutto = "\r\n" + LeggiTutto(percorso).value_or("");
+  Scorri(percorso, [&](const RecordSezione&, const Testo& righe) { tutto += righe; });
+  return std::all_of(sezioni.begin(), sezioni.end(),
+                     [&](const Testo& s) { return tutto.find("\r\n" + s) != Testo::npos; });
+}
+
+}  // namespace
+
+Testo ComponiFileSezioni(std::span<const Testo> sezioni) {
+  Testo testo = FormatoNumero(static_cast<int>(sezioni.size())) + "\r\n";
+  for (const Testo& sezione : sezioni) testo += sezione;
+  return testo;
+}
+
+std::vector<Testo> SezioniScrivibili() {
+  std::vector<Testo> sezioni;
+  for (int i = 1; i <= NumeroSezioni; ++i) {
+    Testo righe;
+    try {
+      AccodaSezione(righe, TabellaSezioni[i]);
+    } catch (const ErroreFatale&) {
+      continue;
+    }
+    sezioni.push_back(std::move(righe));
+  }
+  return sezioni;
+}
+
+Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
+  for (int n = 1;; ++n) {
+    const Testo nome = Nome(file, coda, n);
+    if (GenereFile(nome) == TipoVoce::Assente && CreaFile(nome, testo, file)) return nome;
+    const TipoVoce voce = GenereFile(nome);
+    if (voce == TipoVoce::Assente || voce == TipoVoce::Ignota) return {};
+    if (LeggiTutto(nome) == testo) return nome;
+  }
+}
+
+std::optional<Testo> ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni) {
+  if (intero && Contiene(file, sezioni)) return Testo();
+  constexpr char kCoda[] = ".salvataggio";
+  for (int n = 1; GenereFile(Nome(file, kCoda, n)) == TipoVoce::File; ++n)
+    if (Contiene(Nome(file, kCoda, n), sezioni)) return Nome(file, kCoda, n);
+  const Testo nome = Conserva(ComponiFileSezioni(sezioni), file, kCoda);
+  if (nome.empty()) return std::nullopt;
+  return nome;
+}
+
+Confronto ConfrontaSezioni(const Testo& altro, std::span<const Testo> sezioni) {
+  const Testo tutto = "\r\n" + LeggiTutto(altro).value_or("");
+  Confronto esito;
+  esito.leggibile = Scorri(altro, [&](const RecordSezione& r, const Testo& righe) {
+    const int i = CercaSezione(r.Nome);
+    if (i == 0) {
+      ++esito.mancanti;
+      return;
+    }
+    const Testo& nostra = sezioni[static_cast<std::size_t>(i - 1)];
+    if (righe != nostra && tutto.find("\r\n" + nostra) == Testo::npos) ++esito.diverse;
+  });
+  return esito;
+}
+
+}  // namespace tarvel
