@@ -41,7 +41,7 @@ void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
   auto file = FileDaRiscrivere::Apri(FileSezioni);
   const auto vecchio = file ? file->Contenuto() : std::nullopt;
   if (!vecchio) return;
-  const bool nostro = Impronta(*vecchio) == gImpronta;
+  const bool nostro = Impronta(*vecchio) == gImpronta || *vecchio == testo;
   if (!nostro) esito.altro = Conserva(*vecchio, FileSezioni, ".altro");
   if (!nostro && esito.altro.empty()) {
     esito.ostacolo =

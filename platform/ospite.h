@@ -45,9 +45,11 @@ struct Ospite {
   bool (*SulDisco)(Maniglia file);
   bool (*Chiudi)(Maniglia file);
 
-  /// The file takes the new name; at every moment a whole file has it, where one had. On the disk when it
-  /// returns. Without `sostituisci` a name that is taken is left alone, and the call fails.
+  /// The file takes the new name; at every moment a whole file has it, where one had. Without `sostituisci` a
+  /// name that is taken is left alone, and the call fails.
   bool (*Rinomina)(const std::string& da, const std::string& a, bool sostituisci);
+  /// Returns when the file's name, an entry of its folder, is on the disk.
+  bool (*NomeSulDisco)(const std::string& percorso);
   bool (*Togli)(const std::string& percorso);
 };
 

@@ -48,15 +48,12 @@ Accanto ScriviAccanto(const Sostituzione& s, std::string_view testo) {
   if (!creato) return Accanto::NonAmmesso;
   FileAperto file(*creato);
   const bool scritto = Riempi(*file, testo, s.sulDisco);
-  Accanto esito = Accanto::NonScritto;
-  if (file.Chiudi() && scritto) {
-    const auto rinomina = [&] { return ospite.Rinomina(provvisorio, s.file, s.sostituisci); };
-    if (rinomina()) return Accanto::Riuscito;
-    if (s.aperto != nullptr && s.aperto->Chiudi() && rinomina()) return Accanto::Riuscito;
-    esito = Accanto::NonAmmesso;
-  }
+  const bool chiuso = file.Chiudi();
+  const auto rinomina = [&] { return ospite.Rinomina(provvisorio, s.file, s.sostituisci); };
+  if (scritto && chiuso && (rinomina() || (s.aperto != nullptr && s.aperto->Chiudi() && rinomina())))
+    return !s.sulDisco || ospite.NomeSulDisco(s.file) ? Accanto::Riuscito : Accanto::NonAmmesso;
   ospite.Togli(provvisorio);
-  return esito;
+  return scritto && chiuso ? Accanto::NonAmmesso : Accanto::NonScritto;
 }
 
 bool Scrivi(const Testo& percorso, std::string_view testo, const Testo& come, bool sostituisci) {

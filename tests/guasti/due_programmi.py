@@ -80,6 +80,7 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
     assert altro(uno.ancora()) == ("sezio_ut.altro3", ", ma non si legge come file di sezioni.")
     with open(file + ".altro3") as f:
         assert f.read() == "altra cosa\n"
+    assert nomi(file + ".bak") == ["B"], "una copia che non era più un file di sezioni"
 
     # Another one saves for a while, then for ever.
     with open(file, "r+") as mano:

@@ -33,9 +33,11 @@ guasti = 0
 
 def in_ordine(diario):
     """What a program did to its files: of each, what stands wrong."""
-    stati, intere = {}, set()
+    stati, intere, in_posto = {}, set(), set()
     for chiamata, riuscita, nome in diario:
         file = nome.split(".tmp")[0].rsplit(".", 1)[0] if nome.endswith(".tmp") else nome
+        if chiamata in "nrD" and not riuscita:
+            in_posto.add(file)
         if chiamata == "n":
             stati[nome] = "n" if riuscita else "?"
         elif nome.endswith(".tmp") and chiamata in ">dc":
@@ -44,10 +46,14 @@ def in_ordine(diario):
             su_disco = not file.lower().endswith((".dis", ".inp"))
             if stati[nome] != ("n>dc" if su_disco else "n>c"):
                 yield f"{nome} prende il posto di {file} dopo {stati[nome]}"
-            if riuscita:
-                intere.add(file.lower())
-        elif chiamata == "v" and nome.lower() == "sezio_ut" and "sezio_ut.bak" not in intere:
-            yield "sezio_ut vuotato senza una copia"
+        elif chiamata == "D" and riuscita:
+            intere.add(nome.lower())
+        elif chiamata == "v" and nome.lower() == "sezio_ut":
+            if "sezio_ut.bak" not in intere:
+                yield "sezio_ut vuotato senza una copia"
+            intere.discard("sezio_ut.bak")
+        elif chiamata == "v" and nome not in in_posto:
+            yield f"{nome} vuotato, e accanto c'era posto per un altro file"
 
 
 def gioca(radice, copione, guasto):
@@ -107,7 +113,7 @@ chiamate, diario = esamina("", True)
 assert chiamate > 100
 # Salva, from the disk's side: the old file is read while it is held, its copy is whole, then it is emptied.
 sezioni = [c for c, _, n in diario if n.lower().startswith("sezio_ut")]
-assert "".join(sezioni).startswith("l<<ca<<n>dcrv>dc"), "".join(sezioni)
+assert "".join(sezioni).startswith("l<<ca<<n>dcrDv>dc"), "".join(sezioni)
 for n in range(1, chiamate + 1):
     esamina(str(n), True)
     esamina(f"{n}-999999", False)

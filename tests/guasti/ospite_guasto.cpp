@@ -91,6 +91,7 @@ constexpr Ospite kGuasto = {
           const bool riuscito = !Fallisce() && kOspiteSistema.Rinomina(da, a, sostituisci);
           return Annota(sostituisci ? "r" : "R", da, riuscito);
         },
+    .NomeSulDisco = ONiente<&Ospite::NomeSulDisco, 'D', const std::string&>,
     .Togli = ONiente<&Ospite::Togli, 't', const std::string&>};
 
 }  // namespace

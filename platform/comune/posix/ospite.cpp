@@ -151,10 +151,12 @@ bool RinominaSeLibero(const std::string& da, const std::string& a) {
 }
 
 bool Rinomina(const std::string& da, const std::string& a, bool sostituisci) {
-  if (!(sostituisci ? ::rename(da.c_str(), a.c_str()) == 0 : RinominaSeLibero(da, a))) return false;
-  // The name is an entry of the folder, which has to reach the disk as well.
-  const auto fine = a.rfind('/');
-  const std::string cartella = fine == std::string::npos ? "." : a.substr(0, fine + 1);
+  return sostituisci ? ::rename(da.c_str(), a.c_str()) == 0 : RinominaSeLibero(da, a);
+}
+
+bool NomeSulDisco(const std::string& percorso) {
+  const auto fine = percorso.rfind('/');
+  const std::string cartella = fine == std::string::npos ? "." : percorso.substr(0, fine + 1);
   const int aperta = ::open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (aperta < 0) return errno == EACCES;  // a folder may be written in and not read
   const bool riuscito = SulDisco(aperta);
@@ -179,6 +181,7 @@ const Ospite kOspiteSistema = {.Genere = Genere,
                                .SulDisco = SulDisco,
                                .Chiudi = Chiudi,
                                .Rinomina = Rinomina,
+                               .NomeSulDisco = NomeSulDisco,
                                .Togli = Togli};
 
 }  // namespace tarvel

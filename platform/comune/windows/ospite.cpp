@@ -111,6 +111,11 @@ bool Rinomina(const std::string& da, const std::string& a, bool sostituisci) {
   return MoveFileExW(PercorsoLargo(da).c_str(), PercorsoLargo(a).c_str(), come) != 0;
 }
 
+// Renaming has written it through.
+bool NomeSulDisco(const std::string&) {
+  return true;
+}
+
 bool Togli(const std::string& percorso) {
   return DeleteFileW(PercorsoLargo(percorso).c_str()) != 0;
 }
@@ -128,6 +133,7 @@ const Ospite kOspiteSistema = {.Genere = Genere,
                                .SulDisco = SulDisco,
                                .Chiudi = Chiudi,
                                .Rinomina = Rinomina,
+                               .NomeSulDisco = NomeSulDisco,
                                .Togli = Togli};
 
 }  // namespace tarvel
