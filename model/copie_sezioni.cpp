@@ -1,3 +1,4 @@
+// Copies are found by what they hold: a section is its lines.
 #include "model/copie_sezioni.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ bool Scorri(const Testo& percorso, const std::function<void(const RecordSezione&
 // figure that is cut again may lose a hundredth more.
 bool Contiene(const Testo& percorso, std::span<const Testo> sezioni) {
   Testo tutto = "\r\n" + LeggiTutto(percorso).value_or("");
-  Scorri(percorso, [&](const RecordSezione&, const Testo& righe) { tutto += righe; });
+  Scorri(percorso, [&](const RecordSezione&, const Testo& righe) { tutto += "\r\n" + righe; });
   return std::all_of(sezioni.begin(), sezioni.end(),
                      [&](const Testo& s) { return tutto.find("\r\n" + s) != Testo::npos; });
 }
