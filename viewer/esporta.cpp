@@ -191,10 +191,7 @@ std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, 
   const auto* const genere = CercaGenere(FinaleDi(percorso));
   if (genere == kGeneri.end()) return QString("File %1: si esporta in .png, .svg, .pdf o .dxf").arg(percorso);
 
-  return Riferisci(percorso, [&](QIODevice& byte) -> Motivo {
-    if (Ingombro(disegno).Vuoto()) return "non c'è niente da disegnare";
-    return genere->scrivi(disegno, resa, origine, byte);
-  });
+  return Riferisci(percorso, [&](QIODevice& byte) { return genere->scrivi(disegno, resa, origine, byte); });
 }
 
 std::optional<QString> EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso,

@@ -19,8 +19,8 @@ QString FiltroEsportazione(const QString& finale);
 /// Which of them ends this name, in lower case; empty: none.
 QString FinaleDi(const QString& percorso);
 
-/// Writes the file; its ending (.png, .svg, .pdf or .dxf, in any case) says the kind. Nothing on
-/// success, otherwise an Italian message; an existing file is then as it was.
+/// Writes a drawing that is not empty; the ending (.png, .svg, .pdf or .dxf, in any case) says the kind.
+/// Nothing on success, otherwise an Italian message; an existing file is then as it was.
 [[nodiscard]] std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso,
                                              const Resa& resa = {}, const Origine& origine = {});
 

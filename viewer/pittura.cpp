@@ -24,16 +24,22 @@ class Pittura {
  public:
   Pittura(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
           const Fondo& fondo)
-      : p_(pittore), d_(disegno), vista_(vista), fondo_(fondo), campo_(Campo(visibile, fondo)) {}
+      : p_(pittore),
+        d_(disegno),
+        vista_(vista),
+        fondo_(fondo),
+        campo_(Campo(visibile, fondo)),
+        stretto_(visibile.marginsAdded(QMarginsF(1, 1, 1, 1) * fondo.spessore)) {}
 
   void Linee() {
     std::array<std::vector<QLineF>, kColori.size()> continue_;
     for (const Linea& linea : d_.linee) {
       const QPointF p = Verso(linea.inizio), q = Verso(linea.fine);
+      const bool intera = IndiceTipo(linea.tipo) == 0;
       Parte parte;
-      if (!Ritaglia(p, q, campo_, parte)) continue;
+      if (!Ritaglia(p, q, intera ? campo_ : stretto_, parte)) continue;
       const QLineF segmento = Segmento(p, q, parte, fondo_);
-      if (IndiceTipo(linea.tipo) == 0)
+      if (intera)
         continue_[IndiceColore(linea.colore)].push_back(segmento);
       else
         Tratteggiata(segmento, linea, parte.da * std::hypot(q.x() - p.x(), q.y() - p.y()));
@@ -114,6 +120,9 @@ class Pittura {
   const Vista& vista_;
   const Fondo& fondo_;
   QRectF campo_;
+  // Of dashed lines: the painter cuts a line of one pixel's width so near the picture, and begins its dashes
+  // anew where it has cut.
+  QRectF stretto_;
 };
 
 }  // namespace

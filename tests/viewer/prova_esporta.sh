@@ -40,7 +40,7 @@ echo prima >s.png
 prova 1 'non è un file di disegno' --esporta s.pdf .
 
 printf '3\r\n0 0\r\n0 0\r\n0 0\r\n2\r\n0 0 0\r\n0 50 0\r\n0\r\n1\r\n0 1 1 0\r\n0\r\n0\r\n' >ritta.dis
-prova 0 '' --esporta ritta.pdf --unita mm --scala 1:1 ritta.dis
+prova 0 '' --esporta ritta.PDF --unita mm --scala 1:1 ritta.dis
 
 # What is not understood is no failed export: another status, and nothing written.
 prima=$(ls)

@@ -43,7 +43,9 @@ TEST_F(ConFinestra, MostraTuttoConLaYVersoLAlto) {
 }
 
 TEST_F(ConFinestra, RotellaETrascinamento) {
-  const QPoint dove(200, 150), altrove(260, 100);
+  prove::Scrivi(file, prove::ConRiga(prove::kEsempio, 307, " 29  30  1  1 "));  // the overall width, dashed
+  Comanda("ricarica");
+  const QPoint dove(500, 100), altrove(430, 150);
   const QPointF prima = tela.VistaCorrente().Da(dove);
   const double scala = tela.VistaCorrente().scala;
   Rotella(3, dove);

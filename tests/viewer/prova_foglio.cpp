@@ -148,7 +148,7 @@ TEST(Stampa, QuelloCheETroppoGrandeRestaNelSuoPosto) {
   QImage immagine((Stampabile(pagina) * kFine).toSize(), QImage::Format_RGB32);
   immagine.fill(Qt::white);
   QPainter pittore(&immagine);
-  DipingiFoglio(pittore, disegno, resa, {"s.dis"}, pagina, kFine);
+  DipingiFoglio(pittore, disegno, resa, {"s.dis", {2026, 1, 2}}, pagina, kFine);
   pittore.end();
   const auto scuri = [&](double x, double y, double larga, double alta) {
     int quanti = 0;
@@ -163,6 +163,8 @@ TEST(Stampa, QuelloCheETroppoGrandeRestaNelSuoPosto) {
   EXPECT_EQ(scuri(0, foglio.campo.bottom() + 0.2, c.right(), 2), 0);
   double confine = c.left();
   for (const double parte : {0.34, 0.21, 0.11, 0.13}) {
+    for (const double riga : {0.25, 0.65})
+      EXPECT_GT(scuri(confine + 1, c.top() + riga * c.height(), 9, 1), 20) << "the name, below it the value";
     confine += parte * c.width();
     EXPECT_GT(scuri(confine - 0.2, c.top(), 0.4, c.height()), 100) << "a line between cells";
     EXPECT_EQ(scuri(confine - 1, c.top() + 0.3, 0.7, c.height() - 0.6), 0) << "and room beside it";

@@ -1,12 +1,15 @@
 // The reader of drawings: what is read, what is refused and how, what its elements measure.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <filesystem>
 #include <numbers>
+#include <thread>
 #include <tuple>
 
 #include "tests/viewer/aiuti_viewer.h"
+#include "viewer/caricamento.h"
 #include "viewer/misure.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti);
@@ -82,6 +85,21 @@ TEST(Lettore, TroncatoOvunque) {
   }
 }
 
+// Sound at every length: only its growing tells that it is not whole yet.
+TEST(Carica, IlFileCheCresceMentreSiLegge) {
+  const QTemporaryDir cartella;
+  const std::string file = cartella.filePath("s.dis").toStdString();
+  prove::Scrivi(file, prove::kEsempio + std::string(4 << 20, '\n'));
+  std::jthread scrittore([&](const std::stop_token& basta) {
+    for (std::ofstream coda(file, std::ios::app); !basta.stop_requested();) coda << '\n' << std::flush;
+  });
+  Caricato esito;
+  for (int i = 0; i < 200 && !esito.riprova; ++i) esito = Carica(file);
+  EXPECT_TRUE(esito.messaggio.ends_with("il disegno cambia mentre viene letto")) << esito.messaggio;
+  scrittore = {};
+  EXPECT_TRUE(Carica(file).disegno);
+}
+
 TEST(Lettore, SemiDelFuzzing) {
   int letti = 0;
   for (const auto& voce : std::filesystem::directory_iterator(prove::kDati + "/semi")) {
@@ -103,7 +121,7 @@ void ControllaIngombro(const Disegno& disegno, const Riquadro& atteso) {
 TEST(Misure, ArchiEIngombri) {
   constexpr double kPi = std::numbers::pi;
   Disegno d;
-  d.coordinate = {{5, 5}, {7, 5}, {5, 7}, {7, 5}, {3, 5}};
+  d.coordinate = {{5, 5}, {7, 5}, {5, 7}, {7, 5}, {3, 5}, {2, 1}, {8, 1}};
   const struct {
     const char* caso;
     Arco arco;
@@ -113,6 +131,7 @@ TEST(Misure, ArchiEIngombri) {
       {"a quarter", {0, 1, 2, 1}, 0, kPi / 2, {5, 5, 7, 7}},
       {"the other three", {0, 2, 1, 1}, kPi / 2, 1.5 * kPi, {3, 3, 7, 7}},
       {"round by the right", {0, 4, 2, 1}, kPi, 1.5 * kPi, {3, 3, 7, 7}},
+      {"sagging below its ends", {0, 5, 6, 1}, -kPi / 2 - std::atan(.75), 2 * std::atan(.75), {2, 0, 8, 1}},
       {"a full circle whose start was merged with an earlier point", {0, 1, 3, 1}, 0, 2 * kPi, {3, 3, 7, 7}},
   };
   for (const auto& c : casi) {

@@ -25,6 +25,7 @@ def pagina_di(percorso):
     """The bytes of a document of one page, and the operators of the page."""
     with open(percorso, "rb") as file:
         byte = file.read()
+    assert byte.startswith(b"%PDF-") and byte.endswith(b"%%EOF\n")
     correnti = (zlib.decompress(s) for s in re.findall(rb"/FlateDecode\s*>>\s*stream\r?\n(.*?)\nendstream", byte, re.S))
     pagina, = (c.decode("latin-1") for c in correnti if re.search(rb"\d cm\n", c))
     return byte, pagina

@@ -78,6 +78,7 @@ def celle(immagine, larga, alta):
 def prova_immagine(nome):
     lati = subprocess.run(["identify", "-format", "%w %h", nome + ".png"], stdout=subprocess.PIPE, check=True)
     larga, alta = map(int, lati.stdout.split())
+    assert max(larga, alta) == 2000, lati.stdout
     subprocess.run(["rsvg-convert", "-w", str(larga), "-h", str(alta), nome + ".svg", "-o", "resa.png"], check=True)
     n, m = larga // CELLA, alta // CELLA
     scarti = [abs(a - b) for a, b in zip(celle(nome + ".png", n, m), celle("resa.png", n, m), strict=True)]
