@@ -37,12 +37,12 @@ Intero16 AggiungiSezione(const Testo& nome) {
 // Of the file that another program had written since it was read here.
 Testo DettoDiAltri(const EsitoSezioni& esito) {
   const auto [leggibile, mancanti, diverse] = esito.confronto;
-  Testo testo = "Il file " + FileSezioni +
-                " era stato cambiato da un altro programma. Com'era è conservato in "_t + esito.altro;
-  if (!leggibile) return testo + ", ma non si legge come file di sezioni.";
-  testo += mancanti == 1 ? ": 1 sua sezione qui non c'è"_t
-                         : ": " + std::to_string(mancanti) + " sue sezioni qui non ci sono";
-  return testo + ", " + std::to_string(diverse) + (diverse == 1 ? " è diversa."_t : " sono diverse.");
+  const Testo testo = "Un altro programma ha cambiato il file " + FileSezioni +
+                      " dopo che era stato letto o salvato qui.\nCom'era è conservato in "_t + esito.altro +
+                      ".\n";
+  if (!leggibile) return testo + "Non si legge come file di sezioni.";
+  return testo + "Sue sezioni che qui non ci sono: " + std::to_string(mancanti) +
+         "; con lo stesso nome, ma diverse: " + std::to_string(diverse) + ".";
 }
 
 // Writes the table, and says what came of it where that is not what was asked.

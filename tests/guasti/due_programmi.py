@@ -14,8 +14,9 @@ import time
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
 from installazione import ESEMPIO, installa, nomi  # noqa: E402
 
-ALTRO = r"^message exclamation \"ATTENZIONE\" \"Il file \S+ era stato cambiato da un altro programma\. Com'era è " \
-        r"conservato in \S+\\(sezio_ut\.altro\d*)(.*)\" -> ok$"
+ALTRO = r"^message exclamation \"ATTENZIONE\" \"Un altro programma ha cambiato il file \S+ dopo che era stato letto o " \
+        r"salvato qui\.\\nCom'era è conservato in \S+\\(sezio_ut\.altro\d*)\.\\n(.*)\" -> ok$"
+SEZIONI = "Sue sezioni che qui non ci sono: {}; con lo stesso nome, ma diverse: {}."
 
 
 class Programma:
@@ -62,11 +63,11 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
         d.write(ESEMPIO)
     uno, due = Programma(radice), Programma(radice)
     assert altro(uno.salva("A")) is None and altro(uno.ancora()) is None
-    assert altro(due.salva("B")) == ("sezio_ut.altro", ": 1 sua sezione qui non c'è, 0 sono diverse."), "B"
+    assert altro(due.salva("B")) == ("sezio_ut.altro", SEZIONI.format(1, 0)), "B"
     assert altro(due.ancora()) is None, "il file è quello che il programma stesso ha scritto"
     # A section of both, in which a dimension differs, and one of the other alone.
     due.fai("type Text1(0) 210\ntype nome A\nclick Calcolo\nclick Command2\n")
-    assert altro(uno.salva("C")) == ("sezio_ut.altro2", ": 1 sua sezione qui non c'è, 1 è diversa."), "C"
+    assert altro(uno.salva("C")) == ("sezio_ut.altro2", SEZIONI.format(1, 1)), "C"
     assert [nomi(file + coda) for coda in (".altro", ".altro2", "")] == [["A"], ["B", "A"], ["A", "C"]]
     # What was kept once is not kept again; a file that is no section file is kept as it is.
     os.replace(file + ".altro2", file)
@@ -77,7 +78,7 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
     assert altro(uno.ancora())[0] == "sezio_ut.altro2"
     with open(file, "w") as f:
         f.write("altra cosa\n")
-    assert altro(uno.ancora()) == ("sezio_ut.altro3", ", ma non si legge come file di sezioni.")
+    assert altro(uno.ancora()) == ("sezio_ut.altro3", "Non si legge come file di sezioni.")
     with open(file + ".altro3") as f:
         assert f.read() == "altra cosa\n"
     assert nomi(file + ".bak") == ["B"], "una copia che non era più un file di sezioni"
