@@ -20,7 +20,7 @@ TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
     if (l.colore == kNero) {
       estremi.insert(estremi.end(), {{contorno, l.x1, l.y1}, {contorno, l.x2, l.y2}});
       ++contorno;
-    } else {
+    } else if (l.colore == Colore{255, 255, 0}) {
       ++quote;
       oblique += l.x1 != l.x2 && l.y1 != l.y2;
     }

@@ -9,6 +9,7 @@ Each session has a fresh installation. Comment lines of a script that begin with
     #: esempio [N=VALUE]... the worked example, with other values for some boxes, as the defaults file
     #: argomento TEXT       in place of |diroot={radice}|; the program is started in driver/
     #: opzioni ARGS         of the program          #: senza_argomento      nothing follows them
+    #: solo_posix           not played for another system: it has names that differ by case alone
 or add to the end of the transcript:
     #: mostra PATH          a file, or the names of a folder
     #: righe PATH TEXT      the lines of a file with this text, or of these numbers ("2-5")
@@ -126,6 +127,9 @@ class Sessione:
     def fa_opzioni(self, testo):
         self.opzioni = testo
 
+    def fa_solo_posix(self, _=""):
+        pass
+
     def fa_mostra(self, percorso):
         self.in_coda.append((percorso, percorso, self.contenuto))
 
@@ -180,7 +184,8 @@ def recitata(programma, nome, previsto):
                      flags=re.M)
     testo = ""
     for parte in parti[1:] or parti:
-        if EMULATORE and "\n#: pieno " in parte:  # the full device is none for the emulated host
+        # The full device is none for the emulated host.
+        if EMULATORE and re.search(r"\n#: (pieno |solo_posix)", parte):
             testo += blocco(previsto, "#" + parte.split("\n")[0])
             continue
         with tempfile.TemporaryDirectory(prefix="TarvelProva_") as radice:

@@ -35,7 +35,6 @@ TEST(Integrali, TolleranzaDelLatoVerticale) {
 TEST(Caratteristiche, Esempio) {
   const RecordSezione r = Calcolata(Esempio());
   EXPECT_EQ(r.BaseTotale, 1200);
-  EXPECT_EQ(r.AltezzaTotale, 200);
   EXPECT_NEAR(r.An.Valore(), 60917.2, 1e-8);
   EXPECT_NEAR(r.ZG.Valore(), 600, 1e-9);
   EXPECT_NEAR(r.YG.Valore(), -61.2612, 5e-5);
@@ -43,8 +42,9 @@ TEST(Caratteristiche, Esempio) {
   EXPECT_NEAR(r.Jzg.Valore(), 307923297.41, 5e-3);
   EXPECT_NEAR(r.Aty.Valore(), 26402.2, 1e-9);
   EXPECT_NEAR(r.Atz.Valore(), 52633, 1e-9);
-  EXPECT_EQ(r.NumPunti, 14);
-  EXPECT_EQ(r.Sigla, "A");
+  VettoreParametri larga = Esempio();
+  larga[kInclinazioneAnime] = -400;
+  EXPECT_EQ(Calcolata(larga).BaseTotale, 1780) << "of the soffit";
 }
 
 // Mirrored slopes give the mirrored outline: the right side is measured from the right end, except that the
