@@ -154,6 +154,15 @@ def forme(base):
     for nome in ("è" * 3000, "a" + "è" * 3000):
         esito = lotto([], f"nome;{INTESTAZIONE}\n" + f"{nome};{RIGA}\n" * 20)
         controlla("codifica", [r[0] for r in tabella(esito)[1:]] == [nome] * 20, True)
+    # Names that a spreadsheet would run: the cell read, the section's name, the cell written; and this one read.
+    for letta, nome, scritta in (("=1+1", "=1+1", "'=1+1"), ("'=1+1", "=1+1", "'=1+1"), ("+a", "+a", "'+a"), ("'-a", "-a", "'-a"),
+                                 ("@a", "@a", "'@a"), ("''=a", "'=a", "''=a"), ("a=1", "a=1", "a=1"), ("'a", "'a", "'a"),
+                                 ("'", "'", "'"), ("'@", "@", "'@")):
+        for giro, cella in enumerate((letta, scritta)):
+            sezio = os.path.join(base, f"formula {letta} {giro}")
+            esito = lotto(["--sezio", sezio], f"nome;{INTESTAZIONE}\n{cella};{RIGA}\n")
+            controlla(f"nome {cella}", (tabella(esito)[1][0], byte(sezio).split(b"\r\n")[1]), (scritta, nome.encode()))
+    controlla("nome riletto", lotto(["--da", sezio]).stdout, esito.stdout)
     # The first file's separator, line end and code, also where a block of rows is of several.
     seconda = os.path.join(base, "seconda.csv")
     with open(seconda, "w", encoding="utf-8", newline="") as file:
@@ -181,6 +190,7 @@ def sbagliate(base):
         (cambiata(p1="25,5"), '"25,5" non è un numero: la virgola decimale vuole --virgola (riga 2, soletta inferiore)'),
         (cambiata(p20="1e999"), '"1e999" non è un numero (riga 2, inclinazione anime)'),
         (cambiata(p20="nan"), '"nan" non è un numero (riga 2, inclinazione anime)'),
+        (cambiata(p1="2\0005"), "un carattere nullo (riga 2)"),
         (cambiata(p0='"200'), "virgolette aperte e mai chiuse (riga 2)"),
         (";".join(["0"] * 21), "calcolo della sezione U_PO_002, costante di torsione: divisione per zero. "
                                "Le dimensioni non formano una sezione a cassone."),
@@ -206,6 +216,8 @@ def sbagliate(base):
         ([], b"\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1" + bytes(500), 1, "cartella di lavoro"),
         ([], RIGA.encode("utf-16"), 1, "UTF-16"),
         ([], RIGA.encode("utf-16-le"), 1, "UTF-16"),
+        ([], (RIGA + ";perché\r\n").encode("utf-16-be"), 1, "UTF-16"),
+        ([], "\0" * 400, 1, "un carattere nullo (riga 1; standard input)"),
         (["--", "-manca.csv"], "", 1, "il file non si legge (-manca.csv)"),
         (["manca.csv"], "", 1, "il file non si legge (manca.csv)"),
         (["--da", "manca"], "", 1, "File manca non trovato"),
