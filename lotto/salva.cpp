@@ -35,7 +35,7 @@ Testo Disegna(const Testo& nome) {
 
 Salvataggi PreparaSalvataggi(const Richieste& richieste) {
   Salvataggi s;
-  s.sezioni = !richieste.sezio.empty();
+  s.sezioni = !richieste.sezio.empty() && richieste.da.empty();
   s.disegni = !richieste.disegni.empty();
   DirLavori = richieste.disegni;
   SezioneCalcolata = true;

@@ -1,5 +1,5 @@
-// What Salva would write: the section file and the drawings. Of the main thread alone: drawings are made in
-// the program's own tables.
+// What Salva would write of the rows: the section file and the drawings. Of the main thread alone: drawings
+// are made in the program's own tables.
 #pragma once
 
 #include <unordered_set>

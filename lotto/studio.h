@@ -21,6 +21,7 @@ struct Calcolata {
 struct Riletta {
   Calcolata sezione;
   Testo motivo;
+  Testo righe;  // as they stand in the file
 };
 
 /// How the rows of a file are to be read.

@@ -72,6 +72,13 @@ class FileInLettura {
   /// Nothing but blank lines follows, and the character 26 that some editors put last.
   void PretendiFine();
 
+  /// Where the next item begins: its line, from 1, and how many characters of it belong to items before.
+  struct Posto {
+    int riga;
+    std::size_t colonna;
+  };
+  Posto ProssimoPosto() const { return rigaAperta_ ? Posto{numero_, letti_} : Posto{numero_ + 1, 0}; }
+
   /// "file, riga n" of the line last read from.
   Testo Luogo() const;
   [[noreturn]] void Malformato(const Testo& cosa) const;

@@ -12,6 +12,7 @@ import sys
 import tempfile
 
 sys.dont_write_bytecode = True
+import copia  # noqa: E402
 import fine  # noqa: E402
 from banco import (EMULATORE, INTESTAZIONE, LOTTO, QUI, RIGA, VALORI, byte, cambiata, controlla, desktop,  # noqa: E402
                    errori, lotto, tabella)
@@ -33,8 +34,8 @@ def come_il_desktop(base):
     salva = "".join("".join(f"type Text1({i}) {v}\n" for i, v in enumerate(s)) +
                     f"type nome U_PO_{n:03}\nclick Calcolo\nclick Command2\n" for n, s in enumerate(sezioni, 1))
 
-    def uguali(cosa, cartella, sezio):
-        controlla(cosa + ": sezio_ut", byte(sezio), byte(os.path.join(lavoro, "sezio_ut")))
+    def uguali(cosa, cartella, sezio=None):
+        controlla(cosa + ": sezio_ut", sezio is None or byte(sezio) == byte(os.path.join(lavoro, "sezio_ut")), True)
         controlla(cosa + ": disegni", sorted(os.listdir(cartella)), [f"U_PO_{n:03}.dis" for n in range(1, 21)])
         for nome in os.listdir(cartella):
             controlla(f"{cosa}: {nome}", byte(os.path.join(cartella, nome)), byte(os.path.join(lavoro, nome)))
@@ -89,9 +90,9 @@ def come_il_desktop(base):
     # Each section read back, recalculated and saved.
     desktop(radice, "".join(f"type nome U_PO_{n:03}\nclick Command1\nclick Calcolo\nanswer yes\nclick Command2\n"
                             for n in range(1, 21)))
-    esito = lotto(["--da", sezio, "--opzioni", opzioni, "--sezio", sezio + "2", "--disegni", disegni["rilette"]])
+    esito = lotto(["--da", sezio, "--opzioni", opzioni, "--disegni", disegni["rilette"]])
     controlla("--da", (esito.returncode, esito.stderr), (0, b""))
-    uguali("--da", disegni["rilette"], sezio + "2")
+    uguali("--da", disegni["rilette"])
     guaste = byte(sezio).split(b"\r\n")
     guaste[4:6] = [b"12"]  # a vertex less in the first outline
     with open(sezio + "3", "wb") as file:
@@ -272,6 +273,7 @@ def sbagliate(base):
 with tempfile.TemporaryDirectory(prefix="Lotto_") as temporanea:
     come_il_desktop(temporanea)
     forme(temporanea)
+    copia.copia(temporanea)
     sbagliate(temporanea)
     fine.tubo_chiuso()
     if not EMULATORE:
