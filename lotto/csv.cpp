@@ -1,6 +1,7 @@
 #include "lotto/csv.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/errore.h"
 #include "platform/file.h"
@@ -117,6 +118,25 @@ bool Utf8(std::string_view testo) {
          Utf8Valido(testo);
 }
 
+// By its mark or, without one, because of Latin letters every second byte is a NUL.
+bool Utf16(std::string_view inizio) {
+  if (inizio.starts_with("\xFF\xFE") || inizio.starts_with("\xFE\xFF")) return true;
+  std::array<std::size_t, 2> nulli{};  // at even and at odd places
+  for (std::size_t i = 0; i < inizio.size(); ++i)
+    if (inizio[i] == '\0') ++nulli[i % 2];
+  const auto [meno, piu] = std::minmax(nulli[0], nulli[1]);
+  return meno == 0 && piu > 0 && piu >= inizio.size() / 4;
+}
+
+bool Formula(std::string_view testo) {
+  return !testo.empty() && std::string_view("=+-@").find(testo.front()) != npos;
+}
+
+// A name that has such an apostrophe by itself takes another one, or it would come back without.
+bool DaProteggere(std::string_view nome) {
+  return Formula(nome.substr(std::min(nome.find_first_not_of('\''), nome.size())));
+}
+
 }  // namespace
 
 FormatoCsv RiconosciCodifica(LettoreCsv& lettore) {
@@ -126,8 +146,7 @@ FormatoCsv RiconosciCodifica(LettoreCsv& lettore) {
   const auto rifiuta = [](const char* cosa) { throw ErroreFatale(TipoErrore::Formato, cosa); };
   if (inizio.starts_with("PK\x03\x04") || inizio.starts_with("\xD0\xCF\x11\xE0"))
     rifiuta("è una cartella di lavoro: va salvata dal foglio di calcolo come CSV"_t.c_str());
-  if (inizio.starts_with("\xFF\xFE") || inizio.starts_with("\xFE\xFF") || inizio.find('\0') != npos)
-    rifiuta("è in UTF-16: va salvato come CSV UTF-8"_t.c_str());
+  if (Utf16(inizio)) rifiuta("è in UTF-16: va salvato come CSV UTF-8"_t.c_str());
   if (inizio.starts_with(kSegnoUtf8)) {
     formato.codifica = Codifica::Utf8ConSegno;
     lettore.posto = kSegnoUtf8.size();
@@ -153,6 +172,7 @@ std::optional<RecordCsv> ProssimoRecord(LettoreCsv& lettore) {
   for (;;) {
     if (lettore.posto == lettore.blocco.size() && !Riempi(lettore)) return std::nullopt;
     RecordCsv record = Estrai(lettore);
+    if (record.guasto == nullptr && record.testo.find('\0') != npos) record.guasto = "un carattere nullo";
     const auto vuota = [&](char c) { return c == ' ' || Separa(c, lettore.separatore); };
     const bool daSaltare =
         record.testo.starts_with('#') || std::all_of(record.testo.begin(), record.testo.end(), vuota);
@@ -195,6 +215,14 @@ void Celle(std::string_view testo, char separatore, std::vector<std::string>& ce
 
 Testo TestoCella(std::string_view cella) {
   return Utf8(cella) ? DaUtf8(cella) : Testo(cella);
+}
+
+Testo NomeProtetto(const Testo& nome) {
+  return DaProteggere(nome) ? "'" + nome : nome;
+}
+
+Testo NomeDiCella(const Testo& cella) {
+  return cella.starts_with('\'') && DaProteggere(cella) ? cella.substr(1) : cella;
 }
 
 void AccodaCella(std::string& uscita, std::string_view testo, const FormatoCsv& formato) {

@@ -51,7 +51,7 @@ char RiconosciSeparatore(std::string_view testo);
 
 /// The next record that is neither empty nor a comment (# at its very beginning); nothing at the end. Of
 /// quotes that are never closed the first line is a record of its own, which says so, and the lines after
-/// it are read as usual. A failure to read is fatal.
+/// it are read as usual; one with a NUL says so too. A failure to read is fatal.
 std::optional<RecordCsv> ProssimoRecord(LettoreCsv& lettore);
 
 /// The cells of a record, without the quotes, and without the blanks around them.
@@ -59,6 +59,11 @@ void Celle(std::string_view testo, char separatore, std::vector<std::string>& ce
 
 /// A cell's 8-bit text: what is no UTF-8 is Windows-1252.
 Testo TestoCella(std::string_view cella);
+
+/// A name that a spreadsheet would run as a formula, with an apostrophe before it; any other as it is.
+Testo NomeProtetto(const Testo& nome);
+/// The name without that apostrophe. What NomeProtetto returns comes back as it was.
+Testo NomeDiCella(const Testo& cella);
 
 /// Appends an 8-bit text as a cell, in quotes where it needs them.
 void AccodaCella(std::string& uscita, std::string_view testo, const FormatoCsv& formato);

@@ -5,11 +5,6 @@
 #include <iostream>
 
 #include "base/errore.h"
-#include "lotto/piattaforma.h"
-#include "model/file_sezioni.h"
-#include "model/geometria.h"
-#include "model/tabella_sezioni.h"
-#include "model/verifica.h"
 
 namespace tarvel::lotto {
 namespace {
@@ -103,26 +98,6 @@ bool LeggiRighe(Ingresso& ingresso, std::vector<Riga>& righe) {
       ingresso.lettore.reset();
   }
   return true;
-}
-
-std::vector<Riletta> Rileggi(const Testo& percorso) {
-  FileSezioni = percorso;
-  LeggiFileSezioni(true);
-  if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
-  std::vector<Riletta> rilette(static_cast<std::size_t>(NumeroSezioni));
-  for (int i = 1; i <= NumeroSezioni; ++i) {
-    Riletta& r = rilette[static_cast<std::size_t>(i - 1)];
-    r.sezione.record = TabellaSezioni[i];
-    try {
-      const auto verifica = [&] { return VerificaSezione(r.sezione.record); };
-      if (!Durante([&] { return SullaSezione("lettura", r.sezione.record.Nome); }, verifica, kNonCassone))
-        r.motivo = PrendiMessaggio();
-    } catch (const ErroreFatale& errore) {
-      r.motivo = errore.Messaggio();
-    }
-    r.sezione.p = ParametriSezione;
-  }
-  return rilette;
 }
 
 }  // namespace tarvel::lotto

@@ -1,4 +1,4 @@
-// Where the rows come from: CSV files one after the other, or the sections of a section file.
+// Where the rows come from: CSV files one after the other.
 #pragma once
 
 #include <fstream>
@@ -26,9 +26,5 @@ struct Ingresso {
 /// Adds the next rows; false when there are none after them. A file that cannot be read, or has no proper
 /// header, is fatal. Columns that are not used are told on standard error.
 bool LeggiRighe(Ingresso& ingresso, std::vector<Riga>& righe);
-
-/// The sections of a file, each with the dimensions that Leggi would bring back. A file that is missing or
-/// malformed is fatal. Uses the program's own table.
-std::vector<Riletta> Rileggi(const Testo& percorso);
 
 }  // namespace tarvel::lotto

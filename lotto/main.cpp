@@ -13,6 +13,7 @@
 #include "lotto/officina.h"
 #include "lotto/piattaforma.h"
 #include "lotto/riga_comando.h"
+#include "lotto/rilettura.h"
 #include "lotto/salva.h"
 #include "model/file_sezioni.h"
 #include "model/tabella_sezioni.h"
@@ -67,7 +68,7 @@ struct Avanzamento {
 struct Lotto {
   Richieste richieste;
   Salvataggi salvataggi;
-  std::vector<Riletta> rilette;
+  Rilettura rilettura;
   Ingresso ingresso;
   Uscita uscita;
   bool conserva = false;    // of each row its section, to be saved or drawn
@@ -89,7 +90,7 @@ void Controlla(Lotto& l, bool scritto) {
 // On the reader's thread; what it decides on the output is settled before any row is worked on.
 bool Leggi(Lotto& l, std::vector<Riga>& righe) {
   if (!l.richieste.da.empty()) {
-    for (const Riletta& riletta : l.rilette) righe.emplace_back().riletta = &riletta;
+    for (const Riletta& riletta : l.rilettura.sezioni) righe.emplace_back().riletta = &riletta;
     return false;
   }
   const bool altre = LeggiRighe(l.ingresso, righe);
@@ -132,7 +133,9 @@ int Esegui(Lotto& l) {
   l.ingresso.file = l.richieste.ingressi;
   l.ingresso.virgola = l.uscita.formato.virgola = l.richieste.virgola;
   l.uscita.punti = l.richieste.punti;
-  if (!l.richieste.da.empty()) l.rilette = Rileggi(l.richieste.da);
+  const bool copia = !l.richieste.da.empty() && !l.richieste.sezio.empty();
+  if (!l.richieste.da.empty()) l.rilettura = Rileggi(l.richieste);
+  if (!l.rilettura.lasciato.empty()) Dice(l.rilettura.lasciato);
 
   l.conserva = l.salvataggi.sezioni || l.salvataggi.disegni;
   // Threads may outlive this call: what they use is the Lotto's.
@@ -145,7 +148,8 @@ int Esegui(Lotto& l) {
   if (!l.tuboChiuso) Controlla(l, std::fflush(stdout) == 0);
   if (l.tuboChiuso) return kTuboChiuso;
   if (l.salvataggi.sezioni) ScriviSezioni(l.salvataggi, l.richieste.sezio);
-  return l.errori > 0 ? kRigheConErrore : kFinito;
+  if (copia) CreaFileSezioni(l.richieste.sezio, l.rilettura.righe);
+  return l.errori > 0 || !l.rilettura.lasciato.empty() ? kRigheConErrore : kFinito;
 }
 
 // Leaves at once: a thread may wait for a line that never comes.
@@ -153,7 +157,7 @@ int Esegui(Lotto& l) {
   l.avanzamento.Cancella();
   std::fflush(stdout);
   if (stato == kInterrotto) Dice("interrotto dopo " + std::to_string(l.righe) + " righe");
-  if (stato == kRigheConErrore)
+  if (stato == kRigheConErrore && l.errori > 0)
     Dice(std::to_string(l.errori) + (l.errori == 1 ? " riga" : " righe") + " su " + std::to_string(l.righe) +
          " con errore");
   std::cerr.flush();

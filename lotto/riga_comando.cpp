@@ -21,26 +21,30 @@ virgola, virgola o tabulazione. Una riga vuota o che comincia con # è saltata.
 Scrive una riga per sezione: nome, caratteristiche con 15 cifre, errore. Una riga che non si può calcolare
 dice perché, le altre proseguono.
 
-  --virgola           i decimali sono scritti con la virgola; anche in uscita e nei disegni
-  --punti             aggiunge i 14 punti caratteristici con le tensioni unitarie
-  --da FILE           legge le sezioni da un file sezio_ut, invece che da un CSV, e le ricalcola
-  --sezio FILE        scrive le sezioni calcolate in un nuovo file sezio_ut, al massimo 500
-  --disegni CARTELLA  scrive il disegno di ogni sezione in una cartella che c'è già
-  --opzioni FILE      opzioni dei disegni (CapOpSez.txt); senza, quelle predefinite
-  --processi N        quanti calcoli insieme; di regola tanti quanti i processori
-  --aiuto, --help     questo testo
-  --version           la versione
+  --virgola            i decimali sono scritti con la virgola; anche in uscita e nei disegni
+  --punti              aggiunge i 14 punti caratteristici con le tensioni unitarie
+  --da FILE            legge le sezioni da un file sezio_ut, invece che da un CSV, e le ricalcola
+  --senza NOME         di quelle di --da lascia fuori la sezione NOME, la prima di questo nome; si può ripetere
+  --fin-dove-si-legge  di un file di --da rovinato prende le sezioni prima della riga guasta, e dice quante
+  --sezio FILE         scrive un nuovo file sezio_ut, al massimo 500 sezioni: quelle calcolate; con --da, quelle
+                       del file come sono, anche se non si possono ricalcolare
+  --disegni CARTELLA   scrive il disegno di ogni sezione in una cartella che c'è già
+  --opzioni FILE       opzioni dei disegni (CapOpSez.txt); senza, quelle predefinite
+  --processi N         quanti calcoli insieme; di regola tanti quanti i processori
+  --aiuto, --help      questo testo
+  --version            la versione
 
 stato d'uscita:
   0    tutte le righe sono calcolate
   1    il lavoro non è finito: un file non si legge o non si scrive, l'intestazione è sbagliata
-  2    la riga di comando è sbagliata
-  3    qualche riga non è calcolata, o il suo disegno non è scritto
+  2    la riga di comando è sbagliata, o la sezione di --senza non c'è
+  3    qualche riga non è calcolata, o il suo disegno non è scritto, o il file di --da è letto solo in parte
   130  interrotto (Ctrl+C); 141: chi leggeva ha smesso. Le righe scritte sono intere, --sezio non è scritto
 
 esempi:
   tarvel1-lotto varianti.csv > caratteristiche.csv
   tarvel1-lotto --virgola --punti --sezio nuovo_sezio_ut varianti.csv > caratteristiche.csv
+  tarvel1-lotto --da sezio_ut --senza U_PO_007 --sezio sezio_ut.nuovo
   tarvel1-lotto --da Lavori/PR0001/sezio_ut | sort -t ';' -k 6 -g
 )";
 
@@ -73,6 +77,8 @@ int Processi(const std::string& testo) {
 
 void Controlla(const Richieste& r) {
   if (!r.da.empty() && !r.ingressi.empty()) Rifiuta("--da e un CSV insieme: l'uno o l'altro");
+  if (r.da.empty() && !r.senza.empty()) Rifiuta("--senza senza --da");
+  if (r.da.empty() && r.finDoveSiLegge) Rifiuta("--fin-dove-si-legge senza --da");
   if (!r.opzioni.empty() && r.disegni.empty()) Rifiuta("--opzioni senza --disegni");
   if (!r.opzioni.empty() && GenereFile(r.opzioni) != TipoVoce::File)
     Rifiuta("--opzioni: il file " + r.opzioni + " non si legge");
@@ -99,11 +105,8 @@ Richieste LeggiRichieste(std::span<const std::string> argomenti) {
   const struct {
     const char* nome;
     bool* segno;
-  } segni[] = {{"--virgola", &r.virgola},
-               {"--punti", &r.punti},
-               {"--aiuto", &r.aiuto},
-               {"--help", &r.aiuto},
-               {"--version", &r.versione}};
+  } segni[] = {{"--virgola", &r.virgola}, {"--punti", &r.punti}, {"--fin-dove-si-legge", &r.finDoveSiLegge},
+               {"--aiuto", &r.aiuto},     {"--help", &r.aiuto},  {"--version", &r.versione}};
   const struct {
     const char* nome;
     Testo* percorso;
@@ -127,12 +130,15 @@ Richieste LeggiRichieste(std::span<const std::string> argomenti) {
     }
     const auto* p = std::find_if(std::begin(percorsi), std::end(percorsi), chiamata);
     const std::string& nome = *a;
-    if (p == std::end(percorsi) && nome != "--processi") Rifiuta("opzione sconosciuta: " + DaUtf8(nome));
+    if (p == std::end(percorsi) && nome != "--processi" && nome != "--senza")
+      Rifiuta("opzione sconosciuta: " + DaUtf8(nome));
     if (++a == argomenti.end()) Rifiuta("dopo " + nome + " manca il valore");
-    if (p == std::end(percorsi))
-      r.processi = Processi(*a);
-    else
+    if (p != std::end(percorsi))
       *p->percorso = Percorso(*a);
+    else if (nome == "--senza")
+      r.senza.push_back(*a);
+    else
+      r.processi = Processi(*a);
   }
   if (r.aiuto || r.versione) return r;
   if (r.da.empty() && r.ingressi.empty()) r.ingressi.emplace_back("-");

@@ -19,6 +19,8 @@ struct Richieste {
   Testo sezio;
   Testo disegni;
   Testo opzioni;
+  std::vector<std::string> senza;  // names of sections, in UTF-8
+  bool finDoveSiLegge = false;
   bool aiuto = false;
   bool versione = false;
 };

@@ -5,10 +5,10 @@
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "lotto/piattaforma.h"
-#include "model/file_sezioni.h"
+#include "model/copie_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "options/opzioni.h"
-#include "platform/file.h"
+#include "platform/scrittura.h"
 
 namespace tarvel::lotto {
 namespace {
@@ -16,6 +16,10 @@ namespace {
 // What the reader of the section file would make another name of.
 bool SiRilegge(const Testo& nome) {
   return !nome.starts_with('"') && nome.find(',') == Testo::npos;
+}
+
+[[noreturn]] void Rifiuta(const Testo& percorso, const Testo& cosa) {
+  throw ErroreFatale(TipoErrore::File, percorso + " non è scritto: "_t + cosa);
 }
 
 Testo Disegna(const Testo& nome) {
@@ -35,7 +39,7 @@ Testo Disegna(const Testo& nome) {
 
 Salvataggi PreparaSalvataggi(const Richieste& richieste) {
   Salvataggi s;
-  s.sezioni = !richieste.sezio.empty();
+  s.sezioni = !richieste.sezio.empty() && richieste.da.empty();
   s.disegni = !richieste.disegni.empty();
   DirLavori = richieste.disegni;
   SezioneCalcolata = true;
@@ -61,17 +65,17 @@ Testo Salva(Salvataggi& s, const Calcolata& sezione) {
   return s.disegni ? Disegna(nome) : Testo();
 }
 
+void CreaFileSezioni(const Testo& percorso, std::span<const Testo> sezioni) {
+  if (sezioni.empty()) Rifiuta(percorso, "nessuna sezione da scrivere");
+  if (!CreaFile(percorso, ComponiFileSezioni(sezioni))) Rifiuta(percorso, "il file non si crea");
+}
+
 void ScriviSezioni(const Salvataggi& s, const Testo& percorso) {
-  const auto rifiuta = [&](const Testo& cosa) {
-    throw ErroreFatale(TipoErrore::File, percorso + " non è scritto: "_t + cosa);
-  };
-  if (s.nomi.empty()) rifiuta("nessuna sezione calcolata");
   if (s.oltre > 0)
-    rifiuta("le sezioni sono " + std::to_string(kMaxSezioni + s.oltre) + ", un file ne tiene al massimo " +
-            std::to_string(kMaxSezioni));
-  FileSezioni = percorso;
+    Rifiuta(percorso, "le sezioni sono " + std::to_string(kMaxSezioni + s.oltre) +
+                          ", un file ne tiene al massimo " + std::to_string(kMaxSezioni));
   NumeroSezioni = static_cast<long long>(s.nomi.size());
-  if (!ScriviFileSezioni().scritte) rifiuta("il file non si crea");
+  CreaFileSezioni(percorso, RigheSezioni());
 }
 
 }  // namespace tarvel::lotto

@@ -1,7 +1,8 @@
-// What Salva would write: the section file and the drawings. Of the main thread alone: drawings are made in
-// the program's own tables.
+// What Salva would write of the rows: the section file and the drawings. Of the main thread alone: drawings
+// are made in the program's own tables.
 #pragma once
 
+#include <span>
 #include <unordered_set>
 
 #include "lotto/riga_comando.h"
@@ -21,8 +22,11 @@ Salvataggi PreparaSalvataggi(const Richieste& richieste);
 /// Puts a calculated section into the table and draws it. Returns why not, or "".
 Testo Salva(Salvataggi& salvataggi, const Calcolata& sezione);
 
-/// The section file of all that were put into the table. Fatal where it cannot be written or has no room
-/// for them; then there is none.
+/// A new section file of these sections, each as its lines. Fatal where there are none or it cannot be
+/// created; then there is no file, or somebody else's.
+void CreaFileSezioni(const Testo& percorso, std::span<const Testo> sezioni);
+
+/// The same of all that were put into the table; fatal also where a file has no room for them.
 void ScriviSezioni(const Salvataggi& salvataggi, const Testo& percorso);
 
 }  // namespace tarvel::lotto

@@ -27,7 +27,7 @@ void LeggiNome(Riga& riga, const std::vector<std::string>& celle) {
   const auto& significato = riga.tracciato->colonne.significato;
   const auto posto = std::find(significato.begin(), significato.end(), kNome);
   const auto i = static_cast<std::size_t>(posto - significato.begin());
-  if (posto != significato.end() && i < celle.size()) riga.nome = TestoCella(celle[i]);
+  if (posto != significato.end() && i < celle.size()) riga.nome = NomeDiCella(TestoCella(celle[i]));
   if (riga.nome.empty()) riga.nome = NomeProposto(riga.numero);
 }
 
@@ -146,7 +146,7 @@ void ComponiRiga(Riga& riga, const RecordSezione* sezione, const Uscita& uscita)
   std::replace_if(riga.motivo.begin(), riga.motivo.end(), DiComando, ' ');
   const auto vuote = [&](std::size_t quante) { testo.append(quante, formato.separatore); };
 
-  AccodaCella(testo, riga.nome, formato);
+  AccodaCella(testo, NomeProtetto(riga.nome), formato);
   if (sezione == nullptr) {
     vuote(kCaratteristiche);
   } else {

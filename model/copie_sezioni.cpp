@@ -54,6 +54,14 @@ Testo ComponiFileSezioni(std::span<const Testo> sezioni) {
   return testo;
 }
 
+std::vector<Testo> RigheSezioni() {
+  std::vector<Testo> sezioni;
+  for (int i = 1; i <= NumeroSezioni; ++i)
+    Durante([&] { return SullaSezione("salvataggio", TabellaSezioni[i].Nome); },
+            [&] { AccodaSezione(sezioni.emplace_back(), TabellaSezioni[i]); });
+  return sezioni;
+}
+
 std::vector<Testo> SezioniScrivibili() {
   std::vector<Testo> sezioni;
   for (int i = 1; i <= NumeroSezioni; ++i) {

@@ -13,7 +13,10 @@ namespace tarvel {
 /// The text of a section file; each section as its lines.
 Testo ComponiFileSezioni(std::span<const Testo> sezioni);
 
-/// The sections of the table that can be written, each as its lines.
+/// The sections of the table, each as its lines; one that cannot be written is fatal.
+std::vector<Testo> RigheSezioni();
+
+/// Those that can be written.
 std::vector<Testo> SezioniScrivibili();
 
 /// Keeps the text as `file` + `coda`, + "2", + "3"...: in the first of these names that is free, or in the

@@ -86,11 +86,7 @@ void LeggiFileSezioni(bool mostraErrore) {
 }
 
 EsitoSezioni ScriviFileSezioni() {
-  std::vector<Testo> sezioni;
-  for (int i = 1; i <= NumeroSezioni; ++i)
-    Durante([&] { return SullaSezione("salvataggio", TabellaSezioni[i].Nome); },
-            [&] { AccodaSezione(sezioni.emplace_back(), TabellaSezioni[i]); });
-
+  const std::vector<Testo> sezioni = RigheSezioni();
   EsitoSezioni esito;
   if (FileSezioni == gIntoccabile) return esito;
   const Testo testo = ComponiFileSezioni(sezioni);

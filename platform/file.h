@@ -83,6 +83,13 @@ class FileInLettura {
   bool Guasto() const { return mancanza_ == Mancanza::Guasto; }
   /// Of all that was read, of the whole file once its end was.
   std::uint64_t ImprontaLetta() const { return impronta_; }
+  /// Where the next item begins: its line, from 1, and how many characters of it belong to items before.
+  struct Posto {
+    int riga;
+    std::size_t colonna;
+  };
+  Posto ProssimoPosto() const { return rigaAperta_ ? Posto{numero_, letti_} : Posto{numero_ + 1, 0}; }
+
   /// "file, riga n" of the line last read from.
   Testo Luogo() const;
   [[noreturn]] void Malformato(const Testo& cosa) const;

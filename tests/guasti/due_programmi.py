@@ -100,6 +100,6 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
                          r'sezio_ut\.salvataggio"', detto), detto
         assert 3 < time.monotonic() - inizio < 10
     assert nomi(file) == ["A", "C"] and nomi(file + ".salvataggio") == ["A", "C", "D"]
-    assert not [f for f in os.listdir(lavoro) if f.endswith(".tmp")]
     uno.fine(), due.fine()
+    assert not [f for f in os.listdir(lavoro) if f.endswith(".tmp")]
 print("1 passed, 0 failed")

@@ -3,7 +3,8 @@
 A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
 example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
 LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values, "ordine N"
-presses the buttons of the steps in the Nth column of the page's table of orders. Of a line "= ..." the last word,
+presses the buttons of the steps in the Nth column of the page's table of orders. "$ COMMAND" ends the program and runs
+a command in the job's folder, which has to stand in the text; "guasta COMMAND" one that does not. Of a line "= ..." the last word,
 or after a name of CAMPI_INTERI the whole rest, has to stand in the text under the same heading too; a line "~ ..."
 is compared with the program alone:
     = NAME FIELD VALUE           a section of the file: larghezza, ZG, An, O10y, P14.tauVy, punti, ...
@@ -12,6 +13,7 @@ is compared with the program alone:
     = riga TEXT                  a line of the file   = disegno TEXT      a text of a drawing
     = nomi generale|lavoro A B   a file's sections    = file A B          the drawings of the job
     = elenco TEXT                a list's entries     = lotto FIELD VALUE the beginning of the filter's figure
+    = uscita TEXT                the last command has said
 """
 import os
 import re
@@ -25,7 +27,7 @@ from installazione import ESEMPIO, installa  # noqa: E402
 
 HEADLESS, LOTTO, OSTREL, *_ = [*(os.path.abspath(p) for p in sys.argv[1:]), None]
 DOMANDA_FINALE = 'a question without an answer: "INFORMAZIONE" "Sezione non salvata. Salvare?"'
-CAMPI_INTERI = ("riga", "messaggio", "disegno", "elenco")
+CAMPI_INTERI = ("riga", "messaggio", "disegno", "elenco", "uscita")
 BOTTONI = {"Anteprima": "Command4", "Calcola": "Calcolo", "Salva": "Command2"}
 errori = []
 
@@ -74,8 +76,9 @@ class Prova:
                 if verbo in "=~":
                     self.confronta(resto, verbo == "=")
                 elif verbo == "riavvia":
-                    self.gioca()
-                    self.copione, self.inizio = [], self.radice
+                    self.fine()
+                elif verbo in ("$", "guasta"):
+                    self.comanda(resto, verbo == "$")
                 elif verbo == "zeri":
                     os.remove(os.path.join(self.radice, "custom", "CapSezDe.txt"))
                 elif verbo == "tabella":
@@ -99,6 +102,21 @@ class Prova:
         installa(self.radice)
         with open(os.path.join(self.radice, "custom", "CapSezDe.txt"), "w", newline="") as file:
             file.write(ESEMPIO)
+
+    def fine(self):
+        self.gioca()
+        self.copione, self.inizio = [], self.radice
+
+    def comanda(self, comando, nel_testo):
+        if self.copione:
+            self.fine()
+        self.radice = self.inizio
+        if nel_testo:
+            controlla(self.dove, comando, comando if comando in self.visibile else "non è nel testo", comando)
+        esito = subprocess.run(comando, shell=True, cwd=self.nel_lavoro(), capture_output=True, text=True, timeout=60,
+                               env=os.environ | {"PATH": os.path.dirname(LOTTO) + os.pathsep + os.environ["PATH"]})
+        self.uscita = esito.stdout + esito.stderr
+        controlla(self.dove, comando, esito.returncode in (0, 3) or self.uscita, True)
 
     def gioca(self, *altre):
         """The lines so far, on a copy of what was there when they began."""
@@ -134,6 +152,8 @@ class Prova:
     def trova(self, campo, resto, valore):
         if campo == "casella":
             return re.findall(r'^text Text1\(%s\) "(.*)"$' % resto.split(" ")[0], self.detto, re.M)[-1]
+        if campo == "uscita":
+            return valore if valore in self.uscita else self.uscita[-300:]
         if campo in ("messaggio", "elenco"):
             return valore if valore in self.detto else self.detto[-300:]
         if campo == "file":

@@ -12,6 +12,7 @@ import sys
 import tempfile
 
 sys.dont_write_bytecode = True
+import copia  # noqa: E402
 import fine  # noqa: E402
 from banco import (EMULATORE, INTESTAZIONE, LOTTO, QUI, RIGA, VALORI, byte, cambiata, controlla, desktop,  # noqa: E402
                    errori, lotto, tabella)
@@ -33,8 +34,8 @@ def come_il_desktop(base):
     salva = "".join("".join(f"type Text1({i}) {v}\n" for i, v in enumerate(s)) +
                     f"type nome U_PO_{n:03}\nclick Calcolo\nclick Command2\n" for n, s in enumerate(sezioni, 1))
 
-    def uguali(cosa, cartella, sezio):
-        controlla(cosa + ": sezio_ut", byte(sezio), byte(os.path.join(lavoro, "sezio_ut")))
+    def uguali(cosa, cartella, sezio=None):
+        controlla(cosa + ": sezio_ut", sezio is None or byte(sezio) == byte(os.path.join(lavoro, "sezio_ut")), True)
         controlla(cosa + ": disegni", sorted(os.listdir(cartella)), [f"U_PO_{n:03}.dis" for n in range(1, 21)])
         for nome in os.listdir(cartella):
             controlla(f"{cosa}: {nome}", byte(os.path.join(cartella, nome)), byte(os.path.join(lavoro, nome)))
@@ -89,9 +90,9 @@ def come_il_desktop(base):
     # Each section read back, recalculated and saved.
     desktop(radice, "".join(f"type nome U_PO_{n:03}\nclick Command1\nclick Calcolo\nanswer yes\nclick Command2\n"
                             for n in range(1, 21)))
-    esito = lotto(["--da", sezio, "--opzioni", opzioni, "--sezio", sezio + "2", "--disegni", disegni["rilette"]])
+    esito = lotto(["--da", sezio, "--opzioni", opzioni, "--disegni", disegni["rilette"]])
     controlla("--da", (esito.returncode, esito.stderr), (0, b""))
-    uguali("--da", disegni["rilette"], sezio + "2")
+    uguali("--da", disegni["rilette"])
     guaste = byte(sezio).split(b"\r\n")
     guaste[4:6] = [b"12"]  # a vertex less in the first outline
     with open(sezio + "3", "wb") as file:
@@ -154,6 +155,15 @@ def forme(base):
     for nome in ("è" * 3000, "a" + "è" * 3000):
         esito = lotto([], f"nome;{INTESTAZIONE}\n" + f"{nome};{RIGA}\n" * 20)
         controlla("codifica", [r[0] for r in tabella(esito)[1:]] == [nome] * 20, True)
+    # Names that a spreadsheet would run: the cell read, the section's name, the cell written; and this one read.
+    for letta, nome, scritta in (("=1+1", "=1+1", "'=1+1"), ("'=1+1", "=1+1", "'=1+1"), ("+a", "+a", "'+a"), ("'-a", "-a", "'-a"),
+                                 ("@a", "@a", "'@a"), ("''=a", "'=a", "''=a"), ("a=1", "a=1", "a=1"), ("'a", "'a", "'a"),
+                                 ("'", "'", "'"), ("'@", "@", "'@")):
+        for giro, cella in enumerate((letta, scritta)):
+            sezio = os.path.join(base, f"formula {letta} {giro}")
+            esito = lotto(["--sezio", sezio], f"nome;{INTESTAZIONE}\n{cella};{RIGA}\n")
+            controlla(f"nome {cella}", (tabella(esito)[1][0], byte(sezio).split(b"\r\n")[1]), (scritta, nome.encode()))
+    controlla("nome riletto", lotto(["--da", sezio]).stdout, esito.stdout)
     # The first file's separator, line end and code, also where a block of rows is of several.
     seconda = os.path.join(base, "seconda.csv")
     with open(seconda, "w", encoding="utf-8", newline="") as file:
@@ -181,6 +191,7 @@ def sbagliate(base):
         (cambiata(p1="25,5"), '"25,5" non è un numero: la virgola decimale vuole --virgola (riga 2, soletta inferiore)'),
         (cambiata(p20="1e999"), '"1e999" non è un numero (riga 2, inclinazione anime)'),
         (cambiata(p20="nan"), '"nan" non è un numero (riga 2, inclinazione anime)'),
+        (cambiata(p1="2\0005"), "un carattere nullo (riga 2)"),
         (cambiata(p0='"200'), "virgolette aperte e mai chiuse (riga 2)"),
         (";".join(["0"] * 21), "calcolo della sezione U_PO_002, costante di torsione: divisione per zero. "
                                "Le dimensioni non formano una sezione a cassone."),
@@ -206,6 +217,8 @@ def sbagliate(base):
         ([], b"\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1" + bytes(500), 1, "cartella di lavoro"),
         ([], RIGA.encode("utf-16"), 1, "UTF-16"),
         ([], RIGA.encode("utf-16-le"), 1, "UTF-16"),
+        ([], (RIGA + ";perché\r\n").encode("utf-16-be"), 1, "UTF-16"),
+        ([], "\0" * 400, 1, "un carattere nullo (riga 1; standard input)"),
         (["--", "-manca.csv"], "", 1, "il file non si legge (-manca.csv)"),
         (["manca.csv"], "", 1, "il file non si legge (manca.csv)"),
         (["--da", "manca"], "", 1, "File manca non trovato"),
@@ -219,7 +232,7 @@ def sbagliate(base):
         (["--disegni", os.path.join(base, "manca")], "", 2, "non esiste"),
         (["--opzioni", __file__], "", 2, "--opzioni senza --disegni"),
         (["--opzioni", __file__, "--disegni", piena], "", 1, "riga 1"),
-        (["--sezio", os.path.join(base, "niente")], "", 1, "nessuna sezione calcolata"),
+        (["--sezio", os.path.join(base, "niente")], "", 1, "nessuna sezione da scrivere"),
     ]
     for argomenti, testo, stato, detto in intere:
         esito = lotto(argomenti, testo, cwd=base)
@@ -260,6 +273,7 @@ def sbagliate(base):
 with tempfile.TemporaryDirectory(prefix="Lotto_") as temporanea:
     come_il_desktop(temporanea)
     forme(temporanea)
+    copia.copia(temporanea)
     sbagliate(temporanea)
     fine.tubo_chiuso()
     if not EMULATORE:
