@@ -36,16 +36,19 @@ constexpr Doppia SommaEsatta(double a, double b) {
   return {s, (a - (s - di_b)) + (b - di_b)};
 }
 
+/// The exact product, where it and its resto are doubles: always from 2^-968 on, as a resto may lie 106
+/// digits below its product; what would be less than the smallest double is lost.
 constexpr Doppia ProdottoEsatto(double a, double b) {
-  // The upper half of the digits: products of halves are exact, that of the lower ones but for its last
-  // bit. Cut off by a mask, as the usual large factor would overflow from 1E+300 on.
-  constexpr auto alta = [](double x) {
-    return std::bit_cast<double>(std::bit_cast<std::uint64_t>(x) & ~std::uint64_t{0x7FFFFFF});
+  // Halves of 26 and 27 digits, cut off by a mask, as the usual large factor would overflow from 1E+300 on.
+  // Two lower halves have a product of 54 digits: the last digit of one goes apart.
+  constexpr auto senza = [](double x, std::uint64_t cifre) {
+    return std::bit_cast<double>(std::bit_cast<std::uint64_t>(x) & ~cifre);
   };
   const double p = a * b;
-  const double aAlta = alta(a), aBassa = a - aAlta;
-  const double bAlta = alta(b), bBassa = b - bAlta;
-  return {p, ((aAlta * bAlta - p) + aAlta * bBassa + aBassa * bAlta) + aBassa * bBassa};
+  const double aAlta = senza(a, 0x7FFFFFF), aBassa = a - aAlta;
+  const double bAlta = senza(b, 0x7FFFFFF), bPari = senza(b, 1), bUltima = b - bPari;
+  return {p, (((aAlta * bAlta - p) + aAlta * (b - bAlta) + aBassa * bAlta) + aBassa * (bPari - bAlta)) +
+                 aBassa * bUltima};
 }
 
 constexpr Doppia operator-(Doppia a) {

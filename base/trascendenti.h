@@ -7,6 +7,8 @@ namespace tarvel {
 
 /// The natural logarithm of x > 0.
 double Logaritmo(double x);
+/// So up to 1E+17 radians. Farther on the digits of pi run out: the last bit may be another one from 1E+27
+/// on, and past 1E+49 no digit is right.
 double Seno(double radianti);
 double Coseno(double radianti);
 /// In radians, between -pi/2 and pi/2.

@@ -1,6 +1,7 @@
 // Numbers and their texts, checked arithmetic.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <limits>
@@ -105,26 +106,56 @@ TEST(Numeri, ConversioneRegionale) {
   }
 }
 
-// Cubes and fourth powers that plain products, or the C library, round to the next double.
+// (m 2^e)^n lies within half a step of its double, and in the very middle of two only beside an even one:
+// counted in whole numbers modulo 2^64, as what is missing is less.
+void ProvaPotenza(std::uint64_t m, int e, int n) {
+  const double x = std::ldexp(static_cast<double>(m), e), y = Potenza(x, n);
+  const int passo = std::max(std::ilogb(y), -1022) - 52, cifre = passo - n * e;
+  const auto intera = static_cast<std::uint64_t>(std::ldexp(y, -passo));
+  std::uint64_t esatta = m;
+  for (int i = 1; i < n; ++i) esatta *= m;
+  const auto manca = static_cast<std::int64_t>(esatta - (intera << cifre));
+  EXPECT_LE(std::abs(manca), (std::int64_t{1} << (cifre - 1)) - (intera % 2 == 0 ? 0 : 1)) << x << '^' << n;
+  EXPECT_EQ(Potenza(-x, n), n % 2 == 0 ? y : -y);
+}
+
 TEST(Numeri, PotenzeArrotondateUnaVolta) {
+  const auto ovunque = [](std::uint64_t m, int n) {
+    // Also just below the smallest number of 53 bits, and just within the largest.
+    for (const int e : {0, -1136 / n, 1023 / n - static_cast<int>(std::bit_width(m))}) ProvaPotenza(m, e, n);
+  };
   const struct {
-    double x;
+    int n, bit;             // as many as leave no more than 62 to be rounded away
+    std::uint64_t mezzana;  // from here on odd numbers have a power of 54 bits, in the middle of two doubles
+  } casi[] = {{2, 53, 94906267}, {3, 38, 208065}, {4, 28, 9743}};
+  for (const auto& c : casi) {
+    const std::uint64_t uno = std::uint64_t{1} << (c.bit - 1);
+    for (std::uint64_t d = 1; d < 64; ++d) {
+      const std::uint64_t sparsa = uno + d * 0x9E3779B97F4A7C15 % uno;
+      for (const std::uint64_t m : {uno + d, uno / 2 * 3 - d, uno / 2 * 3 + d, 2 * uno - d, sparsa})
+        ovunque(m, c.n);
+      ovunque(c.mezzana + 2 * d, c.n);
+    }
+  }
+  // Squares few units from the middle of two doubles, found bit by bit; products of 53 bits by 53.
+  constexpr std::uint64_t kOpposto = std::uint64_t{3} << 52;
+  for (int d = -63; d < 64; d += 8) {
+    std::uint64_t m = 1;
+    for (int k = 3; k < 53; ++k)
+      if (((m * m - static_cast<std::uint64_t>(d)) >> k & 1) != (k == 52)) m += std::uint64_t{1} << (k - 1);
+    m |= std::uint64_t{1} << 52;
+    ovunque(m, 2);
+    for (const std::uint64_t fattore : {m, kOpposto - m}) {
+      const Doppia p = ProdottoEsatto(static_cast<double>(m), static_cast<double>(fattore));
+      EXPECT_EQ(m * fattore, static_cast<std::uint64_t>(std::fmod(p.valore, 0x1p64)) +
+                                 static_cast<std::uint64_t>(static_cast<std::int64_t>(p.resto)));
+    }
+  }
+  const struct {
     int n;
     double atteso;
-  } casi[] = {
-      {588.62, 2, 0x1.525a604816f01p+18},
-      {15.34, 3, 0x1.c337b8c32a8c9p+11},
-      {-403.01, 3, -0x1.f36329b2090b3p+25},
-      {964.02, 3, 0x1.ab327077559f6p+29},
-      {589.76, 4, 0x1.c2ac3e89ebd19p+36},
-      {1397.21, 4, 0x1.bbaab040a0e84p+41},
-      {5.6e102, 3, 0x1.f42bc4b9b49e4p+1023},
-      {1.15e77, 4, 0x1.f2222e087f762p+1023},
-      {10, 22, 1e+22},
-      {10, 0, 1},
-      {10, -2, 0.01},
-  };
-  for (const auto& c : casi) EXPECT_EQ(Potenza(Reale(c.x), c.n), c.atteso) << c.x << " alla " << c.n;
+  } diDieci[] = {{-2, .01}, {0, 1}, {1, 10}, {22, 1e22}, {23, 1e23}, {45, 1e45}, {308, 1e308}};
+  for (const auto& c : diDieci) EXPECT_EQ(Potenza(Reale(10), c.n), c.atteso) << c.n;
 }
 
 // The nearest double, also where it is hard to tell (C libraries give the other neighbour for the first of

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "base/errore.h"
+#include "base/tronca.h"
 #include "properties/caratteristiche.h"
 #include "properties/integrali.h"
 #include "tests/aiuti.h"
@@ -16,6 +17,7 @@ namespace {
 using prove::Casuale;
 using prove::Costruita;
 using prove::Esempio;
+using prove::Vettore;
 
 // Calculated twice: nothing of the first time may be left in the second.
 RecordSezione Calcolata(const VettoreParametri& p) {
@@ -45,6 +47,16 @@ TEST(Caratteristiche, Esempio) {
   VettoreParametri larga = Esempio();
   larga[kInclinazioneAnime] = -400;
   EXPECT_EQ(Calcolata(larga).BaseTotale, 1780) << "of the soffit";
+}
+
+// Where the last bit of a square decides what is left of a figure once it is cut.
+TEST(Caratteristiche, TagliSulFilo) {
+  const RecordSezione a = Calcolata(Vettore({229.1, 24.7, 53.4, 98.6, 57.1, 81, 35.3, 45.1, 68.4, 314.7, 84.7,
+                                             25.4,  44.6, 98,   51.4, 1200, .4, 1.1,  -1.1, -.4,  -2.9}));
+  EXPECT_EQ(Tronca(a.ZG, 2), 600);
+  const RecordSezione b =
+      Calcolata(Vettore({54, 16, 8, 8, 8, 8, 8, 8, 5, 10, 3, 0, 0, 0, 3, 40, 0, 0, 0, 0, 20}));
+  EXPECT_EQ(b.EtichettaPunto[14].Rifilato(), "NODO 14 TAG1_6.9");
 }
 
 // Mirrored slopes give the mirrored outline: the right side is measured from the right end, except that the
