@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
+#include <cstdio>
+#include <cstdlib>
 
 #include "app/form_sez.h"
 #include "app/tarvel1.h"
@@ -29,7 +31,17 @@
 namespace tarvel {
 namespace {
 
-// The toolkit for one test: every test runs in a process of its own.
+// The toolkit is set up for one test: more than one in a process are refused before the first begins.
+struct UnaProva : testing::Environment {
+  void SetUp() override {
+    if (testing::UnitTest::GetInstance()->test_to_run_count() <= 1) return;
+    std::fputs("prova-aspetto: one test a process: ctest -R NAME, or --gtest_filter=NAME\n", stderr);
+    std::exit(2);
+  }
+};
+const auto* const kUnaProva = testing::AddGlobalTestEnvironment(new UnaProva);
+
+// The toolkit for one test.
 void Prepara(const Form& form, const QByteArray& piattaforma = "offscreen") {
   qputenv("QT_QPA_PLATFORM", piattaforma);
   std::string nome = "prova";
@@ -97,6 +109,8 @@ void ControllaTesti(Form& form) {
     SCOPED_TRACE(controllo->nome);
     const QWidget& widget = *finestra.WidgetDi(*controllo);
     EXPECT_TRUE(finestra.rect().contains(widget.geometry()));
+    const Colore& c = controllo->coloreTesto;
+    EXPECT_EQ(widget.palette().color(widget.foregroundRole()), QColor(c.r, c.g, c.b));
     const QFontMetrics misure(widget.font());
     if (controllo->tipo == TipoControllo::Bottone) {
       const QString testo = static_cast<const QAbstractButton&>(widget).text();
