@@ -97,6 +97,12 @@ TEST(Casella, DiceOgniCambioETieneSoloTestoAOttoBit) {
     EXPECT_EQ(controllo.testo, DaQt(casella.text()));
     EXPECT_EQ(codici, attesi);
   }
+  // What comes from the menu is in view as what is typed.
+  controllo.tasto = {};
+  ImpostaTesto(controllo, Testo(99, '1'));
+  casella.paste();
+  casella.grab();
+  EXPECT_GT(casella.cursorPositionAt({}), 50);
   ScaricaForm(form);
 }
 
@@ -157,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
 
 // The second one is twice as tall as its font.
 TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
-  const Testo percorso = "\\dati dati\\" + Testo(200, 'x') + "\\sezio_ut";
+  const Testo percorso = "\\dati <b>dati\\" + Testo(200, 'x') + "\\sezio_ut";
   Controllo riga = NuovoControllo(TipoControllo::Etichetta, "R", {0, 0, 1500, 269}, percorso);
   Controllo nota = NuovoControllo(TipoControllo::Etichetta, "N", {0, 300, 1500, 270}, percorso);
   Form form;
@@ -168,7 +174,7 @@ TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
   EXPECT_TRUE(etichetta.text().startsWith("\\dati "));
   EXPECT_TRUE(etichetta.text().endsWith("\\sezio_ut"));
   EXPECT_LE(etichetta.fontMetrics().horizontalAdvance(etichetta.text()), etichetta.width());
-  EXPECT_EQ(etichetta.toolTip(), InQt(percorso));
+  EXPECT_EQ(Letto(etichetta.toolTip()), InQt(percorso));
   EXPECT_EQ(static_cast<const QLabel&>(*finestra.WidgetDi(nota)).text(), InQt(percorso));
 }
 
