@@ -9,6 +9,7 @@
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "model/file_sezioni.h"
+#include "model/nomi_dimensioni.h"
 #include "model/tabella_sezioni.h"
 #include "options/form_opt.h"
 #include "options/opzioni.h"
@@ -46,11 +47,13 @@ tarvel1::tarvel1() {
                              {voce.sinistra, voce.alto, 396, 216}, "1234");
     casella.coloreTesto = voce.colore;
     casella.carattere.punti = 6;
+    casella.descrizione = DescrizioneDimensione(i);
     casella.tasto = [this, i](int codice) { Text1_KeyPress(i, codice); };
     casella.fuocoPerso = [this, i] { Text1_LostFocus(i); };
   }
 
   nome = NuovoControllo(TipoControllo::Casella, "nome", {7320, 3960, 2004, 288});
+  nome.descrizione = "nome della sezione";
   nome.tasto = [this](int codice) { nome_KeyPress(codice); };
   nome.fuocoPerso = [this] { nome_LostFocus(); };
   nomute = NuovoControllo(TipoControllo::Etichetta, "nomute", {1524, 4404, 2460, 156});

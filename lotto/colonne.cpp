@@ -7,39 +7,10 @@
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "lotto/csv.h"
+#include "model/nomi_dimensioni.h"
 
 namespace tarvel::lotto {
 namespace {
-
-struct NomiColonna {
-  const char* breve;
-  const char* guida;  // as the guide says it, where that is longer
-};
-
-// In UTF-8.
-constexpr std::array<NomiColonna, kNumParametri> kNomi = {{
-    {"altezza totale", "altezza totale, in mezzeria"},
-    {"soletta inferiore", ""},
-    {"estremità sbalzi", "estremità degli sbalzi"},
-    {"attacco sbalzi", "attacco degli sbalzi"},
-    {"sommità esterna anime", "sommità esterna delle anime"},
-    {"sommità interna anime", "sommità interna delle anime"},
-    {"soletta fine raccordo", "soletta alla fine del raccordo"},
-    {"soletta mezzeria", "soletta in mezzeria"},
-    {"altezza raccordo inferiore", ""},
-    {"sbalzo", ""},
-    {"da sbalzo ad anima", "dall'attacco dello sbalzo all'anima"},
-    {"raccordo superiore", ""},
-    {"da raccordo a colmo", "dal raccordo superiore al colmo"},
-    {"da colmo a mezzeria", "dal colmo alla mezzeria"},
-    {"base raccordo inferiore", ""},
-    {"larghezza totale", ""},
-    {"pendenza sinistra", "dall'estremo sinistro al primo colmo"},
-    {"pendenza colmo sinistra", "dal primo colmo alla mezzeria"},
-    {"pendenza colmo destra", "dalla mezzeria al secondo colmo"},
-    {"pendenza destra", "dal secondo colmo all'estremo destro"},
-    {"inclinazione anime", "inclinazione delle anime"},
-}};
 
 constexpr char kAmbigua[] = "raccordo inferiore";  // in the guide a height and a base
 
@@ -61,9 +32,8 @@ Testo Chiave(const Testo& nome) {
 int Significato(const Testo& chiave) {
   if (chiave == "nome") return kNome;
   for (int i = 0; i < kNumParametri; ++i) {
-    const NomiColonna& nomi = kNomi[static_cast<std::size_t>(i)];
-    if (chiave == Chiave(DaUtf8(nomi.breve)) || chiave == "p" + std::to_string(i) ||
-        (nomi.guida[0] != '\0' && chiave == Chiave(DaUtf8(nomi.guida))))
+    if (chiave == Chiave(DaUtf8(Nomi(i).breve)) || chiave == "p" + std::to_string(i) ||
+        chiave == Chiave(DaUtf8(Nomi(i).guida)))
       return i;
   }
   return kAltra;
@@ -82,7 +52,7 @@ Testo Elenco(const std::vector<Testo>& nomi) {
 }  // namespace
 
 Testo NomeDimensione(int i) {
-  return DaUtf8(kNomi[static_cast<std::size_t>(i)].breve);
+  return DaUtf8(Nomi(i).breve);
 }
 
 std::optional<Colonne> LeggiIntestazione(const std::vector<std::string>& celle) {

@@ -45,6 +45,7 @@ FormOpt::FormOpt() {
     const std::string indice = "(" + std::to_string(i) + ")";
     TextOpt[posto] =
         NuovoControllo(TipoControllo::Casella, "TextOpt" + indice, Posto(i, kEtichetta, kCasella, 270));
+    TextOpt[posto].descrizione = kVociOpzioni[posto].etichettaForm;
     TextOpt[posto].tasto = [this, i](int codice) {
       if (codice == kTastoInvio) TextOpt_LostFocus(i);
     };

@@ -52,7 +52,11 @@ struct Carattere {
 /// even small letters do not fit, the whole text then shown on request (as a tool tip).
 /// Casella: white, one line, at most kMassimoCasella characters: what exceeds them is left out, whoever
 /// writes it. Reached by Tab or by its form's being shown its whole text is selected, by the mouse the
-/// caret stands where it was clicked.
+/// caret stands where it was clicked. Text that the program has set, and text that the keyboard has left, is
+/// shown from its beginning; while the user types, or moves the caret, the caret is in view. Where text is
+/// out of sight at an end, a mark at that edge says so, over the letters, which stay as they are. Its tool
+/// tip says what it is and, where the text does not fit, the whole of it (Suggerimento,
+/// platform/comune/casella.h). Tool tips are plain text.
 /// Lista: white. A click or an arrow selects one entry; with selezioneEstesa Shift and Ctrl select
 /// several. Reaching it selects nothing; Enter, Esc and a click beside the entries change nothing.
 enum class TipoControllo { Bottone, Etichetta, Casella, Lista };
@@ -73,6 +77,7 @@ struct Controllo {
   Rettangolo posto;
   Colore coloreTesto = kNero;
   Carattere carattere;
+  Testo descrizione;             // boxes: what it is, to be read in its tool tip and as its accessible name
   bool selezioneEstesa = false;  // lists: several entries at once (click, Shift, Ctrl)
 
   // State, at first part of the description. The program changes it only through the calls of

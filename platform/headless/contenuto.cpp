@@ -1,6 +1,7 @@
 // Texts and entries of controls: the program's changes and what a user sees of them.
 #include "platform/headless/contenuto.h"
 
+#include <cstring>
 #include <utility>
 
 #include "platform/headless/desktop.h"
@@ -12,6 +13,15 @@ namespace {
 
 void AnnotaSeVisibile(const Controllo& controllo) {
   if (FormDi(controllo) != nullptr) Annota(RigaContenuto(controllo));
+}
+
+// Twips, as letters of a narrow face have them on average; the edges of a box take their part.
+bool CiSta(const Controllo& casella) {
+  constexpr double kTwipPerPunto = 20, kCifra = 0.57, kStretta = 0.29;
+  constexpr int kBordi = 45;
+  double ems = 0;
+  for (const char c : casella.testo) ems += std::strchr(" .,:;'-", c) != nullptr ? kStretta : kCifra;
+  return ems * casella.carattere.punti * kTwipPerPunto <= casella.posto.larghezza - kBordi;
 }
 
 }  // namespace
@@ -33,12 +43,22 @@ std::string RigaContenuto(const Controllo& controllo) {
   return riga;
 }
 
+Taglio Tagliato(const Controllo& casella) {
+  if (CiSta(casella)) return {};
+  return CursoreInVista(casella) ? Taglio{.inizio = true} : Taglio{.fine = true};
+}
+
+Testo SuggerimentoDi(const Controllo& casella) {
+  return Suggerimento(casella, CiSta(casella));
+}
+
 }  // namespace headless
 
 using namespace headless;
 
 void ImpostaTesto(Controllo& controllo, const Testo& testo) {
   ScegliTutto(controllo, false);
+  MettiCursoreInVista(controllo, false);
   const Testo tenuto = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
   if (controllo.testo == tenuto) return;
   controllo.testo = tenuto;

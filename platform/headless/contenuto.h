@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/comune/casella.h"
 #include "platform/comune/descrizione.h"
 
 namespace tarvel::headless {
@@ -14,5 +15,10 @@ void MostraContenuti(const Form& form, const Descrizione& descritta);
 /// The line of a control: text C "TEXT" or list C "..." "..."; C is FORM.C on a visible form that
 /// is not in front.
 std::string RigaContenuto(const Controllo& controllo);
+
+/// What a box cannot show of its text now, by the widths that letters have on average.
+Taglio Tagliato(const Controllo& casella);
+/// What the pointer would show over a box.
+Testo SuggerimentoDi(const Controllo& casella);
 
 }  // namespace tarvel::headless

@@ -140,6 +140,12 @@ void EseguiPrint(const Evento& e) {
   Annota(RigaContenuto(controllo));
 }
 
+void EseguiTip(const Evento& e) {
+  const Controllo& casella = Trova(e);
+  e.Esigi(casella.tipo == TipoControllo::Casella);
+  Annota("tip " + e.argomenti.front() + ' ' + TraVirgolette(SuggerimentoDi(casella)));
+}
+
 void EseguiEndtask(const Evento& e) {
   if (!TerminaCompito(Numero(e, e.argomenti.front(), 1, INT32_MAX))) e.Errore("no such task runs");
 }
@@ -151,7 +157,7 @@ struct Verbo {
 };
 constexpr std::size_t kQuanti = SIZE_MAX;
 
-constexpr std::array<Verbo, 13> kVerbi = {{
+constexpr std::array<Verbo, 14> kVerbi = {{
     {"type", 1, kQuanti, EseguiType},
     {"focus", 1, 1, [](const Evento& e) { e.Esigi(Vai(Trova(e))); }},
     {"enter", 1, 1, [](const Evento& e) { e.Esigi(Invio(Trova(e))); }},
@@ -162,6 +168,7 @@ constexpr std::array<Verbo, 13> kVerbi = {{
     {"dblclick", 2, 2, EseguiDblclick},
     {"close", 0, 1, EseguiClose},
     {"print", 1, 1, EseguiPrint},
+    {"tip", 1, 1, EseguiTip},
     {"layout", 0, 1, EseguiLayout},
     {"tick", 1, 1, [](const Evento& e) { LasciaPassare(Numero(e, e.argomenti.front(), 0, kTickMassimo)); }},
     {"endtask", 1, 1, EseguiEndtask},

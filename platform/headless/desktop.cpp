@@ -31,6 +31,7 @@ struct Finestra {
   std::size_t livello = 0;  // modal loops that ran when it was shown: later ones block it
   Controllo* fuoco = nullptr;
   bool tuttoScelto = false;  // of the text of the box with the focus
+  bool cursoreInVista = false;
   Descrizione descritta;
 };
 
@@ -77,7 +78,13 @@ void Sgombera() {
   gScrivania = {};
 }
 
+// The keyboard goes elsewhere.
+void LasciaFuoco() {
+  if (FormAttiva() != nullptr) Di(*FormAttiva()).cursoreInVista = false;
+}
+
 void PortaInPrimoPiano(Form& form) {
+  LasciaFuoco();
   std::erase(gScrivania.fila, &form);
   gScrivania.fila.push_back(&form);
 }
@@ -127,6 +134,7 @@ int Avvia(Form& principale, Attore attore) {
 Risposta Chiede(const Messaggio& messaggio) {
   if (!gScrivania.attore.risponde) return messaggio.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
   const PausaTimer pausa;
+  LasciaFuoco();
   gScrivania.messaggio = true;
   const Risposta risposta = gScrivania.attore.risponde(messaggio);
   gScrivania.messaggio = false;
@@ -188,6 +196,14 @@ bool TuttoScelto(const Controllo& controllo) {
 void ScegliTutto(const Controllo& controllo, bool scelto) {
   for (auto& [form, finestra] : gScrivania.finestre)
     if (finestra.fuoco == &controllo) finestra.tuttoScelto = scelto;
+}
+
+bool CursoreInVista(const Controllo& controllo) {
+  return Fuoco() == &controllo && Di(*FormAttiva()).cursoreInVista;
+}
+
+void MettiCursoreInVista(const Controllo& controllo, bool inVista) {
+  if (Fuoco() == &controllo) Di(*FormAttiva()).cursoreInVista = inVista;
 }
 
 }  // namespace headless

@@ -52,5 +52,8 @@ void SpostaFuoco(Form& form, Controllo* controllo);
 /// All text of the box with the focus is selected; else its caret stands at the end.
 bool TuttoScelto(const Controllo& controllo);
 void ScegliTutto(const Controllo& controllo, bool scelto);
+/// The user types in the box with the focus: its caret is in view, not the text's beginning.
+bool CursoreInVista(const Controllo& controllo);
+void MettiCursoreInVista(const Controllo& controllo, bool inVista);
 
 }  // namespace tarvel::headless

@@ -24,7 +24,9 @@ void Modifica(Controllo& casella, int codice, std::size_t via, const Testo& nuov
   testo.resize(
       TuttoScelto(casella) && (via > 0 || !nuovo.empty()) ? 0 : testo.size() - std::min(via, testo.size()));
   testo += nuovo.substr(0, kMassimoCasella - testo.size());
-  if (via > 0 || !nuovo.empty()) ScegliTutto(casella, false);
+  if (via == 0 && nuovo.empty()) return;
+  ScegliTutto(casella, false);
+  MettiCursoreInVista(casella, true);
 }
 
 void PremiInCasella(Controllo& casella, int tasto) {

@@ -1,9 +1,9 @@
-// A text box that tells the program of every change the user makes.
+// A text box that tells the program of every change the user makes, and its user what it has no room for.
 #pragma once
 
 #include <QLineEdit>
 
-#include "platform/controlli.h"
+#include "platform/comune/casella.h"
 
 namespace tarvel {
 
@@ -14,19 +14,33 @@ class Casella : public QLineEdit {
  public:
   Casella(Controllo& controllo, QWidget* padre);
 
+  /// Shows the text that the program has set.
+  void Mostra();
+
+  static constexpr QColor kSegno{208, 80, 0};  // of the marks where text is out of sight
+
  protected:
   void keyPressEvent(QKeyEvent* evento) override;
   void inputMethodEvent(QInputMethodEvent* evento) override;
   void dropEvent(QDropEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+  void focusOutEvent(QFocusEvent* evento) override;
   void paintEvent(QPaintEvent* evento) override;
 
  private:
   void Annuncia(int codice);
   void Scrivi(const QString& testo);
   void Modificato(const QString& testo);
+  QRect Riga() const;
+  void Misura();
+  void Inquadra(bool dallInizio);
+  Taglio Tagliato() const;
 
   Controllo& controllo_;
   bool annunciato_ = false;  // the change under way has fired its `tasto` already
+  bool dallInizio_ = true;   // the text is shown from there, wherever the caret is
+  int larghezzaTesto_ = 0;   // pixels
+  int prima_ = 0;            // of the text, in pixels, beside the style's own margin
 };
 
 }  // namespace tarvel

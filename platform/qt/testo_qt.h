@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QTextDocument>
 
 #include "base/testo.h"
 
@@ -9,6 +10,12 @@ namespace tarvel {
 
 inline QString InQt(std::string_view testo) {
   return QString::fromStdString(InUtf8(testo));
+}
+
+/// What a tool tip has to be given to show this text: it takes one that looks like markup for markup.
+inline QString InSuggerimento(const Testo& testo) {
+  const QString piano = InQt(testo);
+  return Qt::mightBeRichText(piano) ? Qt::convertFromPlainText(piano) : piano;
 }
 
 inline Testo DaQt(const QString& testo) {

@@ -66,7 +66,7 @@ void AggiornaEtichetta(QLabel& etichetta, const Controllo& controllo) {
   const QFontMetrics misure(etichetta.font());
   const QString mostrato = nota ? testo : misure.elidedText(testo, Qt::ElideMiddle, etichetta.width());
   etichetta.setText(mostrato);
-  etichetta.setToolTip(mostrato == testo ? QString() : testo);
+  etichetta.setToolTip(mostrato == testo ? QString() : InSuggerimento(controllo.testo));
 }
 
 void AggiornaLista(QListWidget& lista, const Controllo& controllo) {
@@ -122,7 +122,7 @@ QWidget* CreaWidget(Controllo& controllo, QWidget* padre) {
   widget->setObjectName(InQt(controllo.nome));
   const bool conTestoProprio =
       controllo.tipo == TipoControllo::Bottone || controllo.tipo == TipoControllo::Etichetta;
-  if (!conTestoProprio) widget->setAccessibleName(InQt(controllo.nome));
+  if (!conTestoProprio) widget->setAccessibleName(InQt(NomeAccessibile(controllo)));
   widget->setGeometry(Pixel(controllo.posto));
   widget->setFocusPolicy(controllo.tipo == TipoControllo::Etichetta ? Qt::NoFocus : Qt::StrongFocus);
   const QColor colore(controllo.coloreTesto.r, controllo.coloreTesto.g, controllo.coloreTesto.b);
@@ -145,7 +145,7 @@ void AggiornaWidget(QWidget* widget, const Controllo& controllo) {
     case TipoControllo::Etichetta:
       return AggiornaEtichetta(static_cast<QLabel&>(*widget), controllo);
     case TipoControllo::Casella:
-      return static_cast<QLineEdit*>(widget)->setText(InQt(controllo.testo));
+      return static_cast<Casella*>(widget)->Mostra();
     case TipoControllo::Lista:
       return AggiornaLista(static_cast<QListWidget&>(*widget), controllo);
   }

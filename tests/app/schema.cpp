@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "app/tarvel1.h"
+
 namespace tarvel {
 namespace {
 
@@ -39,9 +41,9 @@ TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
 
 TEST(Schema, AltezzeNereBasiBluPendenzeVerdi) {
   constexpr Colore kBlu{0, 0, 255}, kVerde{0, 128, 0};
-  const auto caselle = CaselleSchema();
+  const auto& caselle = dynamic_cast<const tarvel1&>(FormPrincipale()).Text1;
   for (std::size_t i = 0; i < caselle.size(); ++i)
-    EXPECT_EQ(caselle[i].colore, i < 9 ? kNero : i < 16 ? kBlu : kVerde) << i;
+    EXPECT_EQ(caselle[i].coloreTesto, i < 9 ? kNero : i < 16 ? kBlu : kVerde) << i;
 }
 
 }  // namespace

@@ -42,6 +42,28 @@ const Riga kRighe[] = {
        return std::vector{s.Preme("x"), s.Legge(s.a), s.Preme("\b"), s.Legge(s.a)};
      },
      "nuovox; nuov"},
+    {"text is shown from its beginning, except while the user types; a mark where it is cut; a tip says all",
+     [](Palco& s) {
+       for (Controllo* c : {&s.a, &s.b}) c->tasto = {}, c->fuocoPerso = {};
+       s.a.descrizione = "<b>A</b> &amp;\xE8";
+       const Passo scrive = [&s] {
+         for (Controllo* c : {&s.a, &s.b}) ImpostaTesto(*c, Testo(70, '8'));
+       };
+       const auto guarda = [&s](Controllo& c) -> Passo {
+         return [&s, &c] {
+           const std::string tutto = s.u.Mostrato(c) + ", " + s.u.Legge(c) + ", " + s.u.Indica(c);
+           s.u.Annota(std::regex_replace(tutto, std::regex("8{70}"), "8"));
+         };
+       };
+       const Passo a = guarda(s.a), b = guarda(s.b);
+       return std::vector{a,         scrive, a,         b, s.Preme("1"),       a,
+                          s.Va(s.b), a,      s.Va(s.a), a, s.Scrive(s.b, "2"), b};
+     },
+     "tutto, abc, <b>A</b> &amp;\xE8: <b>A</b> &amp;\xE8; "
+     "inizio >, 8, <b>A</b> &amp;\xE8: <b>A</b> &amp;\xE8/8; inizio >, 8, B: 8; "
+     "fine <, 81, <b>A</b> &amp;\xE8: <b>A</b> &amp;\xE8/81; "
+     "inizio >, 81, <b>A</b> &amp;\xE8: <b>A</b> &amp;\xE8/81; "
+     "inizio >, 81, <b>A</b> &amp;\xE8: <b>A</b> &amp;\xE8/81; tutto, 2, B: "},
     {"a key whose handler shows a form, or hides its own, is done before the focus goes",
      [](Palco& s) {
        s.a.tasto = [&s](int) { MostraForm(s.l); };

@@ -1,6 +1,9 @@
 // The suite's user on the scripted desktop: events go straight to the platform's hand.
+#include <algorithm>
+
 #include "platform/comune/argomenti.h"
 #include "platform/headless/avvio.h"
+#include "platform/headless/contenuto.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/mano.h"
 #include "platform/headless/regione.h"
@@ -46,6 +49,15 @@ class UtenteHeadless : public Utente {
     for (std::size_t i = 0; i < c.voci.size(); ++i)
       letto += Testo(i > 0 ? "|" : "") + (c.scelte[i] ? "*" : "") + c.voci[i];
     return letto;
+  }
+  std::string Mostrato(const Controllo& casella) override {
+    const Taglio taglio = headless::Tagliato(casella);
+    return taglio.inizio ? "fine <" : taglio.fine ? "inizio >" : "tutto";
+  }
+  std::string Indica(const Controllo& casella) override {
+    Testo tutto = NomeAccessibile(casella) + ": " + headless::SuggerimentoDi(casella);
+    std::replace(tutto.begin(), tutto.end(), '\n', '/');
+    return tutto;
   }
 
  private:

@@ -78,6 +78,11 @@ class Utente {
   /// Text of a box, caption of a button or label; the entries of a list joined by '|', each
   /// selected one with a '*' before it ("A|*B|C").
   virtual Testo Legge(const Controllo& controllo) = 0;
+  /// What of a box's text can be seen, "tutto", "inizio" or "fine", with the marks at the edges: "<", ">".
+  virtual std::string Mostrato(const Controllo& casella) = 0;
+  /// What a box is said to be by who reads the screen aloud, and its tool tip as it is read, '/' for a new
+  /// line: "NAME: TIP".
+  virtual std::string Indica(const Controllo& casella) = 0;
 
   std::string diario;
 

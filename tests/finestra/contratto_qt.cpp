@@ -3,6 +3,7 @@
 #include <QtCore/qtestsupport_core.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QDeadlineTimer>
@@ -16,6 +17,7 @@
 #include <fstream>
 
 #include "platform/qt/avvio.h"
+#include "platform/qt/casella.h"
 #include "platform/qt/finestra.h"
 #include "platform/qt/fuoco.h"
 #include "platform/qt/gestori.h"
@@ -160,6 +162,29 @@ class UtenteQt : public Utente {
     for (int i = 0; i < lista.count(); ++i)
       voci += (lista.item(i)->isSelected() ? "*" : "") + lista.item(i)->text();
     return DaQt(voci.join('|'));
+  }
+  // The letters by where the caret would be put at either edge, the marks by their colour.
+  std::string Mostrato(const Controllo& controllo) override {
+    auto& casella = static_cast<QLineEdit&>(*WidgetDi(controllo));
+    const QImage vista = casella.grab().toImage();  // it scrolls when it is painted
+    const int meta = casella.height() / 2, lettere = int(casella.text().size());
+    const auto segno = [&](int da, int verso) {
+      for (int x = 0; x < casella.width() / 2; ++x)
+        if (vista.pixelColor(da + verso * x, meta) == Casella::kSegno) return true;
+      return false;
+    };
+    const bool inizio = casella.cursorPositionAt({0, meta}) == 0;
+    const bool fine = casella.cursorPositionAt({casella.width(), meta}) == lettere;
+    return std::string(inizio ? fine ? "tutto" : "inizio"
+                       : fine ? "fine"
+                              : "mezzo") +
+           (segno(0, 1) ? " <" : "") + (segno(casella.width() - 1, -1) ? " >" : "");
+  }
+
+  std::string Indica(const Controllo& controllo) override {
+    QWidget* const widget = WidgetDi(controllo);
+    const QString nome = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+    return DaQt(QString(nome + ": " + Letto(widget->toolTip())).replace('\n', '/'));
   }
 
  private:

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QPointer>
+#include <QTextDocumentFragment>
 #include <QWindow>
 #include <initializer_list>
 #include <utility>
@@ -30,6 +31,12 @@ inline void Mouse(QWindow* finestra, QPoint punto, std::initializer_list<QEvent:
                         evento == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, evento, con, ++istante);
   }
   QCoreApplication::processEvents();
+}
+
+/// A tool tip as its window shows it, which decides by itself what is markup.
+inline QString Letto(const QString& suggerimento) {
+  return Qt::mightBeRichText(suggerimento) ? QTextDocumentFragment::fromHtml(suggerimento).toPlainText()
+                                           : suggerimento;
 }
 
 /// A key pressed and released, with Ctrl held where it is asked for.

@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
+#include <cstdio>
+#include <cstdlib>
 
 #include "app/form_sez.h"
 #include "app/tarvel1.h"
@@ -29,7 +31,17 @@
 namespace tarvel {
 namespace {
 
-// The toolkit for one test: every test runs in a process of its own.
+// The toolkit is set up for one test: more than one in a process are refused before the first begins.
+struct UnaProva : testing::Environment {
+  void SetUp() override {
+    if (testing::UnitTest::GetInstance()->test_to_run_count() <= 1) return;
+    std::fputs("prova-aspetto: one test a process: ctest -R NAME, or --gtest_filter=NAME\n", stderr);
+    std::exit(2);
+  }
+};
+const auto* const kUnaProva = testing::AddGlobalTestEnvironment(new UnaProva);
+
+// The toolkit for one test.
 void Prepara(const Form& form, const QByteArray& piattaforma = "offscreen") {
   qputenv("QT_QPA_PLATFORM", piattaforma);
   std::string nome = "prova";
@@ -85,6 +97,12 @@ TEST(Casella, DiceOgniCambioETieneSoloTestoAOttoBit) {
     EXPECT_EQ(controllo.testo, DaQt(casella.text()));
     EXPECT_EQ(codici, attesi);
   }
+  // What comes from the menu is in view as what is typed.
+  controllo.tasto = {};
+  ImpostaTesto(controllo, Testo(99, '1'));
+  casella.paste();
+  casella.grab();
+  EXPECT_GT(casella.cursorPositionAt({}), 50);
   ScaricaForm(form);
 }
 
@@ -97,6 +115,8 @@ void ControllaTesti(Form& form) {
     SCOPED_TRACE(controllo->nome);
     const QWidget& widget = *finestra.WidgetDi(*controllo);
     EXPECT_TRUE(finestra.rect().contains(widget.geometry()));
+    const Colore& c = controllo->coloreTesto;
+    EXPECT_EQ(widget.palette().color(widget.foregroundRole()), QColor(c.r, c.g, c.b));
     const QFontMetrics misure(widget.font());
     if (controllo->tipo == TipoControllo::Bottone) {
       const QString testo = static_cast<const QAbstractButton&>(widget).text();
@@ -143,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(Schermi, AScala,
 
 // The second one is twice as tall as its font.
 TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
-  const Testo percorso = "\\dati dati\\" + Testo(200, 'x') + "\\sezio_ut";
+  const Testo percorso = "\\dati <b>dati\\" + Testo(200, 'x') + "\\sezio_ut";
   Controllo riga = NuovoControllo(TipoControllo::Etichetta, "R", {0, 0, 1500, 269}, percorso);
   Controllo nota = NuovoControllo(TipoControllo::Etichetta, "N", {0, 300, 1500, 270}, percorso);
   Form form;
@@ -154,7 +174,7 @@ TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
   EXPECT_TRUE(etichetta.text().startsWith("\\dati "));
   EXPECT_TRUE(etichetta.text().endsWith("\\sezio_ut"));
   EXPECT_LE(etichetta.fontMetrics().horizontalAdvance(etichetta.text()), etichetta.width());
-  EXPECT_EQ(etichetta.toolTip(), InQt(percorso));
+  EXPECT_EQ(Letto(etichetta.toolTip()), InQt(percorso));
   EXPECT_EQ(static_cast<const QLabel&>(*finestra.WidgetDi(nota)).text(), InQt(percorso));
 }
 

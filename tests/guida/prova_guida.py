@@ -145,18 +145,26 @@ def rimandi():
     controlla("immagini", "byte", peso < 1000000, True)
 
 
-def lettere():
-    """The letters stand at the commands that the table gives them."""
-    tabella = dict(re.findall(r"\*\*([A-L])\*\* \| ([^|]+?) (?=\|)", leggi(os.path.join(DOCS, "guida.md"))))
+def controlli():
+    """The letters stand at the commands that the table gives them; each box calls itself by its number, group and
+    name in the table of dimensions."""
+    guida = leggi(os.path.join(DOCS, "guida.md"))
+    tabella = dict(re.findall(r"\*\*([A-L])\*\* \| ([^|]+?) (?=\|)", guida))
+    gruppi, _, *righe = [[cella.strip() for cella in riga.strip("|").split("|")]
+                         for riga in re.search(r"^\| n\. \|(?:.*\n\|)*.*", guida, re.M)[0].split("\n")]
+    dimensioni = {int(riga[k]): f"{riga[k]}, {gruppi[k + 1]}: {riga[k + 1]}" for riga in righe for k in (0, 2, 4) if riga[k]}
     with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
         installa(radice)
         detto = subprocess.run([HEADLESS, f"|diroot={radice}|"], text=True, stdout=subprocess.PIPE, timeout=60, check=True,
-                               input="".join(f"print {nome}\n" for nome in LETTERE.values()) + "close\n").stdout
+                               input="".join([*(f"print {nome}\n" for nome in LETTERE.values()),
+                                               *(f"tip Text1({i})\n" for i in range(21))]) + "close\n").stdout
     scritte = dict(re.findall(r'^text (\w+) "(.*)"$', detto, re.M))
     for lettera, nome in LETTERE.items():
         if nome not in ("nome", "nomute"):
             controlla("guida.md", lettera, scritte[nome], tabella[lettera])
     controlla("guida.md", "lettere", sorted(tabella), sorted(LETTERE))
+    controlla("guida.md", "dimensioni", re.findall(r'^tip Text1\(\d+\) "(.*)"$', detto, re.M),
+              [dimensioni.get(i) for i in range(21)])
 
 
 def messaggi():
@@ -180,7 +188,7 @@ def messaggi():
             controlla("messaggi", messaggio, parte if parte in sorgenti else "in nessun sorgente", parte)
 
 
-for passo in (prove, schizzi, opzioni, *([comandi] if OSTREL else []), rimandi, lettere, messaggi):
+for passo in (prove, schizzi, opzioni, *([comandi] if OSTREL else []), rimandi, controlli, messaggi):
     passo()
 print(f"{len(errori)} errori")
 sys.exit(bool(errori))
