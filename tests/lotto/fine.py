@@ -1,6 +1,7 @@
 """How the filter ends and what it takes: order, memory, Ctrl+C, a closed pipe, a full disk, a watcher's line."""
 import os
 import re
+import resource
 import signal
 import subprocess
 import tempfile
@@ -82,6 +83,13 @@ def fine(base):
     with open("/dev/full", "w") as pieno:
         esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
         controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
+    # A drawing that has no room is not there, and the next run writes it.
+    disegni = os.path.join(base, "disegni senza posto")
+    os.mkdir(disegni)
+    for posto, atteso in ((1000, (3, [])), (-1, (0, ["U_PO_001.dis"]))):
+        esito = lotto(["--disegni", disegni], RIGA,
+                      preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (posto, -1)))
+        controlla("disegno senza posto", (esito.returncode, os.listdir(disegni)), atteso)
     padrone, terminale = os.openpty()
     subprocess.run([LOTTO], input=tante.encode() * 40, stdout=subprocess.DEVNULL, stderr=terminale)
     controlla("avanzamento", b" righe, 0 con errore" in os.read(padrone, 1 << 16), True)
