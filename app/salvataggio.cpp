@@ -17,18 +17,14 @@ struct DaConservare {
   std::vector<Testo> sezioni;
 };
 std::optional<DaConservare> gDaParte;
-// A save failed, which counts as a save for the user's next steps, and its sections could not be kept.
-bool gPerse = false;
 
 Testo Conserva(const DaConservare& sezioni) {
-  const auto dove = ConservaSezioni(sezioni.file, FileSezioniIntero, sezioni.sezioni);
-  gPerse = !dove;
-  if (dove.value_or("").empty()) return {};
-  return "Le sezioni non ancora salvate sono nel file " + *dove;
+  const Testo dove = ConservaSezioni(sezioni.file, FileSezioniIntero, sezioni.sezioni);
+  return dove.empty() ? Testo() : "Le sezioni non ancora salvate sono nel file " + dove;
 }
 
 std::optional<DaConservare> NonSalvate() {
-  if ((SezioneSalvata && !gPerse) || NumeroSezioni < 1) return std::nullopt;
+  if (SezioneSalvata || NumeroSezioni < 1) return std::nullopt;
   return DaConservare{FileSezioni, SezioniScrivibili()};
 }
 
@@ -53,7 +49,6 @@ void MettiDaParteSezioni() {
 
 void LasciaSezioniDaParte() {
   gDaParte.reset();
-  gPerse = false;
 }
 
 }  // namespace tarvel

@@ -10,7 +10,7 @@ namespace tarvel {
 void PreparaSalvataggio();
 
 /// After a save that failed: keeps the table's sections beside their file. Where they are, in a sentence; ""
-/// where the file has them all, or they cannot be kept, which a fatal error tries again.
+/// where the file has them all, or they cannot be kept.
 Testo ConservaNonSalvate();
 
 /// Before the table is replaced by another file's sections: a fatal error on the way saves what it holds

@@ -86,14 +86,12 @@ Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
   }
 }
 
-std::optional<Testo> ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni) {
-  if (intero && Contiene(file, sezioni)) return Testo();
+Testo ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni) {
+  if (intero && Contiene(file, sezioni)) return {};
   constexpr char kCoda[] = ".salvataggio";
   for (int n = 1; GenereFile(Nome(file, kCoda, n)) == TipoVoce::File; ++n)
     if (Contiene(Nome(file, kCoda, n), sezioni)) return Nome(file, kCoda, n);
-  const Testo nome = Conserva(ComponiFileSezioni(sezioni), file, kCoda);
-  if (nome.empty()) return std::nullopt;
-  return nome;
+  return Conserva(ComponiFileSezioni(sezioni), file, kCoda);
 }
 
 Confronto ConfrontaSezioni(const Testo& altro, std::span<const Testo> sezioni) {

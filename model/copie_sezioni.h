@@ -2,7 +2,6 @@
 // as another program has left it.
 #pragma once
 
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -24,9 +23,8 @@ std::vector<Testo> SezioniScrivibili();
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda);
 
 /// Keeps the sections as a section file, `file` + ".salvataggio", ".salvataggio2"... The name of the one that
-/// holds them all, "" where `file` itself does and is whole; nothing where they cannot be kept.
-[[nodiscard]] std::optional<Testo> ConservaSezioni(const Testo& file, bool intero,
-                                                   std::span<const Testo> sezioni);
+/// holds them all; "" where `file` itself does and is whole, and where they cannot be kept.
+Testo ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni);
 
 /// What the sections of another section file are to these.
 struct Confronto {

@@ -104,6 +104,11 @@ def esamina(guasto, solo):
                   if f.endswith(".tmp")]
         esige(not solo or not avanzi, "un avanzo")
         diario = [(c, r == "si", n) for c, r, n in re.findall(r"^(\S) (si|no) (.*)$", esito.stderr, re.M)]
+        # What the host did not let read is neither called spoiled nor replaced.
+        if ("<", False, "CapOpSez.txt") in diario:
+            esige(any(m.startswith("Lettura del file") for m in messaggi), "opzioni lette male in silenzio")
+        if {("l", False, "CapSezDe.txt"), ("<", False, "CapSezDe.txt")} & set(diario):
+            esige(not [n for c, _, n in diario if c == "n" and n.startswith("CapSezDe")], "valori iniziali sostituiti")
         storti = list(in_ordine(diario))
         esige(not storti, f"{storti}")
         return int(re.search(r"chiamate (\d+)", esito.stderr).group(1)), diario
