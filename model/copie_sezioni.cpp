@@ -13,10 +13,6 @@
 namespace tarvel {
 namespace {
 
-Testo Nome(const Testo& file, const char* coda, int n) {
-  return file + coda + (n == 1 ? Testo() : std::to_string(n));
-}
-
 // Of every section of a file the record and its lines, as they would be written. False where the file cannot
 // be read to its end.
 bool Scorri(const Testo& percorso, const std::function<void(const RecordSezione&, const Testo&)>& guarda) {
@@ -78,7 +74,7 @@ std::vector<Testo> SezioniScrivibili() {
 
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
   for (int n = 1;; ++n) {
-    const Testo nome = Nome(file, coda, n);
+    const Testo nome = file + coda + (n == 1 ? Testo() : std::to_string(n));
     if (GenereFile(nome) == TipoVoce::Assente && CreaFile(nome, testo, file)) return nome;
     const TipoVoce voce = GenereFile(nome);
     if (voce == TipoVoce::Assente || voce == TipoVoce::Ignota) return {};
@@ -88,10 +84,7 @@ Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
 
 Testo ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni) {
   if (intero && Contiene(file, sezioni)) return {};
-  constexpr char kCoda[] = ".salvataggio";
-  for (int n = 1; GenereFile(Nome(file, kCoda, n)) == TipoVoce::File; ++n)
-    if (Contiene(Nome(file, kCoda, n), sezioni)) return Nome(file, kCoda, n);
-  return Conserva(ComponiFileSezioni(sezioni), file, kCoda);
+  return Conserva(ComponiFileSezioni(sezioni), file, ".salvataggio");
 }
 
 Confronto ConfrontaSezioni(const Testo& altro, std::span<const Testo> sezioni) {

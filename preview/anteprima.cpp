@@ -5,8 +5,8 @@
 #include "lavoro/nome_disegno.h"
 #include "platform/comune/scala.h"
 #include "platform/desktop.h"
-#include "platform/scrittura.h"
 #include "platform/programmi.h"
+#include "platform/scrittura.h"
 
 namespace tarvel {
 
