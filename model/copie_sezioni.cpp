@@ -74,7 +74,7 @@ std::vector<Testo> SezioniScrivibili() {
 
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
   for (int n = 1;; ++n) {
-    const Testo nome = file + coda + (n == 1 ? Testo() : std::to_string(n));
+    Testo nome = file + coda + (n == 1 ? Testo() : std::to_string(n));
     if (GenereFile(nome) == TipoVoce::Assente && CreaFile(nome, testo, file)) return nome;
     const TipoVoce voce = GenereFile(nome);
     if (voce == TipoVoce::Assente || voce == TipoVoce::Ignota) return {};

@@ -138,6 +138,15 @@ TEST_F(ProvaFile, QuelloCheSiScriveSiRilegge) {
   }
 }
 
+TEST_F(ProvaFile, QuelloCheUnAltroHaScrittoEConservatoSeEDiverso) {
+  AggiungiCalcolata(prove::Esempio(), "U_PO_001");
+  LeggiFileSezioni(false);
+  Scrivi(percorso, ComponiFileSezioni(RigheSezioni()));
+  EXPECT_EQ(ScriviFileSezioni().altro, "");
+  Scrivi(percorso, "0\r\n");
+  EXPECT_EQ(ScriviFileSezioni().altro, FileSezioni + ".altro");
+}
+
 // One line cut off, missing, or one too many, and a count of sections that is too small.
 TEST_F(ProvaFile, OgniRigaConta) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
