@@ -94,7 +94,11 @@ EsitoSezioni ScriviFileSezioni() {
   if (GenereFile(FileSezioni) == TipoVoce::Assente) esito.scritte = CreaFile(FileSezioni, testo);
   if (!esito.scritte) Riscrivi(testo, esito);
   if (esito.scritte) gImpronta = Impronta(testo);
-  if (!esito.altro.empty()) esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
+  if (esito.altro.empty()) return esito;
+  esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
+  // What that one held before it stopped half-way is whole in its copy, whose place the next save here takes.
+  const auto copia = esito.confronto.leggibile ? std::nullopt : LeggiTutto(FileCopia());
+  if (copia) esito.copia = Conserva(*copia, FileSezioni, ".altro");
   return esito;
 }
 
