@@ -66,6 +66,8 @@ void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
 }  // namespace
 
 void LeggiFileSezioni(bool mostraErrore) {
+  // Another program may be writing it: half a file is not read. Who may not write it reads it all the same.
+  const auto daSoli = FileDaRiscrivere::Apri(FileSezioni);
   auto file = FileInLettura::Apri(FileSezioni);
   gImpronta.reset();
   gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;

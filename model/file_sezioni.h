@@ -19,9 +19,9 @@ extern Testo PrefissoNome;
 /// Counter of proposed names, 1 at start.
 extern Intero16 NumeroProposto;
 
-/// Replaces the table by the file's content; slots above the file's count keep theirs. A file that is
-/// missing or cannot be opened leaves everything as it is, with a message when `mostraErrore`. A
-/// malformed file is fatal, with file and line and the copy to go back to, if there is one; what was read
+/// Replaces the table by the file's content, once nobody writes it; slots above the file's count keep theirs.
+/// A file that is missing or cannot be opened leaves everything as it is, with a message when `mostraErrore`.
+/// A malformed file is fatal, with file and line and the copy to go back to, if there is one; what was read
 /// before stays in the table.
 void LeggiFileSezioni(bool mostraErrore);
 

@@ -9,6 +9,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
@@ -104,6 +105,21 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
                          r'sezio_ut\.salvataggio"', detto), detto
         assert 3 < time.monotonic() - inizio < 10
     assert nomi(file) == ["A", "C"] and nomi(file + ".salvataggio") == ["A", "C", "D"]
-    uno.fine(), due.fine()
+    # A start while another one has written half the file.
+    with open(file, "r+b") as mano:
+        fcntl.flock(mano, fcntl.LOCK_EX)
+        intero = mano.read()
+        mano.truncate(len(intero) // 2)
+
+        def finisci():
+            mano.seek(0)
+            mano.write(intero)
+            mano.flush()
+            fcntl.flock(mano, fcntl.LOCK_UN)
+
+        threading.Timer(.5, finisci).start()
+        tre = Programma(radice)
+    assert altro(tre.salva("E")) is None and nomi(file) == ["A", "C", "E"]
+    uno.fine(), due.fine(), tre.fine()
     assert not [f for f in os.listdir(lavoro) if f.endswith(".tmp")]
 print("1 passed, 0 failed")
