@@ -37,10 +37,13 @@ Intero16 AggiungiSezione(const Testo& nome) {
 // Of the file that another program had written since it was read here.
 Testo DettoDiAltri(const EsitoSezioni& esito) {
   const auto [leggibile, mancanti, diverse] = esito.confronto;
-  const Testo testo = "Un altro programma ha cambiato il file " + FileSezioni +
-                      " dopo che era stato letto o salvato qui.\nCom'era è conservato in "_t + esito.altro +
-                      ".\n";
-  if (!leggibile) return testo + "Non si legge come file di sezioni.";
+  Testo testo = "Un altro programma ha cambiato il file " + FileSezioni +
+                " dopo che era stato letto o salvato qui.\nCom'era è conservato in "_t + esito.altro + ".\n";
+  if (!leggibile) {
+    testo += "Non si legge come file di sezioni.";
+    return esito.copia.empty() ? testo
+                               : testo + "\nLa copia che ne restava è conservata in "_t + esito.copia + ".";
+  }
   return testo + "Sue sezioni che qui non ci sono: " + std::to_string(mancanti) +
          "; con lo stesso nome, ma diverse: " + std::to_string(diverse) + ".";
 }

@@ -66,6 +66,8 @@ void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
 }  // namespace
 
 void LeggiFileSezioni(bool mostraErrore) {
+  // Another program may be writing it: half a file is not read. Who may not write it reads it all the same.
+  const auto daSoli = FileDaRiscrivere::Apri(FileSezioni);
   auto file = FileInLettura::Apri(FileSezioni);
   gImpronta.reset();
   gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;
@@ -94,7 +96,11 @@ EsitoSezioni ScriviFileSezioni() {
   if (GenereFile(FileSezioni) == TipoVoce::Assente) esito.scritte = CreaFile(FileSezioni, testo);
   if (!esito.scritte) Riscrivi(testo, esito);
   if (esito.scritte) gImpronta = Impronta(testo);
-  if (!esito.altro.empty()) esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
+  if (esito.altro.empty()) return esito;
+  esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
+  // What that one held before it stopped half-way is whole in its copy, whose place the next save here takes.
+  const auto copia = esito.confronto.leggibile ? std::nullopt : LeggiTutto(FileCopia());
+  if (copia) esito.copia = Conserva(*copia, FileSezioni, ".altro");
   return esito;
 }
 

@@ -19,9 +19,9 @@ extern Testo PrefissoNome;
 /// Counter of proposed names, 1 at start.
 extern Intero16 NumeroProposto;
 
-/// Replaces the table by the file's content; slots above the file's count keep theirs. A file that is
-/// missing or cannot be opened leaves everything as it is, with a message when `mostraErrore`. A
-/// malformed file is fatal, with file and line and the copy to go back to, if there is one; what was read
+/// Replaces the table by the file's content, once nobody writes it; slots above the file's count keep theirs.
+/// A file that is missing or cannot be opened leaves everything as it is, with a message when `mostraErrore`.
+/// A malformed file is fatal, with file and line and the copy to go back to, if there is one; what was read
 /// before stays in the table.
 void LeggiFileSezioni(bool mostraErrore);
 
@@ -30,12 +30,14 @@ struct EsitoSezioni {
   bool scritte = false;  // otherwise nothing has changed
   Testo ostacolo;        // what could not be made, in a sentence, where it is not the file itself
   Testo altro;           // where the file is kept as another program had left it; "" where none had
+  Testo copia;           // where its copy is kept, if it is no section file; "" where there was none
   Confronto confronto;   // of that one's sections with the table's
 };
 
 /// Writes the whole table, on the disk when it returns. A record that cannot be written (a number too large
 /// to be cut) is fatal before anything has changed. While one program writes, another one waits. A file that
-/// is not any more what was last read or written here is kept as FileSezioni + ".altro"; then the file as it
+/// is not any more what was last read or written here is kept as FileSezioni + ".altro", and where it is no
+/// section file its copy too; then the file as it
 /// was is kept whole as FileSezioni + ".bak", and written in place. Where there can be no such copy, the new
 /// file is written whole beside the old one and takes its name. Nothing changes where that cannot be done,
 /// the file cannot be opened or has never been readable. A failure in the middle of writing is fatal; the

@@ -9,6 +9,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
@@ -78,10 +79,14 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
     assert altro(uno.ancora())[0] == "sezio_ut.altro2"
     with open(file, "w") as f:
         f.write("altra cosa\n")
-    assert altro(uno.ancora()) == ("sezio_ut.altro3", "Non si legge come file di sezioni.")
+    trovato = altro(uno.ancora())
+    assert trovato[0] == "sezio_ut.altro3" and re.fullmatch(
+        r"Non si legge come file di sezioni\.\\nLa copia che ne restava è conservata in \S+\\sezio_ut\.altro4\.", trovato[1])
     with open(file + ".altro3") as f:
         assert f.read() == "altra cosa\n"
     assert nomi(file + ".bak") == ["B"], "una copia che non era più un file di sezioni"
+    assert altro(uno.ancora()) is None
+    assert nomi(file + ".altro4") == ["B"], "ciò che l'altro aveva salvato per ultimo"
 
     # Another one saves for a while, then for ever.
     with open(file, "r+") as mano:
@@ -100,6 +105,21 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
                          r'sezio_ut\.salvataggio"', detto), detto
         assert 3 < time.monotonic() - inizio < 10
     assert nomi(file) == ["A", "C"] and nomi(file + ".salvataggio") == ["A", "C", "D"]
-    uno.fine(), due.fine()
+    # A start while another one has written half the file.
+    with open(file, "r+b") as mano:
+        fcntl.flock(mano, fcntl.LOCK_EX)
+        intero = mano.read()
+        mano.truncate(len(intero) // 2)
+
+        def finisci():
+            mano.seek(0)
+            mano.write(intero)
+            mano.flush()
+            fcntl.flock(mano, fcntl.LOCK_UN)
+
+        threading.Timer(.5, finisci).start()
+        tre = Programma(radice)
+    assert altro(tre.salva("E")) is None and nomi(file) == ["A", "C", "E"]
+    uno.fine(), due.fine(), tre.fine()
     assert not [f for f in os.listdir(lavoro) if f.endswith(".tmp")]
 print("1 passed, 0 failed")
