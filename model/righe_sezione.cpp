@@ -69,7 +69,10 @@ void AccodaPunto(Testo& testo, RecordSezione& r, int j) {
 // A whole line taken apart at its blanks.
 class RigaParole {
  public:
-  explicit RigaParole(FileInLettura& file) : file_(file), resto_(SenzaBlanchi(file.LeggiRiga())) {}
+  explicit RigaParole(FileInLettura& file) : file_(file), resto_(SenzaBlanchi(file.LeggiRiga())) {
+    // What a disk leaves of lost blocks would end a number, and be passed over.
+    if (resto_.find('\0') != std::string_view::npos) file_.Malformato("un carattere nullo");
+  }
 
   std::string_view Parola() {
     const std::string_view parola = resto_.substr(0, resto_.find(' '));

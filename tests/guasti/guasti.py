@@ -132,7 +132,8 @@ non_letti = [testo for male, testo in (iniziali(str(n)) for n in range(1, 60)) i
 assert non_letti and set(non_letti) == {ESEMPIO}, non_letti
 chiamate, diario = esamina("", True)
 assert chiamate > 100
-# From the disk's side: the start waits for who writes it. At Salva the old file is read while it is held, its copy is whole, then it is emptied.
+# From the disk's side: the start waits for who writes the file. At Salva the old file is read while it is held, its
+# copy is whole, then it is emptied.
 sezioni = [c for c, _, n in diario if n.lower().startswith("sezio_ut")]
 assert "".join(sezioni).startswith("al<<cca<<n>dcrDv>dc"), "".join(sezioni)
 for n in range(1, chiamate + 1):
