@@ -35,13 +35,13 @@ struct EsitoSezioni {
 };
 
 /// Writes the whole table, on the disk when it returns. A record that cannot be written (a number too large
-/// to be cut) is fatal before anything has changed. While one program writes, another one waits. A file that
-/// is not any more what was last read or written here is kept as FileSezioni + ".altro", and where it is no
-/// section file its copy too; then the file as it
-/// was is kept whole as FileSezioni + ".bak", and written in place. Where there can be no such copy, the new
-/// file is written whole beside the old one and takes its name. Nothing changes where that cannot be done,
-/// the file cannot be opened or has never been readable. A failure in the middle of writing is fatal; the
-/// message names the copy.
+/// to be cut) is fatal before anything has changed. While one program writes, another one waits.
+///
+/// The file as it was is first kept whole, as FileSezioni + ".bak", then written in place; where there can be
+/// no such copy, the new file is written whole beside the old one and takes its name. A file that is not any
+/// more what was last read or written here is kept as FileSezioni + ".altro" instead, and where it is no
+/// section file so is its copy. Nothing changes where that cannot be done, the file cannot be opened or has
+/// never been readable. A failure in the middle of writing is fatal; the message names the copy.
 [[nodiscard]] EsitoSezioni ScriviFileSezioni();
 
 /// PrefissoNome and the last three digits of the number: 42 gives 'U_PO_042', 1000 'U_PO_000'.
