@@ -73,13 +73,21 @@ std::vector<Testo> SezioniScrivibili() {
 }
 
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
-  for (int n = 1;; ++n) {
+  // A name that seems free may be a link that leads nowhere; where no name will do, the folder takes no file.
+  constexpr int kProve = 3;
+  for (int n = 1, falliti = 0; falliti < kProve; ++n) {
     Testo nome = file + coda + (n == 1 ? Testo() : std::to_string(n));
-    if (GenereFile(nome) == TipoVoce::Assente && CreaFile(nome, testo, file)) return nome;
     const TipoVoce voce = GenereFile(nome);
-    if (voce == TipoVoce::Assente || voce == TipoVoce::Ignota) return {};
-    if (LeggiTutto(nome) == testo) return nome;
+    if (voce == TipoVoce::Ignota) break;
+    if (voce != TipoVoce::Assente) {
+      if (LeggiTutto(nome) == testo) return nome;
+    } else if (CreaFile(nome, testo, file)) {
+      return nome;
+    } else {
+      ++falliti;
+    }
   }
+  return {};
 }
 
 Testo ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni) {

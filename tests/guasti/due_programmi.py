@@ -77,16 +77,17 @@ with tempfile.TemporaryDirectory(prefix="Due_") as radice:
     with open(file + ".altro2", "wb") as f:
         f.write(prima)
     assert altro(uno.ancora())[0] == "sezio_ut.altro2"
+    os.symlink("assente", file + ".altro3")
     with open(file, "w") as f:
         f.write("altra cosa\n")
     trovato = altro(uno.ancora())
-    assert trovato[0] == "sezio_ut.altro3" and re.fullmatch(
-        r"Non si legge come file di sezioni\.\\nLa copia che ne restava è conservata in \S+\\sezio_ut\.altro4\.", trovato[1])
-    with open(file + ".altro3") as f:
+    assert trovato[0] == "sezio_ut.altro4" and re.fullmatch(
+        r"Non si legge come file di sezioni\.\\nLa copia che ne restava è conservata in \S+\\sezio_ut\.altro5\.", trovato[1])
+    with open(file + ".altro4") as f:
         assert f.read() == "altra cosa\n"
     assert nomi(file + ".bak") == ["B"], "una copia che non era più un file di sezioni"
     assert altro(uno.ancora()) is None
-    assert nomi(file + ".altro4") == ["B"], "ciò che l'altro aveva salvato per ultimo"
+    assert nomi(file + ".altro5") == ["B"], "ciò che l'altro aveva salvato per ultimo"
 
     # Another one saves for a while, then for ever.
     with open(file, "r+") as mano:

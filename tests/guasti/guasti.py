@@ -114,7 +114,8 @@ def esamina(guasto, solo):
         # Calculated and not saved: the first unsaved section is C, the second D.
         calcolate = messaggi.count("Calcolo eseguito")
         if fatale and solo and calcolate > len([m for m in messaggi if m == "File salvato"]):
-            esige(".salvataggio" in fatale and "CD"[calcolate - 1] in (stato[".salvataggio"] or []),
+            nominato = re.search(r"nel file \S+\\(sezio_ut\.salvataggio\d*)", fatale)
+            esige(nominato and "CD"[calcolate - 1] in (nomi(os.path.join(lavoro, nominato[1])) or []),
                   "sezioni non salvate che l'errore ha perduto")
         avanzi = [f for c in ("Lavori/PR0001", "custom", "progra") for f in os.listdir(os.path.join(radice, c))
                   if f.endswith(".tmp")]
