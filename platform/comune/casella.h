@@ -20,8 +20,10 @@ inline Testo NomeAccessibile(const Controllo& casella) {
 inline Testo Suggerimento(const Controllo& casella, bool ciSta) {
   constexpr std::size_t kRiga = 80;
   Testo suggerimento = casella.descrizione;
-  for (std::size_t i = 0; !ciSta && i < casella.testo.size(); i += kRiga)
-    suggerimento += (suggerimento.empty() ? "" : "\n") + casella.testo.substr(i, kRiga);
+  for (std::size_t i = 0; !ciSta && i < casella.testo.size(); i += kRiga) {
+    if (!suggerimento.empty()) suggerimento += '\n';
+    suggerimento.append(casella.testo, i, kRiga);
+  }
   return suggerimento;
 }
 
