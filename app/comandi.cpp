@@ -3,15 +3,15 @@
 #include "app/salvataggio.h"
 #include "app/tarvel1.h"
 #include "base/errore.h"
-#include "drawing/disegno_sezione.h"
+#include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
-#include "model/file_sezioni.h"
+#include "model/archivio/file_sezioni.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
 #include "model/verifica.h"
 #include "platform/desktop.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 
 namespace tarvel {
 namespace {

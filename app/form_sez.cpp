@@ -6,7 +6,7 @@
 #include "base/errore.h"
 #include "model/geometria.h"
 #include "platform/desktop.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 
 namespace tarvel {
 

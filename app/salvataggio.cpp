@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
-#include "model/copie_sezioni.h"
-#include "model/file_sezioni.h"
+#include "model/archivio/copie_sezioni.h"
+#include "model/archivio/file_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "platform/desktop.h"
 

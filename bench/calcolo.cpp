@@ -4,10 +4,10 @@
 
 #include <filesystem>
 
-#include "model/file_sezioni.h"
+#include "model/archivio/file_sezioni.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 
 namespace tarvel {
 namespace {

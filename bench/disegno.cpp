@@ -3,11 +3,11 @@
 
 #include <filesystem>
 
-#include "drawing/disegno_sezione.h"
 #include "drawing/ottimizza.h"
 #include "drawing/salva_dis_cond.h"
+#include "drawing/sezione/disegno_sezione.h"
 #include "options/opzioni.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 #include "tests/aiuti.h"
 
 namespace tarvel::disegno {

@@ -15,7 +15,7 @@
 #include "lotto/riga_comando.h"
 #include "lotto/rilettura.h"
 #include "lotto/salva.h"
-#include "model/file_sezioni.h"
+#include "model/archivio/file_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "platform/comune/argomenti.h"
 #include "platform/comune/terminale.h"

@@ -5,10 +5,10 @@
 
 #include "base/errore.h"
 #include "lotto/piattaforma.h"
-#include "model/file_sezioni.h"
+#include "model/archivio/file_sezioni.h"
+#include "model/archivio/righe_sezione.h"
 #include "model/geometria.h"
 #include "model/parametri.h"
-#include "model/righe_sezione.h"
 #include "model/tabella_sezioni.h"
 #include "model/verifica.h"
 #include "platform/file.h"

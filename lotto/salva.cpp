@@ -1,11 +1,11 @@
 #include "lotto/salva.h"
 
 #include "base/errore.h"
-#include "drawing/disegno_sezione.h"
+#include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "lotto/piattaforma.h"
-#include "model/copie_sezioni.h"
+#include "model/archivio/copie_sezioni.h"
 #include "model/tabella_sezioni.h"
 #include "options/opzioni.h"
 #include "platform/scrittura.h"

@@ -4,10 +4,10 @@
 
 #include "base/errore.h"
 #include "base/numeri.h"
-#include "model/file_sezioni.h"
+#include "model/archivio/file_sezioni.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 
 namespace tarvel::lotto {
 namespace {

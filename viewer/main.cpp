@@ -9,11 +9,11 @@
 #include "platform/comune/argomenti.h"
 #include "platform/comune/scala.h"
 #include "platform/qt/schermo.h"
-#include "viewer/avvio.h"
-#include "viewer/finestra.h"
-#include "viewer/italiano.h"
-#include "viewer/riga_comando.h"
-#include "viewer/senza_finestra.h"
+#include "viewer/comando/avvio.h"
+#include "viewer/comando/riga_comando.h"
+#include "viewer/comando/senza_finestra.h"
+#include "viewer/finestra/finestra.h"
+#include "viewer/finestra/italiano.h"
 
 namespace ostrel {
 namespace {

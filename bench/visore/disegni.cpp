@@ -7,8 +7,8 @@
 #include <cmath>
 
 #include "base/numeri.h"
-#include "viewer/lettore_dis.h"
-#include "viewer/pittura.h"
+#include "viewer/disegno/lettore_dis.h"
+#include "viewer/pittura/pittura.h"
 
 namespace ostrel {
 namespace {

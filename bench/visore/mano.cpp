@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <fstream>
 
-#include "viewer/finestra.h"
+#include "viewer/finestra/finestra.h"
 
 namespace ostrel {
 namespace {

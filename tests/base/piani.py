@@ -9,13 +9,13 @@ import sys
 
 os.chdir(sys.argv[1])
 with open("docs/piani.md") as tavola:
-    PIANI = {stanza: int(piano) for piano, stanze in re.findall(r"^\| (\d) \|([^|]*)\|", tavola.read(), re.M)
-             for stanza in re.findall(r"`(.*?)`", stanze)}
+    PIANI = {stanza: float(piano) for piano, stanze in re.findall(r"^\| ([\d.]+) \|([^|]*)\|", tavola.read(), re.M)
+             for stanza in re.findall(r"`(.*?/)`", stanze)}
 errori, grafo, visti = [], {}, set()
 
 
 def piano(file):
-    """Of the longest beginning that fits."""
+    """Of the innermost room."""
     return PIANI[max((s for s in PIANI if file.startswith(s)), key=len)]
 
 

@@ -15,9 +15,9 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "app/form_opt.h"
 #include "app/form_sez.h"
 #include "app/tarvel1.h"
-#include "options/form_opt.h"
 #include "platform/desktop.h"
 #include "platform/qt/avvio.h"
 #include "platform/qt/finestra.h"

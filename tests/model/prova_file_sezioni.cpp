@@ -7,8 +7,8 @@
 
 #include "base/errore.h"
 #include "base/numeri.h"
-#include "model/file_sezioni.h"
-#include "properties/caratteristiche.h"
+#include "model/archivio/file_sezioni.h"
+#include "properties/calcolo/caratteristiche.h"
 #include "tests/aiuti.h"
 #include "tests/cartella.h"
 

@@ -7,7 +7,7 @@
 
 #include "base/errore.h"
 #include "base/tronca.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 #include "properties/integrali.h"
 #include "tests/aiuti.h"
 

@@ -7,7 +7,7 @@
 
 #include "base/numeri.h"
 #include "base/tronca.h"
-#include "properties/caratteristiche.h"
+#include "properties/calcolo/caratteristiche.h"
 #include "sheartorsion/tau_punti.h"
 #include "tests/aiuti.h"
 

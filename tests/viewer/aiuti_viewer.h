@@ -6,7 +6,7 @@
 #include <iterator>
 #include <string>
 
-#include "viewer/lettore_dis.h"
+#include "viewer/disegno/lettore_dis.h"
 
 namespace ostrel::prove {
 

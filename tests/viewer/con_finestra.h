@@ -12,8 +12,8 @@
 #include <QWheelEvent>
 
 #include "tests/viewer/aiuti_viewer.h"
-#include "viewer/finestra.h"
-#include "viewer/tela.h"
+#include "viewer/finestra/finestra.h"
+#include "viewer/tela/tela.h"
 
 namespace ostrel::prove {
 

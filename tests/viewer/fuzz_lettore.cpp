@@ -3,9 +3,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "viewer/dxf.h"
-#include "viewer/lettore_dis.h"
-#include "viewer/svg.h"
+#include "viewer/disegno/lettore_dis.h"
+#include "viewer/esporta/dxf.h"
+#include "viewer/esporta/svg.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti) {
   const auto esito = ostrel::LeggiDis({reinterpret_cast<const char*>(dati), quanti});

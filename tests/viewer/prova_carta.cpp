@@ -13,10 +13,10 @@
 
 #include "tests/viewer/aiuti_viewer.h"
 #include "tests/viewer/con_finestra.h"
-#include "viewer/comandi_carta.h"
-#include "viewer/dialogo_carta.h"
-#include "viewer/esporta.h"
-#include "viewer/preferenze.h"
+#include "viewer/esporta/esporta.h"
+#include "viewer/finestra/comandi_carta.h"
+#include "viewer/finestra/dialogo_carta.h"
+#include "viewer/finestra/preferenze.h"
 
 namespace ostrel {
 namespace {

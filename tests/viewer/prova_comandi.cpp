@@ -12,8 +12,8 @@
 #include <set>
 
 #include "tests/viewer/con_finestra.h"
-#include "viewer/recenti.h"
-#include "viewer/tabella.h"
+#include "viewer/finestra/recenti.h"
+#include "viewer/finestra/tabella.h"
 
 namespace ostrel {
 namespace {

@@ -11,11 +11,11 @@
 #include <sstream>
 
 #include "tests/viewer/aiuti_viewer.h"
-#include "viewer/dxf.h"
-#include "viewer/esporta.h"
-#include "viewer/pittura.h"
-#include "viewer/stampa.h"
-#include "viewer/svg.h"
+#include "viewer/carta/stampa.h"
+#include "viewer/esporta/dxf.h"
+#include "viewer/esporta/esporta.h"
+#include "viewer/esporta/svg.h"
+#include "viewer/pittura/pittura.h"
 
 namespace ostrel {
 namespace {

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "tests/viewer/con_finestra.h"
-#include "viewer/avvio.h"
+#include "viewer/comando/avvio.h"
 
 namespace ostrel {
 namespace {

@@ -6,11 +6,11 @@
 #include <algorithm>
 
 #include "tests/viewer/aiuti_viewer.h"
-#include "viewer/anteprima_foglio.h"
-#include "viewer/esporta.h"
-#include "viewer/foglio.h"
-#include "viewer/misure.h"
-#include "viewer/stampa.h"
+#include "viewer/carta/foglio.h"
+#include "viewer/carta/stampa.h"
+#include "viewer/disegno/misure.h"
+#include "viewer/esporta/esporta.h"
+#include "viewer/finestra/anteprima_foglio.h"
 
 namespace ostrel {
 namespace {

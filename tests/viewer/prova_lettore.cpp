@@ -9,8 +9,8 @@
 #include <tuple>
 
 #include "tests/viewer/aiuti_viewer.h"
-#include "viewer/caricamento.h"
-#include "viewer/misure.h"
+#include "viewer/disegno/caricamento.h"
+#include "viewer/disegno/misure.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti);
 

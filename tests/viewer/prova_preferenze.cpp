@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 
 #include "tests/viewer/aiuti_viewer.h"
-#include "viewer/preferenze.h"
+#include "viewer/finestra/preferenze.h"
 
 namespace ostrel {
 namespace {

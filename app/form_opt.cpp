@@ -1,0 +1,136 @@
+// Labels and boxes in two columns of eight rows, the buttons in a row below.
+#include "app/form_opt.h"
+
+#include "base/numeri.h"
+#include "base/tronca.h"
+#include "drawing/sezione/disegno_sezione.h"
+#include "platform/desktop.h"
+#include "platform/regione.h"
+#include "preview/anteprima.h"
+
+namespace tarvel {
+namespace {
+
+constexpr int kMargine = 120;
+constexpr int kRighe = 8;
+constexpr int kPassoRighe = 330;
+constexpr int kEtichetta = 2640;  // widths
+constexpr int kCasella = 840;
+constexpr int kColonna = kEtichetta + kCasella + 2 * kMargine;
+constexpr int kBottone = 1200;
+
+constexpr std::size_t kTestoMostrato = 40;  // of one that is refused
+
+Rettangolo Posto(int i, int scarto, int larghezza, int altezza) {
+  const int colonna = (i - 1) / kRighe;
+  const int riga = (i - 1) % kRighe;
+  return {kMargine + colonna * kColonna + scarto, kMargine + riga * kPassoRighe, larghezza, altezza};
+}
+
+}  // namespace
+
+FormOpt& FormOpt::Unica() {
+  static FormOpt form;
+  return form;
+}
+
+FormOpt::FormOpt() {
+  nome = "FormOpt";
+  titolo = "OPZIONI di DISEGNO";
+  larghezza = 2 * kColonna + kMargine;
+  altezza = kRighe * kPassoRighe + 3 * kMargine + 330;
+
+  for (int i = 1; i <= kNumOpzioni; ++i) {
+    const auto posto = static_cast<std::size_t>(i - 1);
+    const std::string indice = "(" + std::to_string(i) + ")";
+    TextOpt[posto] =
+        NuovoControllo(TipoControllo::Casella, "TextOpt" + indice, Posto(i, kEtichetta, kCasella, 270));
+    TextOpt[posto].descrizione = kVociOpzioni[posto].etichettaForm;
+    TextOpt[posto].tasto = [this, i](int codice) {
+      if (codice == kTastoInvio) TextOpt_LostFocus(i);
+    };
+    TextOpt[posto].fuocoPerso = [this, i] { TextOpt_LostFocus(i); };
+    Rettangolo etichetta = Posto(i, 0, kEtichetta - 60, 210);
+    etichetta.alto += 40;
+    LabelOpt[posto] = NuovoControllo(TipoControllo::Etichetta, "LabelOpt" + indice, etichetta,
+                                     kVociOpzioni[posto].etichettaForm);
+    controlli.push_back(&TextOpt[posto]);
+  }
+
+  const struct {
+    Controllo& bottone;
+    const char* nome;
+    void (FormOpt::*click)();
+  } bottoni[] = {{Reset, "Reset", &FormOpt::Reset_Click},
+                 {Salva, "Salva", &FormOpt::Salva_Click},
+                 {Applica, "Applica", &FormOpt::Applica_Click},
+                 {Chiudi, "Chiudi", &FormOpt::Chiudi_Click}};
+  const int intervallo = (larghezza - 2 * kMargine - 4 * kBottone) / 3;
+  int sinistra = kMargine;
+  for (const auto& b : bottoni) {
+    b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome,
+                               {sinistra, kRighe * kPassoRighe + 2 * kMargine, kBottone, 330}, b.nome);
+    b.bottone.click = [this, click = b.click] { (this->*click)(); };
+    controlli.push_back(&b.bottone);
+    sinistra += kBottone + intervallo;
+  }
+  for (Controllo& etichetta : LabelOpt) controlli.push_back(&etichetta);
+}
+
+void FormOpt::Form_Load() {
+  CopiaOpzioniIn();
+  AggiornaTextOpzioni();
+}
+
+void FormOpt::CopiaOpzioniIn() {
+  copia_ = Opzioni;
+}
+
+void FormOpt::CopiaOpzioniOut() {
+  Opzioni = copia_;
+}
+
+void FormOpt::AggiornaTextOpzioni() {
+  for (int i = 1; i <= kNumOpzioni; ++i) AggiornaTextOpt(i);
+}
+
+// Cut to two decimals, with a blank in the sign's place.
+void FormOpt::AggiornaTextOpt(int i) {
+  const Reale valore = Tronca(copia_[i], 2);
+  ImpostaTesto(TextOpt[static_cast<std::size_t>(i - 1)], (valore >= 0 ? " " : "") + FormatoNumero(valore));
+}
+
+void FormOpt::TextOpt_LostFocus(int i) {
+  const Testo& testo = TextOpt[static_cast<std::size_t>(i - 1)].testo;
+  const auto valore = NumeroRegionale(testo, SeparatoreDecimale(), SeparatoreMigliaia());
+  if (valore && Ammesso(i, *valore)) {
+    copia_[i] = *valore;
+    return;
+  }
+  MostraMessaggio("Valore non valido: \"" + testo.substr(0, kTestoMostrato) + "\". " + ValoriAmmessi(i),
+                  "ATTENZIONE", Icona::Esclamazione);
+  AggiornaTextOpt(i);
+}
+
+void FormOpt::Reset_Click() {
+  LeggiOpzioni();
+  Form_Load();
+}
+
+void FormOpt::Salva_Click() {
+  CopiaOpzioniOut();
+  ScriviOpzioni();
+}
+
+void FormOpt::Applica_Click() {
+  CopiaOpzioniOut();
+  GeneraDisegno(disegno::ModoAvviso::Nessuno);
+  Anteprima();
+}
+
+void FormOpt::Chiudi_Click() {
+  Form_Load();
+  NascondiForm(*this);
+}
+
+}  // namespace tarvel

@@ -1,0 +1,119 @@
+// The table as a whole; its records are lines of model/archivio/righe_sezione.h.
+#include "model/archivio/file_sezioni.h"
+
+#include <optional>
+#include <vector>
+
+#include "base/errore.h"
+#include "base/numeri.h"
+#include "model/archivio/righe_sezione.h"
+#include "model/tabella_sezioni.h"
+#include "platform/desktop.h"
+#include "platform/scrittura.h"
+
+namespace tarvel {
+
+Testo FileSezioni;
+bool FileSezioniIntero = true;
+Testo PrefissoNome;
+Intero16 NumeroProposto = 1;
+
+namespace {
+
+// A file that was there and could not be opened when it was to be read: the table does not hold its
+// sections, so it is not replaced until it has been read.
+Testo gIntoccabile;
+
+Testo FileCopia() {
+  return FileSezioni + ".bak";
+}
+
+Testo DoveLaCopia(const Testo& copia) {
+  return "la versione precedente è in "_t + copia;
+}
+
+// The file as it was last read or written here, to tell whether it still is; none where there was none.
+std::optional<std::uint64_t> gImpronta;
+
+// Puts the text in the place of a file that is there, once that is kept whole under another name. What
+// another program has left may be half a file: it never takes the place of the copy.
+void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
+  auto file = FileDaRiscrivere::Apri(FileSezioni);
+  const auto vecchio = file ? file->Contenuto() : std::nullopt;
+  if (!vecchio) return;
+  const bool nostro = Impronta(*vecchio) == gImpronta || *vecchio == testo;
+  if (!nostro) esito.altro = Conserva(*vecchio, FileSezioni, ".altro");
+  if (!nostro && esito.altro.empty()) {
+    esito.ostacolo =
+        "Un altro programma ha cambiato il file, che non si può conservare come "_t + FileSezioni + ".altro.";
+    return;
+  }
+  if (nostro && !SostituisciFile(FileCopia(), *vecchio, FileSezioni)) {
+    esito.scritte = file->Sostituisci(testo);
+    if (!esito.scritte)
+      esito.ostacolo = "Non si può fare né la copia "_t + FileCopia() + " né un file nuovo accanto."_t;
+    return;
+  }
+  const EsitoScrittura scritto = file->Riscrivi(testo);
+  FileSezioniIntero = scritto != EsitoScrittura::Incompleto;
+  if (!FileSezioniIntero)
+    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
+                       "il file " + FileSezioni + " può essere incompleto; "_t +
+                           DoveLaCopia(nostro ? FileCopia() : esito.altro));
+  esito.scritte = scritto == EsitoScrittura::Scritto;
+}
+
+}  // namespace
+
+void LeggiFileSezioni(bool mostraErrore) {
+  // Another program may be writing it: half a file is not read. Who may not write it reads it all the same.
+  const auto daSoli = FileDaRiscrivere::Apri(FileSezioni);
+  auto file = FileInLettura::Apri(FileSezioni);
+  gImpronta.reset();
+  gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;
+  if (!file) {
+    if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
+    return;
+  }
+  try {
+    NumeroSezioniFile = LeggiConteggio(*file, kMaxSezioni, "sezioni");
+    NumeroSezioni = NumeroSezioniFile;
+    for (int i = 1; i <= NumeroSezioni; ++i) LeggiSezione(*file, TabellaSezioni[i]);
+    file->PretendiFine();
+    gImpronta = file->ImprontaLetta();
+  } catch (ErroreFatale& errore) {
+    if (GenereFile(FileCopia()) == TipoVoce::File) errore.dove += "; " + DoveLaCopia(FileCopia());
+    throw;
+  }
+}
+
+EsitoSezioni ScriviFileSezioni() {
+  const std::vector<Testo> sezioni = RigheSezioni();
+  EsitoSezioni esito;
+  if (FileSezioni == gIntoccabile) return esito;
+  const Testo testo = ComponiFileSezioni(sezioni);
+  // A file that another program makes meanwhile is there the second time.
+  if (GenereFile(FileSezioni) == TipoVoce::Assente) esito.scritte = CreaFile(FileSezioni, testo);
+  if (!esito.scritte) Riscrivi(testo, esito);
+  if (esito.scritte) gImpronta = Impronta(testo);
+  if (esito.altro.empty()) return esito;
+  esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
+  // What that one held before it stopped half-way is whole in its copy, whose place the next save here takes.
+  const auto copia = esito.confronto.leggibile ? std::nullopt : LeggiTutto(FileCopia());
+  if (copia) esito.copia = Conserva(*copia, FileSezioni, ".altro");
+  return esito;
+}
+
+Testo ProponiNome(Intero16 numero) {
+  const Testo cifre = "000" + FormatoNumero(static_cast<int>(numero));
+  return Testo(SenzaBlanchi(PrefissoNome + cifre.substr(cifre.size() - 3)));
+}
+
+Testo NormalizzaNome(const Testo& nome, const Testo& voluto, const Testo& altro) {
+  const Testo inizio = Maiuscole(nome.substr(0, 2));
+  if (inizio == voluto) return nome;
+  if (inizio == altro) return voluto + nome.substr(2);
+  return voluto + Testo(SenzaBlanchi(nome));
+}
+
+}  // namespace tarvel

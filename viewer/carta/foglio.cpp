@@ -1,0 +1,181 @@
+#include "viewer/carta/foglio.h"
+
+#include <QLocale>
+#include <QPageSize>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "viewer/disegno/misure.h"
+
+namespace ostrel {
+namespace {
+
+constexpr double kLarghezzaCartiglio = 190;  // an upright A4 has room for it
+constexpr double kAltezzaCartiglio = 11;
+constexpr double kDistacco = 3;
+constexpr double kTolleranza = 1e-6;  // millimetres
+// Sizes on paper, in millimetres, beyond which a scale or a unit must be a mistake.
+constexpr double kMinimoSensato = 5;
+constexpr double kMinimoDipinto = 1e-3;
+constexpr double kMassimoDipinto = 1e6;
+
+// What a drawing is to a sheet: reading it through each time would make a large one slow to choose for.
+struct Sagoma {
+  Riquadro tutto;
+  double unita;
+};
+
+Sagoma DaDisegno(const Disegno& disegno) {
+  return {Ingombro(disegno), disegno.unita};
+}
+
+bool InScala(const Resa& resa) {
+  return resa.unita != Unita::Ignota && resa.rapporto > 0;
+}
+
+bool Contiene(const QSizeF& campo, const QSizeF& disegno) {
+  return disegno.width() <= campo.width() + kTolleranza && disegno.height() <= campo.height() + kTolleranza;
+}
+
+// A small sheet has a small title block.
+Foglio Dividi(const QSizeF& stampabile) {
+  const double forma = std::min(
+      {1.0, stampabile.width() / kLarghezzaCartiglio, stampabile.height() / (8 * kAltezzaCartiglio)});
+  const QSizeF cartiglio(kLarghezzaCartiglio * forma, kAltezzaCartiglio * forma);
+  Foglio foglio;
+  foglio.cartiglio = {{stampabile.width() - cartiglio.width(), stampabile.height() - cartiglio.height()},
+                      cartiglio};
+  foglio.campo = {0, 0, stampabile.width(), foglio.cartiglio.top() - kDistacco * forma};
+  return foglio;
+}
+
+QPageLayout ConCarta(const Resa& resa, QPageLayout::Orientation verso) {
+  constexpr std::array<QPageSize::PageSizeId, kCarte.size()> kFogli = {
+      QPageSize::A4, QPageSize::A3, QPageSize::A2, QPageSize::A1, QPageSize::A0};
+  constexpr double m = kMargineCarta;
+  return {
+      QPageSize(kFogli[static_cast<std::size_t>(resa.carta)]), verso, {m, m, m, m}, QPageLayout::Millimeter};
+}
+
+Foglio Disponi(const Sagoma& sagoma, const Resa& resa, const QSizeF& stampabile) {
+  Foglio foglio = Dividi(stampabile);
+  const Riquadro& tutto = sagoma.tutto;
+  const double vero = sagoma.unita * Voce(resa.unita).millimetri;
+  foglio.vista = VistaIntera(tutto, foglio.campo);
+  if (InScala(resa)) {
+    const QPointF centro = foglio.campo.center();
+    const double scala = vero / resa.rapporto;
+    foglio.vista = {scala, (tutto.x0 + tutto.x1) / 2 - centro.x() / scala,
+                    (tutto.y0 + tutto.y1) / 2 + centro.y() / scala};
+    foglio.rapporto = resa.rapporto;
+  } else if (resa.unita != Unita::Ignota) {
+    foglio.rapporto = vero / foglio.vista.scala;
+  }
+  foglio.disegno = {tutto.Larghezza() * foglio.vista.scala, tutto.Altezza() * foglio.vista.scala};
+  return foglio;
+}
+
+bool CiSta(const Sagoma& sagoma, const Resa& resa, const QPageLayout& pagina) {
+  const Foglio foglio = Disponi(sagoma, resa, Stampabile(pagina));
+  return Contiene(foglio.campo.size(), foglio.disegno);
+}
+
+QPageLayout PaginaDi(const Sagoma& sagoma, const Resa& resa) {
+  const QPageLayout ritta = ConCarta(resa, QPageLayout::Portrait);
+  const QPageLayout distesa = ConCarta(resa, QPageLayout::Landscape);
+  if (resa.orientamento != Orientamento::Automatico)
+    return resa.orientamento == Orientamento::Verticale ? ritta : distesa;
+  const auto scala = [&](const QPageLayout& pagina) {
+    return Disponi(sagoma, {}, Stampabile(pagina)).vista.scala;
+  };
+  return scala(ritta) > scala(distesa) ? ritta : distesa;
+}
+
+double ScalaCheCiSta(const Sagoma& sagoma, Resa resa, const QPageLayout& pagina) {
+  constexpr double kTonde[] = {1,   2,     5,   10,   20,   25,    50,   100,
+                               200, 250,   500, 1000, 2000, 2500,  5000, 1e4,
+                               2e4, 2.5e4, 5e4, 1e5,  2e5,  2.5e5, 5e5,  kMassimoRapporto};
+  const double chiesto = resa.rapporto;
+  for (const double rapporto : kTonde) {
+    resa.rapporto = rapporto;
+    if (rapporto > chiesto && CiSta(sagoma, resa, pagina)) return rapporto;
+  }
+  return 0;
+}
+
+// The smallest, turned as is best.
+std::optional<QPageLayout> PaginaCheBasta(const Sagoma& sagoma, Resa resa) {
+  resa.orientamento = Orientamento::Automatico;
+  for (std::size_t i = 0; i < kCarte.size(); ++i) {
+    resa.carta = static_cast<Carta>(i);
+    if (QPageLayout pagina = PaginaDi(sagoma, resa); CiSta(sagoma, resa, pagina)) return pagina;
+  }
+  return std::nullopt;
+}
+
+// Whole millimetres are what can be read on a sheet.
+QString Lunghezza(double mm) {
+  constexpr double kPochi = 10;
+  const QLocale italiano(QLocale::Italian);
+  return mm < kPochi ? italiano.toString(mm, 'g', 2) : italiano.toString(mm, 'f', 0);
+}
+
+QString Lati(const QSizeF& mm) {
+  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
+}
+
+}  // namespace
+
+Foglio Componi(const Disegno& disegno, const Resa& resa, const QSizeF& stampabile) {
+  return Disponi(DaDisegno(disegno), resa, stampabile);
+}
+
+QSizeF Stampabile(const QPageLayout& pagina) {
+  return pagina.paintRect(QPageLayout::Millimeter).size();
+}
+
+QPageLayout Pagina(const Disegno& disegno, const Resa& resa) {
+  return PaginaDi(DaDisegno(disegno), resa);
+}
+
+QString InTesto(const QPageLayout& pagina) {
+  const bool distesa = pagina.orientation() == QPageLayout::Landscape;
+  return pagina.pageSize().name() + (distesa ? " orizzontale" : " verticale");
+}
+
+QString Descrivi(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
+  const Foglio foglio = Componi(disegno, resa, Stampabile(pagina));
+  const QString misura =
+      QString("Foglio %1; il disegno vi misura %2.").arg(InTesto(pagina), Lati(foglio.disegno));
+  return resa.unita == Unita::Ignota ? misura + " Non è in scala: per una scala serve l'unità del disegno."
+                                     : misura;
+}
+
+std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
+  if (!InScala(resa)) return std::nullopt;
+  const Sagoma sagoma = DaDisegno(disegno);
+  const Foglio foglio = Disponi(sagoma, resa, Stampabile(pagina));
+  if (Contiene(foglio.campo.size(), foglio.disegno)) {
+    const double lungo = std::max(foglio.disegno.width(), foglio.disegno.height());
+    if (lungo >= kMinimoSensato) return std::nullopt;
+    return Obiezione{
+        QString("A %1 il disegno, in %2, misura %3: non si vedrebbe niente. L'unità o la scala non è "
+                "quella giusta.")
+            .arg(InTesto(resa.rapporto), Voce(resa.unita).nome, Lati(foglio.disegno)),
+        0, lungo < kMinimoDipinto};
+  }
+  const bool assurda = !(std::max(foglio.disegno.width(), foglio.disegno.height()) <= kMassimoDipinto);
+  Obiezione obiezione{QString("A %1 il disegno, in %2, misura %3, e il foglio %4 ne ha liberi %5: una parte "
+                              "ne resta fuori.")
+                          .arg(InTesto(resa.rapporto), Voce(resa.unita).nome,
+                               assurda ? "più di un chilometro" : Lati(foglio.disegno), InTesto(pagina),
+                               Lati(foglio.campo.size())),
+                      ScalaCheCiSta(sagoma, resa, pagina), assurda};
+  if (obiezione.ciSta > 0) obiezione.testo += QString(" Ci sta a %1.").arg(InTesto(obiezione.ciSta));
+  if (const auto basta = PaginaCheBasta(sagoma, resa))
+    obiezione.testo += QString(" A %1 basta un foglio %2.").arg(InTesto(resa.rapporto), InTesto(*basta));
+  return obiezione;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,234 @@
+// Line by line through the five sections; the first thing that is not as expected ends the reading.
+#include "viewer/disegno/lettore_dis.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+
+#include "base/numeri.h"
+#include "viewer/disegno/misure.h"
+
+namespace ostrel {
+namespace {
+
+using tarvel::Testo;
+
+constexpr std::size_t kMassimaRiga = 1 << 20;
+constexpr std::size_t kMassimaCitazione = 40;
+
+constexpr int kMin16 = std::numeric_limits<std::int16_t>::min();
+constexpr int kMax16 = std::numeric_limits<std::int16_t>::max();
+
+// A section of the file: what its count is called, the fewest bytes an entry can take, line ends
+// included, so that a count is believed only where its entries can follow, and the places of its
+// table in the program that draws.
+struct Sezione {
+  std::string_view conteggio;
+  std::size_t minimo;
+  int capienza;
+};
+constexpr Sezione kCoordinate{"il numero di coordinate", 6, 50000};
+constexpr Sezione kPunti{"il numero di punti", 6, 5001};
+constexpr Sezione kLinee{"il numero di linee", 8, 50000};
+constexpr Sezione kScritte{"il numero di testi", 13, 15000};
+constexpr Sezione kArchi{"il numero di archi", 12, 15000};
+
+class Lettore {
+ public:
+  explicit Lettore(std::string_view byte) : resto_(byte) {}
+
+  bool Finito() const { return resto_.empty(); }
+
+  /// The next line without its end. `attesa`, a literal, says what it should hold, for the refusal.
+  std::string_view Riga(std::string_view attesa) {
+    attesa_ = attesa;
+    ++numero_;
+    riga_ = {};
+    ultima_ = true;
+    if (resto_.empty()) Rifiuta("il file finisce prima");
+    const auto fine = resto_.find('\n');
+    ultima_ = fine == std::string_view::npos;
+    riga_ = resto_.substr(0, fine);
+    resto_ = ultima_ ? std::string_view() : resto_.substr(fine + 1);
+    if (!riga_.empty() && riga_.back() == '\r') riga_.remove_suffix(1);
+    if (riga_.size() > kMassimaRiga) Rifiuta(tarvel::DaUtf8("la riga è più lunga di 1 MB"));
+    return riga_;
+  }
+
+  /// A line of exactly N items separated by blanks.
+  template <std::size_t N>
+  std::array<std::string_view, N> Voci(std::string_view attesa) {
+    std::string_view riga = Riga(attesa);
+    std::array<std::string_view, N> voci;
+    for (auto& voce : voci) {
+      voce = tarvel::PrimaParola(riga);
+      if (voce.empty()) Rifiuta();
+    }
+    if (!tarvel::PrimaParola(riga).empty()) Rifiuta();
+    return voci;
+  }
+
+  double Numero(std::string_view voce) const {
+    if (const auto valore = tarvel::NumeroRegionale(voce, ',', ' ')) return valore->Valore();
+    // With 15 digits the largest double is printed as more than itself.
+    constexpr double kMassimo = std::numeric_limits<double>::max();
+    const bool negativo = voce.starts_with('-');
+    Testo cifre(voce.substr(negativo ? 1 : 0));
+    std::replace(cifre.begin(), cifre.end(), ',', '.');
+    if (cifre != tarvel::FormatoNumero(kMassimo)) Rifiuta();
+    return negativo ? -kMassimo : kMassimo;
+  }
+
+  int Intero(std::string_view voce, int minimo, int massimo) const {
+    int valore = 0;
+    const auto [fine, errore] = std::from_chars(voce.data(), voce.data() + voce.size(), valore);
+    if (errore != std::errc() || fine != voce.data() + voce.size()) Rifiuta();
+    if (valore < minimo || valore > massimo)
+      Rifiuta("trovato: " + std::to_string(valore) + ", fuori dei limiti da " + std::to_string(minimo) +
+              " a " + std::to_string(massimo));
+    return valore;
+  }
+  int Intero16(std::string_view voce) const { return Intero(voce, kMin16, kMax16); }
+
+  std::size_t Conteggio(const Sezione& sezione) {
+    const auto [voce] = Voci<1>(sezione.conteggio);
+    const int quanti = Intero(voce, 0, sezione.capienza);
+    // The last line may lack its end.
+    if (static_cast<std::size_t>(quanti) > (resto_.size() + 1) / sezione.minimo) {
+      ultima_ = true;
+      Rifiuta("trovato: " + std::to_string(quanti) +
+              tarvel::DaUtf8(", più di quanti il resto del file ne contenga"));
+    }
+    return static_cast<std::size_t>(quanti);
+  }
+
+  [[noreturn]] void Rifiuta(const Testo& trovato) const {
+    throw ErroreDis{
+        numero_, "riga " + std::to_string(numero_) + ", atteso: " + Testo(attesa_) + "; " + trovato, ultima_};
+  }
+  [[noreturn]] void Rifiuta() const {
+    const bool lunga = riga_.size() > kMassimaCitazione;
+    Rifiuta("trovato: \"" + Visibile(riga_.substr(0, kMassimaCitazione)) + (lunga ? "...\"" : "\""));
+  }
+
+  // What has no sign of its own: controls, holes of the code page, and the hyphen that only shows at
+  // the end of a line.
+  static Testo Visibile(std::string_view testo) {
+    constexpr std::string_view kSenzaSegno = "\x7F\x81\x8D\x8F\x90\x9D";
+    Testo esito(testo);
+    for (char& c : esito) {
+      if (static_cast<unsigned char>(c) < ' ' || kSenzaSegno.find(c) != std::string_view::npos) c = '?';
+      if (c == '\xAD') c = '-';
+    }
+    return esito;
+  }
+
+ private:
+  std::string_view resto_;
+  std::string_view riga_;
+  std::string_view attesa_;
+  int numero_ = 0;
+  bool ultima_ = false;  // nothing stands behind the current line
+};
+
+void LeggiIntestazione(Lettore& file) {
+  const auto [cifra] = file.Voci<1>("il numero di formato, 3 o 4");
+  if (cifra != "3" && cifra != "4") file.Rifiuta();
+  // The extents are measured anew: those of the file leave the texts out.
+  for (const std::string_view estremi :
+       {"il minimo e il massimo di X", "il minimo e il massimo di Y", "il minimo e il massimo di Z"})
+    for (const auto voce : file.Voci<2>(estremi)) file.Numero(voce);
+}
+
+template <class Voce, class Leggi>
+std::vector<Voce> LeggiSezione(Lettore& file, const Sezione& sezione, Leggi leggi) {
+  const std::size_t quanti = file.Conteggio(sezione);
+  std::vector<Voce> voci;
+  voci.reserve(quanti);
+  for (std::size_t i = 0; i < quanti; ++i) leggi(voci);
+  return voci;
+}
+
+Disegno LeggiTutto(Lettore& file) {
+  LeggiIntestazione(file);
+  Disegno d;
+
+  d.coordinate = LeggiSezione<Coordinata>(file, kCoordinate, [&](auto& coordinate) {
+    const auto [x, y, z] = file.Voci<3>("una coordinata (X, Y e Z)");
+    file.Numero(z);
+    coordinate.push_back({file.Numero(x), file.Numero(y)});
+  });
+  const auto indice = [&, ultimo = static_cast<int>(d.coordinate.size()) - 1](std::string_view voce) {
+    return file.Intero(voce, 0, ultimo);
+  };
+
+  // -1: the table of coordinates was full when the element was drawn.
+  const auto oMancante = [&](std::string_view voce) { return voce == "-1" ? -1 : indice(voce); };
+
+  d.punti = LeggiSezione<Punto>(file, kPunti, [&](auto& punti) {
+    const auto [posizione, b, a] = file.Voci<3>("un punto (indice della coordinata e due attributi)");
+    file.Intero16(b);
+    file.Intero16(a);
+    punti.push_back({indice(posizione)});
+  });
+
+  d.linee = LeggiSezione<Linea>(file, kLinee, [&](auto& linee) {
+    const auto [inizio, fine, colore, tipo] =
+        file.Voci<4>("una linea (indici del primo e del secondo punto, colore e tipo di linea)");
+    const Linea linea{oMancante(inizio), indice(fine), file.Intero16(colore), file.Intero16(tipo)};
+    if (linea.inizio < 0)
+      ++d.saltati;
+    else
+      linee.push_back(linea);
+  });
+
+  d.scritte = LeggiSezione<Scritta>(file, kScritte, [&](auto& scritte) {
+    Scritta scritta;
+    const auto [posizione, uno, angolo] =
+        file.Voci<3>("un testo (indice della posizione, 1 e angolo in gradi)");
+    scritta.posizione = indice(posizione);
+    file.Intero16(uno);
+    scritta.angolo = file.Intero16(angolo);
+    const auto [base, altezza, colore] = file.Voci<3>("base e altezza del testo e il suo colore");
+    scritta.base = file.Numero(base);
+    scritta.altezza = file.Numero(altezza);
+    scritta.colore = file.Intero16(colore);
+    scritta.testo = Lettore::Visibile(file.Riga("il testo"));
+    if (scritta.base > 0 && scritta.altezza > 0) scritte.push_back(std::move(scritta));
+  });
+
+  d.archi = LeggiSezione<Arco>(file, kArchi, [&](auto& archi) {
+    const auto [centro, inizio, ancora, fine] =
+        file.Voci<4>("un arco (indici del centro, del primo punto, ancora del centro e dell'ultimo punto)");
+    Arco arco{oMancante(centro), oMancante(inizio), oMancante(fine), 0};
+    if (oMancante(ancora) != arco.centro) file.Rifiuta();
+    const auto [colore, genere] = file.Voci<2>("colore e genere dell'arco");
+    arco.colore = file.Intero16(colore);
+    file.Intero16(genere);
+    if (std::min({arco.centro, arco.inizio, arco.fine}) < 0)
+      ++d.saltati;
+    else
+      archi.push_back(arco);
+  });
+
+  while (!file.Finito())
+    if (!tarvel::SenzaBlanchi(file.Riga("la fine del disegno")).empty()) file.Rifiuta();
+  Riduci(d);
+  if (!d.scritte.empty()) d.titolo = d.scritte.front().testo;
+  return d;
+}
+
+}  // namespace
+
+std::variant<Disegno, ErroreDis> LeggiDis(std::string_view byte) {
+  try {
+    Lettore file(byte);
+    return LeggiTutto(file);
+  } catch (const ErroreDis& errore) {
+    return errore;
+  }
+}
+
+}  // namespace ostrel

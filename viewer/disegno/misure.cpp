@@ -1,0 +1,128 @@
+// Extents of elements and the polar form of arcs.
+#include "viewer/disegno/misure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+namespace ostrel {
+namespace {
+
+constexpr double kPi = std::numbers::pi;
+// Two points nearer than this are one, as for the program that drew them.
+constexpr double kTolleranza = 1e-4;
+// Powers of two between which squares and sums, and views that magnify them, stay finite.
+constexpr int kMassimoEsponente = 332;
+constexpr int kMinimoEsponente = -332;
+constexpr double kMinimaForma = 0.2;  // of a page, shorter to longer side
+
+}  // namespace
+
+void Riquadro::Comprendi(double x, double y) {
+  if (Vuoto()) {
+    *this = {x, y, x, y};
+    return;
+  }
+  x0 = std::min(x0, x);
+  y0 = std::min(y0, y);
+  x1 = std::max(x1, x);
+  y1 = std::max(y1, y);
+}
+
+double Riquadro::Massimo() const {
+  return std::max({std::fabs(x0), std::fabs(x1), std::fabs(y0), std::fabs(y1)});
+}
+
+void Riduci(Disegno& disegno) {
+  int esponente = std::numeric_limits<int>::min();
+  const auto comprendi = [&](double v, std::size_t volte = 1) {
+    if (v != 0) esponente = std::max(esponente, std::ilogb(v) + std::ilogb(static_cast<double>(volte)));
+  };
+  for (const Coordinata& c : disegno.coordinate) {
+    comprendi(c.x);
+    comprendi(c.y);
+  }
+  for (const Scritta& s : disegno.scritte) {
+    comprendi(s.base, s.testo.size() + 1);
+    comprendi(s.altezza);
+  }
+  if (esponente == std::numeric_limits<int>::min()) return;
+  const int passo = std::clamp(esponente, kMinimoEsponente, kMassimoEsponente) - esponente;
+  if (passo == 0) return;
+  disegno.unita = std::scalbn(1, -passo);
+  for (Coordinata& c : disegno.coordinate) c = {std::scalbn(c.x, passo), std::scalbn(c.y, passo)};
+  for (Scritta& s : disegno.scritte) {
+    s.base = std::scalbn(s.base, passo);
+    s.altezza = std::scalbn(s.altezza, passo);
+  }
+  std::erase_if(disegno.scritte, [](const Scritta& s) { return s.base == 0 || s.altezza == 0; });
+}
+
+ArcoPolare Polare(const Disegno& disegno, const Arco& arco) {
+  const Coordinata centro = Posto(disegno, arco.centro);
+  const Coordinata da = Posto(disegno, arco.inizio);
+  const Coordinata a = Posto(disegno, arco.fine);
+  ArcoPolare polare{centro.x, centro.y, std::hypot(da.x - centro.x, da.y - centro.y),
+                    std::atan2(da.y - centro.y, da.x - centro.x)};
+  // The writer keeps the end point of a circle apart from its start point when the latter was
+  // merged with an earlier coordinate: the same place under two indices is still a full circle.
+  const double tolleranza = kTolleranza / disegno.unita;
+  polare.cerchio = std::fabs(da.x - a.x) < tolleranza && std::fabs(da.y - a.y) < tolleranza;
+  polare.ampiezza = 2 * kPi;
+  if (!polare.cerchio) {
+    const double ampiezza =
+        std::fmod(std::atan2(a.y - centro.y, a.x - centro.x) - polare.inizio + 2 * kPi, 2 * kPi);
+    if (ampiezza > 0) polare.ampiezza = ampiezza;
+  }
+  return polare;
+}
+
+std::array<Coordinata, 4> Angoli(const Disegno& disegno, const Scritta& scritta) {
+  const Coordinata origine = Posto(disegno, scritta.posizione);
+  const double angolo = scritta.angolo * kPi / 180;
+  const double lungo = scritta.base * static_cast<double>(scritta.testo.size());
+  const Coordinata u{lungo * std::cos(angolo), lungo * std::sin(angolo)};
+  const Coordinata v{-scritta.altezza * std::sin(angolo), scritta.altezza * std::cos(angolo)};
+  return {origine,
+          {origine.x + u.x, origine.y + u.y},
+          {origine.x + u.x + v.x, origine.y + u.y + v.y},
+          {origine.x + v.x, origine.y + v.y}};
+}
+
+Riquadro Ingombro(const Disegno& disegno) {
+  Riquadro tutto;
+  const auto comprendi = [&](const Coordinata& c) { tutto.Comprendi(c.x, c.y); };
+  for (const Punto& punto : disegno.punti) comprendi(Posto(disegno, punto.posizione));
+  for (const Linea& linea : disegno.linee) {
+    comprendi(Posto(disegno, linea.inizio));
+    comprendi(Posto(disegno, linea.fine));
+  }
+  for (const Arco& arco : disegno.archi) {
+    const ArcoPolare p = Polare(disegno, arco);
+    const auto angolo = [&](double a) {
+      tutto.Comprendi(p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a));
+    };
+    angolo(p.inizio);
+    angolo(p.inizio + p.ampiezza);
+    for (int quarto = -2; quarto < 8; ++quarto)
+      if (const double a = quarto * kPi / 2; a > p.inizio && a < p.inizio + p.ampiezza) angolo(a);
+  }
+  for (const Scritta& scritta : disegno.scritte)
+    for (const Coordinata& c : Angoli(disegno, scritta)) comprendi(c);
+  return tutto;
+}
+
+Riquadro Pagina(const Riquadro& tutto) {
+  double lungo = std::max(tutto.Larghezza(), tutto.Altezza());
+  if (lungo <= kArrotondamento * tutto.Massimo()) lungo = tutto.Massimo() > 0 ? tutto.Massimo() : 1;
+  // The margin is a part of the page, not of the drawing.
+  const double corto = std::max(std::min(tutto.Larghezza(), tutto.Altezza()) / (1 - 2 * kMargine),
+                                lungo / (1 / kMinimaForma - 2 * kMargine));
+  const auto lato = [&](double disegnato) { return std::max(disegnato + 2 * kMargine * corto, corto); };
+  const double x = (tutto.x0 + tutto.x1) / 2, y = (tutto.y0 + tutto.y1) / 2;
+  const double w = lato(tutto.Larghezza()) / 2, h = lato(tutto.Altezza()) / 2;
+  return {x - w, y - h, x + w, y + h};
+}
+
+}  // namespace ostrel

@@ -1,0 +1,35 @@
+// Group by group: a code line and a value line.
+#include "viewer/esporta/gruppi_dxf.h"
+
+#include <cmath>
+
+#include "base/numeri.h"
+
+namespace ostrel {
+
+void Gruppo(Dxf& dxf, int codice, std::string_view valore) {
+  ((dxf.testo += std::to_string(codice)) += "\r\n").append(valore) += "\r\n";
+}
+
+void GruppoIntero(Dxf& dxf, int codice, int valore) {
+  Gruppo(dxf, codice, std::to_string(valore));
+}
+
+void GruppoReale(Dxf& dxf, int codice, double valore) {
+  dxf.finito = dxf.finito && std::isfinite(valore);
+  tarvel::Testo testo;
+  if (dxf.finito) tarvel::AccodaNumero(testo, valore, '.', true);
+  Gruppo(dxf, codice, testo);
+}
+
+void GruppoLunghezza(Dxf& dxf, int codice, double valore) {
+  GruppoReale(dxf, codice, valore * dxf.unita);
+}
+
+void GruppoPunto(Dxf& dxf, int codice, double x, double y) {
+  GruppoLunghezza(dxf, codice, x);
+  GruppoLunghezza(dxf, codice + 10, y);
+  GruppoReale(dxf, codice + 20, 0);
+}
+
+}  // namespace ostrel

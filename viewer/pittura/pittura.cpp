@@ -1,0 +1,170 @@
+// Lines are clipped in the drawing's own precision before the painter sees them, so that any zoom
+// stays exact and quick.
+#include "viewer/pittura/pittura.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "viewer/pittura/archi.h"
+#include "viewer/pittura/tratti.h"
+
+namespace ostrel {
+namespace {
+
+constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
+// With more lines than this on the screen smoothing would cost more than it shows.
+constexpr std::size_t kMassimeLineeLisce = 20000;
+
+class Pittura {
+ public:
+  Pittura(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
+          const Fondo& fondo)
+      : p_(pittore),
+        d_(disegno),
+        vista_(vista),
+        fondo_(fondo),
+        campo_(Campo(visibile, fondo)),
+        stretto_(visibile.marginsAdded(QMarginsF(1, 1, 1, 1) * fondo.spessore)) {}
+
+  void Linee() {
+    std::array<std::vector<QLineF>, kColori.size()> continue_;
+    for (const Linea& linea : d_.linee) {
+      const QPointF p = Verso(linea.inizio), q = Verso(linea.fine);
+      const bool intera = IndiceTipo(linea.tipo) == 0;
+      Parte parte;
+      if (!Ritaglia(p, q, intera ? campo_ : stretto_, parte)) continue;
+      const QLineF segmento = Segmento(p, q, parte, fondo_);
+      if (intera)
+        continue_[IndiceColore(linea.colore)].push_back(segmento);
+      else
+        Tratteggiata(segmento, linea, parte.da * std::hypot(q.x() - p.x(), q.y() - p.y()));
+    }
+    for (std::size_t colore = 0; colore < continue_.size(); ++colore) {
+      p_.setPen(Penna(fondo_, static_cast<int>(colore)));
+      p_.drawLines(continue_[colore].data(), static_cast<int>(continue_[colore].size()));
+    }
+  }
+
+  void Scritte() {
+    QFont carattere({"DejaVu Sans Mono", "Consolas"});
+    carattere.setStyleHint(QFont::Monospace);
+    carattere.setPixelSize(kCorpo);
+    carattere.setHintingPreference(QFont::PreferNoHinting);
+    p_.setFont(carattere);
+    const QFontMetricsF misure(carattere, p_.device());
+    for (const Scritta& scritta : d_.scritte) Scrivi(scritta, misure);
+  }
+
+  void Punti() {
+    p_.setPen(Penna(fondo_, tarvel::disegno::kBianco));
+    const double m = kMezzaCroce * fondo_.spessore;
+    for (const Punto& punto : d_.punti) {
+      const QPointF c = Verso(punto.posizione);
+      if (!campo_.contains(c)) continue;
+      p_.drawLine(c - QPointF(m, m), c + QPointF(m, m));
+      p_.drawLine(c - QPointF(m, -m), c + QPointF(m, -m));
+    }
+  }
+
+ private:
+  static constexpr int kCorpo = 64;
+
+  QPointF Verso(int indice) const {
+    const Coordinata& c = Posto(d_, indice);
+    return vista_.Verso(c.x, c.y);
+  }
+
+  // `saltato` is the length cut away before the segment: the dashes stay where they are.
+  void Tratteggiata(const QLineF& segmento, const Linea& linea, double saltato) {
+    const auto tratti = kTipiLinea[IndiceTipo(linea.tipo)].Tratti();
+    QPen penna = Penna(fondo_, linea.colore);
+    penna.setDashPattern({tratti.begin(), tratti.end()});
+    double passo = 0;
+    for (const double tratto : tratti) passo += tratto;
+    penna.setDashOffset(std::fmod(saltato / fondo_.spessore, passo));
+    p_.setPen(penna);
+    p_.drawLine(segmento);
+  }
+
+  void Scrivi(const Scritta& scritta, const QFontMetricsF& misure) {
+    if (scritta.testo.empty()) return;
+    QPolygonF riquadro;
+    for (const Coordinata& c : Angoli(d_, scritta)) riquadro << vista_.Verso(c.x, c.y);
+    // Descenders hang below the baseline.
+    const double altezza = scritta.altezza * vista_.scala;
+    if (!riquadro.boundingRect().marginsAdded({altezza, altezza, altezza, altezza}).intersects(campo_))
+      return;
+    p_.setPen(Penna(fondo_, scritta.colore));
+    const double largo = scritta.base * static_cast<double>(scritta.testo.size()) * vista_.scala;
+    const double minimo = kMinimaAltezzaScritta * fondo_.spessore;
+    if (altezza < minimo || largo < minimo) {
+      p_.drawLine(riquadro[0], riquadro[altezza < minimo ? 1 : 3]);
+      return;
+    }
+    const QString testo = QString::fromStdString(tarvel::InUtf8(scritta.testo));
+    p_.save();
+    p_.translate(riquadro[0]);
+    p_.rotate(-scritta.angolo);
+    p_.scale(largo / misure.horizontalAdvance(testo), altezza / misure.capHeight());
+    p_.drawText(QPointF(0, 0), testo);
+    p_.restore();
+  }
+
+  QPainter& p_;
+  const Disegno& d_;
+  const Vista& vista_;
+  const Fondo& fondo_;
+  QRectF campo_;
+  // Of dashed lines: the painter cuts a line of one pixel's width so near the picture, and begins its dashes
+  // anew where it has cut.
+  QRectF stretto_;
+};
+
+}  // namespace
+
+Vista Vista::Ingrandita(double fattore, QPointF fermo) const {
+  const QPointF sotto = Da(fermo);
+  const double nuova = scala * fattore;
+  return {nuova, sotto.x() - fermo.x() / nuova, sotto.y() + fermo.y() / nuova};
+}
+
+Vista VistaIntera(const Riquadro& tutto, QRectF area) {
+  area.setSize(area.size().expandedTo({1, 1}));
+  const double margine = kMargine * std::min(area.width(), area.height());
+  area.adjust(margine, margine, -margine, -margine);
+  const Riquadro r = tutto.Vuoto() ? Riquadro{0, 0, 1, 1} : tutto;
+  // A drawing without breadth or height is fitted by its other side, a single point at scale 1.
+  const double minimo = kArrotondamento * r.Massimo();
+  const double x = r.Larghezza() > minimo ? area.width() / r.Larghezza() : HUGE_VAL;
+  const double y = r.Altezza() > minimo ? area.height() / r.Altezza() : HUGE_VAL;
+  const double scala = std::isfinite(std::min(x, y)) ? std::min(x, y) : 1;
+  const QPointF centro = area.center();
+  return {scala, (r.x0 + r.x1) / 2 - centro.x() / scala, (r.y0 + r.y1) / 2 + centro.y() / scala};
+}
+
+Fondo FondoSchermo(double rapportoPixel) {
+  return {kSchermo, std::max(1.0, std::round(rapportoPixel)) / rapportoPixel, 1 / rapportoPixel};
+}
+
+Fondo FondoCarta(double spessore) {
+  return {kCarta, spessore, 0};
+}
+
+void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
+             const Fondo& fondo) {
+  const bool liscia = fondo.pixel == 0 || disegno.linee.size() <= kMassimeLineeLisce;
+  Pittura pittura(pittore, disegno, vista, visibile, fondo);
+  pittore.setRenderHint(QPainter::Antialiasing, liscia);
+  pittura.Linee();
+  pittore.setRenderHint(QPainter::Antialiasing, true);
+  DipingiArchi(pittore, disegno, vista, visibile, fondo);
+  pittura.Punti();
+  pittura.Scritte();
+}
+
+}  // namespace ostrel

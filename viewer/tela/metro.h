@@ -1,0 +1,46 @@
+// Measuring between two places of the drawing: what has been pointed at, and how it is shown.
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+#include <optional>
+
+#include "viewer/pittura/pittura.h"
+#include "viewer/tela/aggancio.h"
+
+namespace ostrel {
+
+struct Metro {
+  std::optional<Coordinata> da, a;
+  /// Under the pointer: the marked place, or where it stands.
+  std::optional<Coordinata> sotto;
+  std::optional<Appiglio> genere;  // of a marked place
+};
+
+/// Takes the place under the pointer for the first point, the second one, or the first of the next
+/// measure; the second one is never the first.
+void Prendi(Metro& metro);
+
+/// The place under the pointer that lies at `dove` of the painter.
+void Punta(Metro& metro, const Disegno& disegno, const Vista& vista, QPointF dove);
+
+/// A length in the drawing's numbers, as many decimals as it needs, four at most; "1200", "28.75".
+QString Misurata(double lunghezza);
+
+/// Distance, its parts along the axes and the angle, one a line, in the drawing's numbers and with the name
+/// of their unit where it is known. Nothing before there are two places.
+QString Risultato(const Metro& metro, double unita, const QString& nomeUnita);
+
+/// What to do now, in a line.
+QString Istruzione(const Metro& metro);
+
+/// Line, marks and result over the drawing, within `area`.
+void Dipingi(QPainter& pittore, const Metro& metro, const Vista& vista, const QRectF& area,
+             const tarvel::Colore& fondo, const QString& risultato);
+
+/// A text on a box of its own, wholly within `area`, beside `dove` if it can be.
+void Cartellino(QPainter& pittore, const QString& testo, QPointF dove, const QRectF& area,
+                const tarvel::Colore& fondo);
+
+}  // namespace ostrel

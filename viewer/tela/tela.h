@@ -1,0 +1,121 @@
+// The area that shows the drawing: its view and how one comes to it, its ground, what of it is seen, and
+// the tools that point at it.
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QRegion>
+#include <QWidget>
+#include <optional>
+
+#include "viewer/disegno/livelli.h"
+#include "viewer/pittura/pittura.h"
+#include "viewer/tela/metro.h"
+#include "viewer/tela/storia.h"
+
+namespace ostrel {
+
+/// What the left button does.
+enum class Strumento { Mano, Rettangolo, Metro };
+
+class Tela : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Tela(QWidget* padre);
+
+  /// Replaces the drawing. A fitted one stays fitted, whatever its extents have become; otherwise zoom
+  /// and place stay as they are. `daCapo`: another drawing, fitted, with no views before this one; so is one
+  /// in other numbers (Disegno::unita).
+  void Mostra(Disegno nuovo, bool daCapo);
+
+  /// Fits the whole drawing, and keeps it fitted until the user zooms or pans.
+  void Adatta();
+  /// About the centre; a negative number of steps shrinks.
+  void Ingrandisci(int passi);
+  /// By tenths of the window, to where the arrows point.
+  void Scorri(int destra, int basso);
+  void VistaPrecedente();
+  void VistaSuccessiva();
+  const Storia& Viste() const { return storia_; }
+
+  void Usa(Strumento strumento);
+  Strumento InUso() const { return strumento_; }
+
+  void MostraLivelli(const Livelli& livelli);
+  const Livelli& LivelliMostrati() const { return livelli_; }
+  void MettiSu(const tarvel::Colore& fondo);
+  /// Of the drawing's lengths, shown beside what is measured; empty where nobody has said it.
+  void NominaUnita(const QString& nome);
+
+  /// The whole drawing, shown or not.
+  const Disegno& Mostrato() const { return disegno_; }
+  /// What of it is shown.
+  const Disegno& Visibile() const { return visibile_ ? *visibile_ : disegno_; }
+  const Vista& VistaCorrente() const { return vista_; }
+  /// What has been measured; empty before there are two points.
+  QString Misura() const { return Risultato(metro_, disegno_.unita, unita_); }
+  /// What is in the window, on paper and twice as fine.
+  QImage Immagine() const;
+
+ signals:
+  /// The pointer is over this point of the drawing, in its units.
+  void Puntato(double x, double y);
+  /// The user has begun to act here.
+  void Toccata();
+  void VistaCambiata();
+  void StrumentoCambiato();
+
+ protected:
+  void paintEvent(QPaintEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+  void leaveEvent(QEvent* evento) override;
+  void wheelEvent(QWheelEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+  void mouseMoveEvent(QMouseEvent* evento) override;
+  void mouseReleaseEvent(QMouseEvent* evento) override;
+  void mouseDoubleClickEvent(QMouseEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  void Cambia(const Inquadratura& nuova, Gesto gesto);
+  void Inquadra(const Inquadratura& nuova);
+  double ScalaLimitata(double chiesta) const;
+  void Ingrandisci(double fattore, QPointF fermo);
+  /// `gesto` where it begins one.
+  void Trascina(QPoint passo, std::optional<Gesto> gesto);
+  void ZoomSu(const QRectF& parte);
+
+  void Ridipingi();
+  void AggiornaQuadro();
+  void DipingiStrumento(QPainter& pittore);
+  QString Istruzione() const;
+
+  void Segui(QPointF dove);
+  void Indica();
+  void MuoviPuntatore(QPoint passo);
+
+  Disegno disegno_;
+  std::optional<Disegno> visibile_;  // where it is not all of it
+  Riquadro tutto_;
+  Vista vista_;
+  bool adattata_ = true;
+  Storia storia_;
+
+  Livelli livelli_ = kTuttiLivelli;
+  tarvel::Colore fondo_ = kSchermo;
+  QString unita_;
+
+  // The drawing as painted, without tools, and where it is out of date.
+  QPixmap quadro_;
+  QRegion vecchie_;
+
+  Strumento strumento_ = Strumento::Mano;
+  Metro metro_;
+  std::optional<QPoint> angolo_;  // of the rectangle being drawn
+  QPoint puntatore_;
+  QPoint presa_;        // last place of the pointer while dragging
+  bool mosso_ = false;  // since a button went down
+};
+
+}  // namespace ostrel
