@@ -56,7 +56,7 @@ struct Carattere {
 /// shown from its beginning; while the user types, or moves the caret, the caret is in view. Where text is
 /// out of sight at an end, a mark at that edge says so, over the letters, which stay as they are. Its tool
 /// tip says what it is and, where the text does not fit, the whole of it (Suggerimento,
-/// platform/comune/casella.h). Tool tips are plain text.
+/// platform/comune/desktop/casella.h). Tool tips are plain text.
 /// Lista: white. A click or an arrow selects one entry; with selezioneEstesa Shift and Ctrl select
 /// several. Reaching it selects nothing; Enter, Esc and a click beside the entries change nothing.
 enum class TipoControllo { Bottone, Etichetta, Casella, Lista };

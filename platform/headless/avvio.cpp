@@ -2,28 +2,12 @@
 #include "platform/headless/avvio.h"
 
 #include <string>
-#include <utility>
 
 #include "platform/headless/copione.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/verbale.h"
 
-namespace tarvel {
-namespace {
-
-Testo gRigaComando;
-
-}  // namespace
-
-Testo RigaComando() {
-  return gRigaComando;
-}
-
-namespace headless {
-
-void ImpostaRigaComando(Testo riga) {
-  gRigaComando = std::move(riga);
-}
+namespace tarvel::headless {
 
 int Recita(Form& principale, std::istream& copione, std::ostream& verbale, std::ostream& errori) {
   ApriVerbale(&verbale);
@@ -42,5 +26,4 @@ int Recita(Form& principale, std::istream& copione, std::ostream& verbale, std::
   return stato;
 }
 
-}  // namespace headless
-}  // namespace tarvel
+}  // namespace tarvel::headless

@@ -8,9 +8,6 @@
 
 namespace tarvel::headless {
 
-/// What RigaComando returns until the next call.
-void ImpostaRigaComando(Testo riga);
-
 /// Runs the program whose main form is `principale`; the script plays the user. The transcript, its
 /// last line `end STATUS`, goes to `verbale`; what is wrong with the script to `errori`. Returns
 /// the status: the program's own (0 normal end, 1 start-up refused or fatal error), 2 for a

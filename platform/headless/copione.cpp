@@ -20,7 +20,7 @@ namespace {
 constexpr std::size_t kRigaMassima = 1 << 20;
 constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
 constexpr int kTickMassimo = 3'600'000;
-constexpr Durata kAttesaFinaleMassima = 60'000;
+constexpr long long kAttesaFinaleMassima = 60'000;
 
 struct Evento {
   int riga;
@@ -45,6 +45,12 @@ int Numero(const Evento& e, const std::string& parola, int minimo, int massimo) 
     e.Errore(Citazione(parola) + " is not a whole number from " + std::to_string(minimo) + " to " +
              std::to_string(massimo));
   return numero;
+}
+
+Form* FormVisibile(const Testo& nome) {
+  const auto trovata =
+      std::find_if(Fila().begin(), Fila().end(), [&](const Form* f) { return f->nome == nome; });
+  return trovata == Fila().end() ? nullptr : *trovata;
 }
 
 // "C" on the form in front, "FORM.C" on any visible one.
@@ -289,7 +295,7 @@ void Copione::Congeda() {
     return;
   }
   if (Chiudi(principale_)) return;
-  const std::optional<Durata> attesa = AttesaProssimo();
+  const std::optional<long long> attesa = AttesaProssimo();
   if (!attesa) TerminaProgramma(0);
   attesaFinale_ += *attesa;
   if (attesaFinale_ > kAttesaFinaleMassima)

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "platform/headless/desktop.h"
-#include "platform/headless/timer.h"
 
 namespace tarvel::headless {
 
@@ -48,7 +47,7 @@ class Copione {
   Form& principale_;
   std::deque<RispostaPronta> risposte_;
   bool finito_ = false;
-  Durata attesaFinale_ = 0;
+  long long attesaFinale_ = 0;
 };
 
 }  // namespace tarvel::headless

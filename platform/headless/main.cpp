@@ -10,6 +10,7 @@
 
 #include "app/tarvel1.h"
 #include "platform/comune/argomenti.h"
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/headless/avvio.h"
 #include "platform/headless/regione.h"
 
@@ -111,7 +112,7 @@ int main(int argc, char** argv) {
     }
     file.clear();  // an empty script is one too
   }
-  headless::ImpostaRigaComando(opzioni->rigaComando);
+  ImpostaRigaComando(opzioni->rigaComando);
   headless::ImpostaDecimale(opzioni->decimale);
   return headless::Recita(FormPrincipale(), opzioni->copione ? file : std::cin, std::cout, std::cerr);
 }

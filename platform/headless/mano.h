@@ -9,9 +9,6 @@
 
 namespace tarvel::headless {
 
-/// Its form is visible and not blocked, and it can have the focus (labels never have it).
-bool Usabile(const Controllo& controllo);
-
 /// By mouse: in a box at the end of its text, in a list beside its entries.
 bool Vai(Controllo& controllo);
 /// Buttons and boxes that no other covers.
@@ -29,7 +26,5 @@ bool Digita(Controllo& casella, const Testo& testo);
 /// Exactly these entries, from 0.
 bool Seleziona(Controllo& lista, const std::vector<int>& voci);
 bool DoppioClick(Controllo& lista, int voce);
-/// The close box.
-bool Chiudi(Form& form);
 
 }  // namespace tarvel::headless

@@ -1,0 +1,320 @@
+// Forms, focus and modality.
+#include "platform/comune/desktop/scrivania.h"
+
+#include <algorithm>
+#include <deque>
+#include <list>
+#include <new>
+#include <tuple>
+#include <utility>
+
+#include "platform/comune/desktop/schermo.h"
+
+namespace tarvel {
+namespace {
+
+struct Caricata {
+  Form* form;
+  int numero;  // of this load among all
+  std::vector<Contenuto> descritti;
+  bool inScarico = false;
+  bool mostrata = false;    // since it was loaded
+  std::size_t livello = 0;  // modal loops that ran when it was shown: later ones block it
+  Controllo* fuoco = nullptr;
+};
+
+struct CicloModale {
+  Form* form;
+  bool finito = false;
+};
+
+struct Scrivania {
+  std::list<Caricata> caricate;
+  std::vector<Form*> fila;  // the visible ones
+  std::list<CicloModale> modali;
+  std::deque<Controllo*> persi;  // they have lost the focus, and hear of it when no handler runs
+  std::function<void()> tasto;   // what the key under way does to its box
+  int gestori = 0;               // of the current loop
+  int messaggi = 0, loop = 0, caricamenti = 0;
+};
+
+Scrivania scrivania;
+Testo rigaComando;
+std::function<Testo()> salva;
+
+Caricata* Cerca(const Form& form) {
+  const auto trovata = std::find_if(scrivania.caricate.begin(), scrivania.caricate.end(),
+                                    [&](const Caricata& c) { return c.form == &form; });
+  return trovata == scrivania.caricate.end() ? nullptr : &*trovata;
+}
+
+bool Visibile(const Form& form) {
+  return std::find(scrivania.fila.begin(), scrivania.fila.end(), &form) != scrivania.fila.end();
+}
+
+bool Contiene(const Form& form, const Controllo* controllo) {
+  return std::find(form.controlli.begin(), form.controlli.end(), controllo) != form.controlli.end();
+}
+
+bool InVista(const Caricata& caricata) {
+  return caricata.livello >= scrivania.modali.size() && Visibile(*caricata.form);
+}
+
+// What has waited for the handlers' end, unless the loop's caller goes on first.
+void Riprendi() {
+  while (!Occupato() && !scrivania.persi.empty()) {
+    const Controllo& lasciato = *scrivania.persi.front();
+    scrivania.persi.pop_front();
+    Esegui(lasciato.fuocoPerso);
+  }
+  if (!Occupato()) NuovaScadenza();
+}
+
+void FaTasto() {
+  if (const auto tasto = std::exchange(scrivania.tasto, {})) tasto();
+}
+
+// What was saved, in a sentence.
+Testo PrimaDelMessaggio() {
+  try {
+    return salva ? salva() : Testo();
+  } catch (const ErroreFatale&) {
+  } catch (const std::bad_alloc&) {
+  }
+  return {};
+}
+
+// The message of the fatal error that ended the handler; "" where it has run to its end.
+Testo ErroreDi(const std::function<void()>& gestore) {
+  try {
+    gestore();
+    return {};
+  } catch (const ErroreFatale& errore) {
+    return "Errore irreversibile: " + errore.Messaggio();
+  } catch (const std::bad_alloc&) {
+    return "Errore irreversibile: memoria esaurita";
+  }
+}
+
+// The control that had the focus loses it to this one of a form that comes to the front.
+void DaiFuoco(Caricata& caricata, Controllo* controllo) {
+  Controllo* const prima = Fuoco();
+  std::erase(scrivania.fila, caricata.form);
+  scrivania.fila.push_back(caricata.form);
+  caricata.fuoco = controllo;
+  if (prima != nullptr && prima != controllo) scrivania.persi.push_back(prima);
+}
+
+void Mostra(Caricata& caricata, bool modale) {
+  Form& form = *caricata.form;
+  const bool nuova = !Visibile(form);
+  if (!nuova && !modale && !InVista(caricata)) return;
+  Form* const davanti = FormAttiva();
+  const auto primo = std::find_if(form.controlli.begin(), form.controlli.end(),
+                                  [](const Controllo* c) { return c->tipo != TipoControllo::Etichetta; });
+  caricata.livello = scrivania.modali.size();
+  caricata.mostrata = true;
+  DaiFuoco(caricata, !nuova ? caricata.fuoco : primo == form.controlli.end() ? nullptr : *primo);
+  PortaDavanti(form, davanti, nuova, modale);
+}
+
+void Leva(const Caricata& caricata, bool scaricata) {
+  Form& form = *caricata.form;
+  std::erase(scrivania.fila, &form);
+  for (CicloModale& ciclo : scrivania.modali) ciclo.finito = ciclo.finito || ciclo.form == &form;
+  std::erase_if(scrivania.persi, [&](const Controllo* c) { return Contiene(form, c); });
+  Togli(form, scaricata);
+}
+
+}  // namespace
+
+void ImpostaRigaComando(Testo riga) {
+  rigaComando = std::move(riga);
+}
+
+Testo RigaComando() {
+  return rigaComando;
+}
+
+void PrimaDellaFine(std::function<Testo()> daSalvare) {
+  salva = std::move(daSalvare);
+}
+
+void Esegui(const std::function<void()>& gestore) {
+  ++scrivania.gestori;
+  if (Testo errore = gestore ? ErroreDi(gestore) : Testo(); !errore.empty()) {
+    if (const Testo salvato = PrimaDelMessaggio(); !salvato.empty())
+      errore += (errore.ends_with('.') ? " " : ". ") + salvato;
+    MostraMessaggio(errore, kTitoloProgramma, Icona::Stop);
+    TerminaProgramma(1);
+  }
+  --scrivania.gestori;
+  Riprendi();
+}
+
+bool Raggiungi(Form& form, Controllo* controllo) {
+  if (!Usabile(form)) return false;
+  DaiFuoco(*Cerca(form), controllo);
+  Riprendi();
+  return Usabile(form) && Fuoco() == controllo;
+}
+
+void PremiInCasella(Controllo& casella, const std::vector<int>& codici, const std::function<void()>& agisce) {
+  const Form* const form = FormDi(casella);
+  if (form == nullptr) return;
+  const int numero = Cerca(*form)->numero;
+  Esegui([&] {
+    scrivania.tasto = [&] {
+      if (const Caricata* c = Cerca(*form); c != nullptr && c->numero == numero) agisce();
+    };
+    for (const int codice : codici)
+      if (casella.tasto) casella.tasto(codice);
+    FaTasto();
+  });
+}
+
+bool Chiudi(Form& form) {
+  if (!Usabile(form)) return false;
+  Esegui([&] {
+    if (Controllo* fuoco = Fuoco(); FormAttiva() == &form && fuoco != nullptr) {
+      Cerca(form)->fuoco = nullptr;
+      if (fuoco->fuocoPerso) fuoco->fuocoPerso();
+    }
+    ScaricaForm(form);
+  });
+  return true;
+}
+
+const std::vector<Form*>& Fila() {
+  return scrivania.fila;
+}
+
+Form* FormAttiva() {
+  return scrivania.fila.empty() ? nullptr : scrivania.fila.back();
+}
+
+Form* FormModale() {
+  return scrivania.modali.empty() ? nullptr : scrivania.modali.back().form;
+}
+
+Form* FormDi(const Controllo& controllo) {
+  const auto trovata = std::find_if(scrivania.fila.begin(), scrivania.fila.end(),
+                                    [&](const Form* f) { return Contiene(*f, &controllo); });
+  return trovata == scrivania.fila.end() ? nullptr : *trovata;
+}
+
+bool Usabile(const Form& form) {
+  const Caricata* const caricata = Cerca(form);
+  return scrivania.messaggi == 0 && caricata != nullptr && InVista(*caricata);
+}
+
+Controllo* Fuoco() {
+  return FormAttiva() == nullptr ? nullptr : FuocoDi(*FormAttiva());
+}
+
+Controllo* FuocoDi(const Form& form) {
+  return Cerca(form)->fuoco;
+}
+
+bool Occupato() {
+  return scrivania.gestori > 0 || (!scrivania.modali.empty() && scrivania.modali.back().finito);
+}
+
+bool ARiposo() {
+  return scrivania.gestori == 0 && scrivania.modali.empty();
+}
+
+int LivelloModale() {
+  return static_cast<int>(scrivania.modali.size());
+}
+
+bool MessaggioAperto() {
+  return scrivania.messaggi > 0;
+}
+
+int LoopAperti() {
+  return scrivania.loop;
+}
+
+const std::vector<Contenuto>& Descritti(const Form& form) {
+  return Cerca(form)->descritti;
+}
+
+void CaricaForm(Form& form) {
+  if (Cerca(form) != nullptr) return;
+  Caricata& caricata = scrivania.caricate.emplace_back(Caricata{&form, ++scrivania.caricamenti, {}});
+  for (Controllo* c : form.controlli) {
+    if (c->tipo == TipoControllo::Casella) c->testo.resize(std::min(c->testo.size(), kMassimoCasella));
+    c->scelte.resize(c->voci.size());
+    caricata.descritti.push_back({c->testo, c->voci, c->scelte});
+  }
+  form.Form_Load();
+}
+
+void MostraForm(Form& form) {
+  CaricaForm(form);
+  if (Caricata* const caricata = Cerca(form)) Mostra(*caricata, false);
+}
+
+void MostraFormModale(Form& form) {
+  CaricaForm(form);
+  Caricata* const caricata = Cerca(form);
+  if (caricata == nullptr) return;
+  FaTasto();
+  const CicloModale& ciclo = scrivania.modali.emplace_back(CicloModale{&form});
+  ++scrivania.loop;
+  Mostra(*caricata, true);
+  const int sospesi = std::exchange(scrivania.gestori, 0);
+  Riprendi();
+  Attende(ciclo.finito);
+  scrivania.gestori = sospesi;
+  scrivania.modali.pop_back();
+  for (Caricata& altra : scrivania.caricate) altra.livello = std::min(altra.livello, scrivania.modali.size());
+}
+
+void NascondiForm(Form& form) {
+  if (Visibile(form)) Leva(*Cerca(form), false);
+}
+
+void ScaricaForm(Form& form) {
+  Caricata* const caricata = Cerca(form);
+  if (caricata == nullptr || caricata->inScarico) return;
+  caricata->inScarico = true;
+  form.Form_Unload();
+  const Caricata scaricata = std::move(*caricata);
+  scrivania.caricate.remove_if([&](const Caricata& c) { return &c == caricata; });
+  if (scaricata.mostrata) Leva(scaricata, true);
+  for (std::size_t i = 0; i < scaricata.descritti.size(); ++i) {
+    Controllo& c = *form.controlli[i];
+    std::tie(c.testo, c.voci, c.scelte) =
+        std::tie(scaricata.descritti[i].testo, scaricata.descritti[i].voci, scaricata.descritti[i].scelte);
+  }
+}
+
+void ImpostaTesto(Controllo& controllo, const Testo& testo) {
+  const Testo prima = std::exchange(
+      controllo.testo, controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo);
+  Aggiorna(controllo, controllo.testo != prima);
+}
+
+void ImpostaVoci(Controllo& lista, std::vector<Testo> voci) {
+  const std::vector<Testo> prima = std::exchange(lista.voci, std::move(voci));
+  lista.scelte.assign(lista.voci.size(), false);
+  Aggiorna(lista, lista.voci != prima);
+}
+
+// As a handler: timers wait until the box has gone.
+Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, Bottoni bottoni) {
+  ++scrivania.gestori, ++scrivania.messaggi, ++scrivania.loop;
+  const Risposta risposta = Chiede({testo, titolo, icona, bottoni});
+  --scrivania.gestori, --scrivania.messaggi;
+  Riprendi();
+  return risposta;
+}
+
+void Sgombera() {
+  FermaTimer();
+  scrivania = {};
+}
+
+}  // namespace tarvel
