@@ -89,11 +89,9 @@ void EseguiType(const Evento& e) {
 }
 
 void EseguiPress(const Evento& e) {
-  static constexpr std::pair<std::string_view, int> kTasti[] = {{"backspace", kTastoIndietro},
-                                                                {"delete", kTastoCanc},
-                                                                {"enter", kTastoInvio},
-                                                                {"escape", kTastoEsc},
-                                                                {"tab", kTastoTab}};
+  static constexpr std::pair<std::string_view, int> kTasti[] = {
+      {"backspace", kTastoIndietro}, {"delete", kTastoCanc}, {"down", kTastoGiu}, {"enter", kTastoInvio},
+      {"escape", kTastoEsc},         {"tab", kTastoTab},     {"up", kTastoSu}};
   for (const auto& [nome, tasto] : kTasti)
     if (nome == e.argomenti.front()) return e.Esigi(Premi(tasto));
   e.Errore("no such key " + Citazione(e.argomenti.front()));
@@ -106,7 +104,8 @@ void EseguiPaste(const Evento& e) {
 
 void EseguiSelect(const Evento& e) {
   Controllo& lista = TrovaLista(e);
-  e.Esigi(Seleziona(lista, Voci(e, lista)));
+  const std::vector<int> voci = Voci(e, lista);
+  e.Esigi((voci.size() < 2 || lista.selezioneEstesa) && Seleziona(lista, voci));
 }
 
 void EseguiDblclick(const Evento& e) {

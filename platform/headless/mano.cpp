@@ -44,6 +44,15 @@ void BattiInCasella(Controllo& casella, int tasto) {
   }
 }
 
+// The entry beside the selected one; the first where none is.
+void ScorriLista(Controllo& lista, int tasto) {
+  if ((tasto != kTastoSu && tasto != kTastoGiu) || lista.voci.empty()) return;
+  const auto scelta = std::find(lista.scelte.begin(), lista.scelte.end(), true);
+  const int prima = scelta == lista.scelte.end() ? -1 : static_cast<int>(scelta - lista.scelte.begin());
+  const int dopo = prima + (tasto == kTastoSu && prima >= 0 ? -1 : 1);
+  Seleziona(lista, {std::clamp(dopo, 0, static_cast<int>(lista.voci.size()) - 1)});
+}
+
 bool VaiAlProssimo(const Controllo& da) {
   const Form& form = *FormDi(da);
   auto c = std::find(form.controlli.begin(), form.controlli.end(), &da);
@@ -91,8 +100,9 @@ bool Premi(int tasto) {
   if (controllo == nullptr || !Prendibile(*controllo)) return false;
   if (tasto == kTastoTab) return VaiAlProssimo(*controllo);
   if (controllo->tipo == TipoControllo::Casella) return BattiInCasella(*controllo, tasto), true;
+  if (controllo->tipo == TipoControllo::Lista) return ScorriLista(*controllo, tasto), true;
   const bool preme = tasto == kTastoInvio || tasto == ' ';
-  if (controllo->tipo == TipoControllo::Bottone && preme) Esegui(controllo->click);
+  if (preme) Esegui(controllo->click);
   return true;
 }
 
@@ -121,10 +131,12 @@ bool Digita(Controllo& casella, const Testo& testo) {
 bool Seleziona(Controllo& lista, const std::vector<int>& voci) {
   const auto fuori = [&](int voce) { return voce < 0 || voce >= static_cast<int>(lista.voci.size()); };
   if (lista.tipo != TipoControllo::Lista || !Vai(lista)) return false;
-  if (std::any_of(voci.begin(), voci.end(), fuori) || (voci.size() > 1 && !lista.selezioneEstesa))
-    return false;
+  if (std::any_of(voci.begin(), voci.end(), fuori)) return false;
   lista.scelte.assign(lista.voci.size(), false);
-  for (const int voce : voci) lista.scelte[static_cast<std::size_t>(voce)] = true;
+  for (const int voce : voci) {
+    if (!lista.selezioneEstesa) lista.scelte.assign(lista.voci.size(), false);
+    lista.scelte[static_cast<std::size_t>(voce)] = true;
+  }
   return true;
 }
 

@@ -98,6 +98,7 @@ class UtenteQt : public Utente {
   void Premi(int tasto) override {
     QWindow* const finestra = QApplication::focusWindow();
     if (tasto == kTastoIncolla) return Batti(finestra, Qt::Key_V, {}, Qt::ControlModifier);
+    if (tasto == 24 || tasto == 25) return Batti(finestra, tasto == 24 ? Qt::Key_Up : Qt::Key_Down, {});
     if (tasto == kTastoCanc) return Batti(finestra, Qt::Key_Delete, "\x7F");
     Batti(finestra, static_cast<char>(tasto));
   }

@@ -74,6 +74,14 @@ void FaTasto() {
   if (const auto tasto = std::exchange(scrivania.tasto, {})) tasto();
 }
 
+// What a form describes, as far as it can be shown.
+void Pareggia(Form& form) {
+  for (Controllo* c : form.controlli) {
+    if (c->tipo == TipoControllo::Casella) c->testo.resize(std::min(c->testo.size(), kMassimoCasella));
+    c->scelte.resize(c->voci.size());
+  }
+}
+
 // What was saved, in a sentence.
 Testo PrimaDelMessaggio() {
   try {
@@ -243,12 +251,10 @@ const std::vector<Contenuto>& Descritti(const Form& form) {
 void CaricaForm(Form& form) {
   if (Cerca(form) != nullptr) return;
   Caricata& caricata = scrivania.caricate.emplace_back(Caricata{&form, ++scrivania.caricamenti, {}});
-  for (Controllo* c : form.controlli) {
-    if (c->tipo == TipoControllo::Casella) c->testo.resize(std::min(c->testo.size(), kMassimoCasella));
-    c->scelte.resize(c->voci.size());
-    caricata.descritti.push_back({c->testo, c->voci, c->scelte});
-  }
+  Pareggia(form);
+  for (const Controllo* c : form.controlli) caricata.descritti.push_back({c->testo, c->voci, c->scelte});
   form.Form_Load();
+  Pareggia(form);
 }
 
 void MostraForm(Form& form) {
