@@ -36,7 +36,7 @@ righe del copione:
   type C TESTO            scrive il testo nella casella C, al posto di quello che ha
   focus C, enter C        va nella casella C; vi preme Invio
   click C                 fa clic su C
-  press TASTO             backspace, delete, enter, escape o tab, dove si trova
+  press TASTO             backspace, delete, down, enter, escape, tab o up, dove si trova
   paste C TESTO           incolla il testo nella casella C
   select C N..., dblclick C N  sceglie voci di un elenco, da 1
   answer R...             le risposte ai prossimi messaggi: ok, yes o no

@@ -17,12 +17,11 @@ const Riga kRighe[] = {
      "perso A 'abc'; load L; perso P; perso Premi; perso P; perso Premi; tasto C 120 '1'"},
     {"a form that was hidden has the focus at its first control again, the text of which is selected",
      [](Palco& s) {
-       s.f.controlli = {&s.a, &s.p};
-       s.p.click = [&s] { NascondiForm(s.f), MostraForm(s.f); };
-       s.p.fuocoPerso = [&s] { s.u.Annota("perso P"); };
-       return std::vector{s.Clicca(s.p), s.Preme("x"), s.Legge(s.a)};
+       s.p.click = [&s] { MostraForm(s.l); };
+       s.premi.click = [&s] { NascondiForm(s.f), MostraForm(s.f); };
+       return std::vector{s.Clicca(s.p), s.Clicca(s.premi), s.Preme("x"), s.Legge(s.a)};
      },
-     "perso A 'abc'; tasto A 120 'abc'; x"},
+     "perso A 'abc'; load L; tasto A 120 'abc'; x"},
     {"a form shown and hidden by one handler has had the focus: it comes back without an event",
      [](Palco& s) {
        s.a.tasto = [&s](int) { MostraForm(s.l), NascondiForm(s.l); };
@@ -90,6 +89,16 @@ const Riga kRighe[] = {
                                  s.Clicca(s.b)};
      },
      "perso A 'abc'; load L; nascosta; tasto A 55 'abc'; unload L; via; perso A '7'"},
+    {"the owner of a modal form may become modal above it",
+     [](Palco& s) {
+       s.p.click = s.premi.click = [&s] {
+         MostraFormModale(s.u.Vede(s.l) ? s.f : s.l);
+         s.u.Annota("via");
+       };
+       return std::vector<Passo>{s.Clicca(s.p), s.Clicca(s.premi), s.Clicca(s.premi),
+                                 s.Clicca(s.b), s.Chiude(s.f),     s.Chiude(s.l)};
+     },
+     "perso A 'abc'; load L; perso B '12'; unload F; via; unload L; via"},
     {"a control hears that it lost the focus before a timer fires that fell due with it",
      [](Palco& s) {
        s.timer.scatto = [&s] {
