@@ -96,9 +96,9 @@ const Riga kRighe[] = {
          s.u.Annota("via");
        };
        return std::vector<Passo>{s.Clicca(s.p), s.Clicca(s.premi), s.Clicca(s.premi),
-                                 s.Clicca(s.b), s.Chiude(s.f),     s.Chiude(s.l)};
+                                 s.Clicca(s.b), s.Chiude(s.f),     s.Preme("\tx")};
      },
-     "perso A 'abc'; load L; perso B '12'; unload F; via; unload L; via"},
+     "perso A 'abc'; load L; perso B '12'; unload F; via; tasto C 120 '1'"},
     {"a control hears that it lost the focus before a timer fires that fell due with it",
      [](Palco& s) {
        s.timer.scatto = [&s] {
