@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/headless/ambiente.h"
 #include "platform/headless/contenuto.h"
-#include "platform/headless/programmi.h"
 #include "platform/headless/verbale.h"
 
 namespace tarvel {

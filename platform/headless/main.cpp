@@ -11,8 +11,8 @@
 #include "app/tarvel1.h"
 #include "platform/comune/argomenti.h"
 #include "platform/comune/desktop/scrivania.h"
-#include "platform/headless/avvio.h"
-#include "platform/headless/regione.h"
+#include "platform/headless/ambiente.h"
+#include "platform/headless/copione.h"
 
 namespace {
 

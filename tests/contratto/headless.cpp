@@ -2,11 +2,11 @@
 #include <algorithm>
 
 #include "platform/comune/argomenti.h"
-#include "platform/headless/avvio.h"
+#include "platform/headless/ambiente.h"
 #include "platform/headless/contenuto.h"
+#include "platform/headless/copione.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/mano.h"
-#include "platform/headless/regione.h"
 #include "tests/contratto/utente.h"
 
 namespace tarvel::contratto {
