@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <deque>
 #include <list>
-#include <new>
 #include <tuple>
 #include <utility>
 
@@ -39,8 +38,6 @@ struct Scrivania {
 };
 
 Scrivania scrivania;
-Testo rigaComando;
-std::function<Testo()> salva;
 
 Caricata* Cerca(const Form& form) {
   const auto trovata = std::find_if(scrivania.caricate.begin(), scrivania.caricate.end(),
@@ -82,28 +79,6 @@ void Pareggia(Form& form) {
   }
 }
 
-// What was saved, in a sentence.
-Testo PrimaDelMessaggio() {
-  try {
-    return salva ? salva() : Testo();
-  } catch (const ErroreFatale&) {
-  } catch (const std::bad_alloc&) {
-  }
-  return {};
-}
-
-// The message of the fatal error that ended the handler; "" where it has run to its end.
-Testo ErroreDi(const std::function<void()>& gestore) {
-  try {
-    gestore();
-    return {};
-  } catch (const ErroreFatale& errore) {
-    return "Errore irreversibile: " + errore.Messaggio();
-  } catch (const std::bad_alloc&) {
-    return "Errore irreversibile: memoria esaurita";
-  }
-}
-
 // The control that had the focus loses it to this one of a form that comes to the front.
 void DaiFuoco(Caricata& caricata, Controllo* controllo) {
   Controllo* const prima = Fuoco();
@@ -136,26 +111,9 @@ void Leva(const Caricata& caricata, bool scaricata) {
 
 }  // namespace
 
-void ImpostaRigaComando(Testo riga) {
-  rigaComando = std::move(riga);
-}
-
-Testo RigaComando() {
-  return rigaComando;
-}
-
-void PrimaDellaFine(std::function<Testo()> daSalvare) {
-  salva = std::move(daSalvare);
-}
-
 void Esegui(const std::function<void()>& gestore) {
   ++scrivania.gestori;
-  if (Testo errore = gestore ? ErroreDi(gestore) : Testo(); !errore.empty()) {
-    if (const Testo salvato = PrimaDelMessaggio(); !salvato.empty())
-      errore += (errore.ends_with('.') ? " " : ". ") + salvato;
-    MostraMessaggio(errore, kTitoloProgramma, Icona::Stop);
-    TerminaProgramma(1);
-  }
+  if (gestore) Smista(gestore);
   --scrivania.gestori;
   Riprendi();
 }
@@ -295,18 +253,6 @@ void ScaricaForm(Form& form) {
     std::tie(c.testo, c.voci, c.scelte) =
         std::tie(scaricata.descritti[i].testo, scaricata.descritti[i].voci, scaricata.descritti[i].scelte);
   }
-}
-
-void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  const Testo prima = std::exchange(
-      controllo.testo, controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo);
-  Aggiorna(controllo, controllo.testo != prima);
-}
-
-void ImpostaVoci(Controllo& lista, std::vector<Testo> voci) {
-  const std::vector<Testo> prima = std::exchange(lista.voci, std::move(voci));
-  lista.scelte.assign(lista.voci.size(), false);
-  Aggiorna(lista, lista.voci != prima);
 }
 
 // As a handler: timers wait until the box has gone.

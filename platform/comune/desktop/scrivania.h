@@ -17,8 +17,9 @@ namespace tarvel {
 /// The process's arguments, for RigaComando.
 void ImpostaRigaComando(Testo riga);
 
-/// Runs a handler, then what waited for its end. A fatal error in it is reported by one message and ends the
-/// program, status 1.
+/// A fatal error in the handler is reported by one message and ends the program, status 1.
+void Smista(const std::function<void()>& gestore);
+/// So run, if there is one; then what waited for its end. For every event that is not told otherwise.
 void Esegui(const std::function<void()>& gestore);
 
 /// The user has reached a control (nullptr: none) by mouse or keyboard, and its form comes to the front: the
