@@ -66,14 +66,30 @@ const Riga kRighe[] = {
      "perso A 'abc'; load L; tasto C 120 '1'; perso C 'x'; unload L"},
     {"what a modal form has shown is kept from the user by the next one",
      [](Palco& s) {
-       static FormDiario* m = nullptr;
-       m = new FormDiario(s.u, "M");  // outlives the scene
-       Controllo& mostra = m->Bottone("Mostra", [&s] { MostraForm(s.l); });
-       s.p.click = [] { MostraFormModale(*m); };
-       return std::vector<Passo>{s.Clicca(s.p), s.Clicca(mostra),  s.Chiude(*m), s.Clicca(s.premi),
-                                 s.Clicca(s.p), s.Clicca(s.premi), s.Chiude(*m), s.Clicca(s.premi)};
+       s.p.click = [&s] { MostraFormModale(s.m); };
+       return std::vector<Passo>{s.Clicca(s.p), s.Clicca(s.mostraL), s.Chiude(s.m), s.Clicca(s.premi),
+                                 s.Clicca(s.p), s.Clicca(s.premi),   s.Chiude(s.m), s.Clicca(s.premi)};
      },
      "perso A 'abc'; load M; load L; unload M; click Premi; load M; unload M; click Premi"},
+    {"the caller of a modal form goes on before a control hears that it lost the focus",
+     [](Palco& s) {
+       s.p.click = [&s] {
+         MostraFormModale(s.m);
+         s.u.Annota("via");
+       };
+       s.premi.fuocoPerso = [&s] { s.u.Annota("perso Premi"); };
+       s.premi.click = [&s] { ScaricaForm(s.m), MostraForm(s.f); };
+       return std::vector<Passo>{s.Clicca(s.p), s.Clicca(s.mostraL), s.Clicca(s.premi)};
+     },
+     "perso A 'abc'; load M; load L; unload M; via; perso Premi"},
+    {"a control whose form has gone does not hear that it lost the focus",
+     [](Palco& s) {
+       s.p.click = [&s] { MostraForm(s.l); };
+       s.premi.fuocoPerso = [&s] { s.u.Annota("perso Premi"); };
+       s.premi.click = [&s] { MostraForm(s.f), NascondiForm(s.l), MostraForm(s.l); };
+       return std::vector{s.Clicca(s.p), s.Clicca(s.premi), s.Annota("poi")};
+     },
+     "perso A 'abc'; load L; poi"},
     {"a modal form outlives the one that it belongs to, and may become its owner's",
      [](Palco& s) {
        s.p.click = [&s] {
@@ -117,18 +133,16 @@ const Riga kRighe[] = {
      "perso A 'abc'; load L; messaggio nessuna ok \"T\" \"m\" -> ok; perso P; scatto"},
     {"starting a timer that runs does not put its firing off",
      [](Palco& s) {
-       static Temporizzatore altro;
-       altro = {};
        s.timer.intervallo = 300;
-       altro.intervallo = 400;
-       for (Temporizzatore* t : {&s.timer, &altro})
+       s.altro.intervallo = 400;
+       for (Temporizzatore* t : {&s.timer, &s.altro})
          t->scatto = [&s, t] {
            s.u.Annota(std::to_string(t->intervallo));
            AbilitaTimer(*t, false);
          };
        s.p.click = [&s] {
          for (int volte = 2; volte > 0; --volte) {
-           for (Temporizzatore* t : {&altro, &s.timer})
+           for (Temporizzatore* t : {&s.altro, &s.timer})
              if (volte == 2 || t == &s.timer) AbilitaTimer(*t, true);
            MostraMessaggio("m", "T", Icona::Nessuna);
          }

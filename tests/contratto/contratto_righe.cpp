@@ -61,8 +61,8 @@ const Riga kRighe[] = {
      [](Palco& s) {
        s.a.tasto = [&s](int) { s.u.Annota(std::to_string(s.a.testo.size())); };
        s.a.fuocoPerso = {};
-       ImpostaTesto(s.a, Testo(40000, '1'));
-       return std::vector{s.Clicca(s.a), s.Preme("xy")};
+       const Passo imposta = [&s] { ImpostaTesto(s.a, Testo(40000, '1')); };
+       return std::vector{imposta, s.Clicca(s.a), s.Preme("xy")};
      },
      "32767; 32767"},
     {"Enter and Space press the button that has the focus; '&' is one",
@@ -91,10 +91,13 @@ const Riga kRighe[] = {
          c->fuocoPerso = {};
        }
        s.a.testo = Testo(40000, '1');
-       s.f.alCaricamento = [&s] { s.b.testo = Testo(40000, '2'); };
+       s.f.alCaricamento = [&s] {
+         s.a.tasto(0);
+         s.b.testo = Testo(40000, '2');
+       };
        return std::vector{s.Clicca(s.a), s.Preme("x"), s.Clicca(s.b), s.Preme("\by")};
      },
-     "32767; 32767; 32766"},
+     "32767; 32767; 32767; 32766"},
     {"Tab passes over a label; after the last control it comes to the first",
      [](Palco& s) {
        s.l.Etichetta("E");

@@ -9,15 +9,16 @@
 
 namespace tarvel::contratto {
 
-// F is the main form; L is shown by whichever scene wants it.
+// F is the main form; L and M are shown by whichever scene wants them.
 struct Palco : Passi {
   explicit Palco(Utente& utente) : Passi{utente} {}
 
-  FormDiario f{u, "F"}, l{u, "L"};
+  FormDiario f{u, "F"}, l{u, "L"}, m{u, "M"};
   Controllo &a = f.Casella("A", "abc"), &b = f.Casella("B", "12"), &p = f.Bottone("P&Q"),
             &una = f.Lista("Una", false), &tante = f.Lista("Tante", true);
   Controllo &premi = l.Bottone("Premi"), &dentro = l.Casella("C", "1");
-  Temporizzatore timer;
+  Controllo& mostraL = m.Bottone("MostraL", [this] { MostraForm(l); });
+  Temporizzatore timer, altro;
 };
 
 struct Riga {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <iterator>
 #include <list>
 #include <tuple>
 #include <utility>
@@ -53,8 +54,10 @@ bool Contiene(const Form& form, const Controllo* controllo) {
   return std::find(form.controlli.begin(), form.controlli.end(), controllo) != form.controlli.end();
 }
 
-bool InVista(const Caricata& caricata) {
-  return caricata.livello >= scrivania.modali.size() && Visibile(*caricata.form);
+// A modal form, shown later and still there, keeps it from the user.
+bool Bloccata(const Caricata& caricata) {
+  return std::any_of(std::next(scrivania.modali.begin(), std::ptrdiff_t(caricata.livello)),
+                     scrivania.modali.end(), [](const CicloModale& ciclo) { return !ciclo.finito; });
 }
 
 // What has waited for the handlers' end, unless the loop's caller goes on first.
@@ -91,7 +94,7 @@ void DaiFuoco(Caricata& caricata, Controllo* controllo) {
 void Mostra(Caricata& caricata, bool modale) {
   Form& form = *caricata.form;
   const bool nuova = !Visibile(form);
-  if (!nuova && !modale && !InVista(caricata)) return;
+  if (!nuova && !modale && Bloccata(caricata)) return;
   Form* const davanti = FormAttiva();
   const auto primo = std::find_if(form.controlli.begin(), form.controlli.end(),
                                   [](const Controllo* c) { return c->tipo != TipoControllo::Etichetta; });
@@ -171,7 +174,7 @@ Form* FormDi(const Controllo& controllo) {
 
 bool Usabile(const Form& form) {
   const Caricata* const caricata = Cerca(form);
-  return scrivania.messaggi == 0 && caricata != nullptr && InVista(*caricata);
+  return scrivania.messaggi == 0 && caricata != nullptr && Visibile(form) && !Bloccata(*caricata);
 }
 
 Controllo* Fuoco() {
@@ -260,7 +263,6 @@ Risposta MostraMessaggio(const Testo& testo, const Testo& titolo, Icona icona, B
   ++scrivania.gestori, ++scrivania.messaggi, ++scrivania.loop;
   const Risposta risposta = Chiede({testo, titolo, icona, bottoni});
   --scrivania.gestori, --scrivania.messaggi;
-  Riprendi();
   return risposta;
 }
 
