@@ -16,8 +16,8 @@
 // then whichever the user goes to by mouse or Tab, on any form that can be used. When it changes
 // hands, `fuocoPerso` of the control that had it fires first, before any event of the new one
 // (a button's `click` finds the value of the box just left already stored; where that handler shows
-// a message the click, on whichever form, counts once it is answered; where it shows another form or
-// takes the clicked one away, the click is lost). The close box of the
+// a message or a modal form the click, on whichever form, counts once that has gone; where it shows another
+// form or takes the clicked one away, the click is lost). The close box of the
 // form that holds the focus makes its control lose it before Form_Unload, so that a value just
 // typed is not lost; that of another form takes none away. A message box does not move the focus, nor does
 // another program that comes to the front: when this one comes back the same control has the keyboard,

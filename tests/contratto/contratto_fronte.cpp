@@ -225,6 +225,12 @@ const Riga kRighe[] = {
        return std::vector{s.Sceglie(s.tante, {1}), s.Legge(s.tante)};
      },
      "perso A 'abc'; a|*b"},
+    {"a click counts once the modal form has gone that the control left has shown",
+     [](Palco& s) {
+       s.a.fuocoPerso = [&s] { MostraFormModale(s.l); };
+       return std::vector<Passo>{s.Clicca(s.p), s.Chiude(s.l)};
+     },
+     "load L; unload L; click P&Q"},
     {"a click is lost where the control left takes the form away, or shows another one",
      [](Palco& s) {
        s.a.fuocoPerso = [&s] { MostraForm(s.l); };
