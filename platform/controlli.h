@@ -4,7 +4,7 @@
 //
 // All positions and sizes are in twips (1/1440 inch), relative to the form's client area. A platform
 // turns them into pixels by one factor for the whole program, 1/15 or more; edges are rounded, not
-// sizes, so that neighbours in twips are neighbours in pixels.
+// sizes, so that neighbours in twips are neighbours in pixels. Character cells are too coarse for it.
 //
 // Keys of a box. `tasto` fires for every character typed ('?' for one that the code page lacks), for
 // Enter, Esc and Backspace, always; once, with a stand-in code, for any other change that the user
@@ -12,8 +12,10 @@
 // kTastoIncolla where text arrives (paste, also of nothing; drop; undo). Arrows, Tab, Alt or Ctrl with
 // a letter (cut, paste and undo apart) and a Delete that has nothing to delete are no events. A key acts
 // on the text as its handler has left it, and is done before anything else fires: where the handler
-// has shown another form, the box loses the focus with the changed text. Text that the program sets is
-// not selected and has the caret at its end. Enter and Esc change no text, press no button and close
+// has shown another form, modally or not, the box loses the focus with the changed text. Where it has
+// unloaded the form of the box the key is lost, also if it has shown that form again. Text that the
+// program sets is not selected, has the caret at its end and keeps its control characters; what the user
+// types, pastes or drops comes without them. Enter and Esc change no text, press no button and close
 // no form.
 #pragma once
 
@@ -51,14 +53,15 @@ struct Carattere {
 /// its font or more is a note, wrapped at blanks; any other is one line, shortened in the middle where
 /// even small letters do not fit, the whole text then shown on request (as a tool tip).
 /// Casella: white, one line, at most kMassimoCasella characters: what exceeds them is left out, whoever
-/// writes it. Reached by Tab or by its form's being shown its whole text is selected, by the mouse the
-/// caret stands where it was clicked. Text that the program has set, and text that the keyboard has left, is
-/// shown from its beginning; while the user types, or moves the caret, the caret is in view. Where text is
-/// out of sight at an end, a mark at that edge says so, over the letters, which stay as they are. Its tool
-/// tip says what it is and, where the text does not fit, the whole of it (Suggerimento,
-/// platform/comune/casella.h). Tool tips are plain text.
-/// Lista: white. A click or an arrow selects one entry; with selezioneEstesa Shift and Ctrl select
-/// several. Reaching it selects nothing; Enter, Esc and a click beside the entries change nothing.
+/// writes or describes it. Reached by Tab or by its form's being shown its whole text is selected, by the
+/// mouse the caret stands where it was clicked. Text that the program has set, and text that the keyboard has
+/// left, is shown from its beginning; while the user types, or moves the caret, the caret is in view. Where
+/// text is out of sight at an end, a mark at that edge says so, over the letters, which stay as they are. Its
+/// tool tip says what it is and, where the text does not fit, the whole of it (Suggerimento,
+/// platform/comune/desktop/casella.h). Tool tips are plain text.
+/// Lista: white. A click selects one entry, and so does an arrow: the first one the first entry. With
+/// selezioneEstesa Shift and Ctrl select several, without it they change nothing about a click. Reaching
+/// it selects nothing; Enter, Esc and a click beside the entries change nothing.
 enum class TipoControllo { Bottone, Etichetta, Casella, Lista };
 
 // Codes of a box's key event that are no character's.
@@ -80,8 +83,10 @@ struct Controllo {
   Testo descrizione;             // boxes: what it is, to be read in its tool tip and as its accessible name
   bool selezioneEstesa = false;  // lists: several entries at once (click, Shift, Ctrl)
 
-  // State, at first part of the description. The program changes it only through the calls of
-  // platform/desktop.h; the platform keeps it equal to what the user sees before it fires an event.
+  // State, at first part of the description: what stands here before Form_Load is what comes back when the
+  // form is unloaded, what Form_Load writes is its content until then. Afterwards the program changes it
+  // only through the calls of platform/desktop.h; the platform keeps it equal to what the user sees before
+  // it fires an event.
   Testo testo;               // caption of a button or label, text of a box
   std::vector<Testo> voci;   // entries of a list
   std::vector<bool> scelte;  // one flag an entry, sized by the platform from the form's load on; at most
@@ -126,9 +131,10 @@ struct Temporizzatore {
 
 /// A window. Borders are fixed (not resizable), with a close box; Alt+F4, and whatever else the host
 /// has for it, is the close box, Esc is not. A host may let its user minimise it: that is no event and
-/// moves no focus. The first control of `controlli` that can have the focus gets it when the form is
-/// shown; Tab and Shift+Tab follow their order, round and round. Where controls overlap labels lie
-/// below, and of two others the later one is on top; the lines lie below all.
+/// moves no focus. The first control of `controlli` that can have the focus gets it whenever the form
+/// comes to the screen; one that is there already keeps its own. Tab and Shift+Tab follow their order, round
+/// and round. Where controls overlap labels lie below, and of two others the later one is on top; the lines
+/// lie below all.
 class Form {
  public:
   Form() = default;

@@ -3,7 +3,8 @@
 //
 // Events. The program is single-threaded: a handler runs to its end before the next event is
 // taken, except that a modal form or a message box, shown by a handler, runs a loop of its own
-// until it goes. A handler's ErroreFatale is caught by the loop that fired it: what PrimaDellaFine
+// until it goes. A handler's ErroreFatale, that of a Form_Load or Form_Unload which it brought about
+// included, is caught by the loop that fired it: what PrimaDellaFine
 // registered, one message with the stop icon, the title kTitoloProgramma and what failed where, then
 // TerminaProgramma(1).
 //
@@ -15,22 +16,24 @@
 // then whichever the user goes to by mouse or Tab, on any form that can be used. When it changes
 // hands, `fuocoPerso` of the control that had it fires first, before any event of the new one
 // (a button's `click` finds the value of the box just left already stored; where that handler shows
-// a message the click, on whichever form, counts once it is answered). The close box of the
+// a message or a modal form the click, on whichever form, counts once that has gone; where it shows another
+// form or takes the clicked one away, the click is lost). The close box of the
 // form that holds the focus makes its control lose it before Form_Unload, so that a value just
-// typed is not lost. A message box does not move the focus, nor does another program that comes to
-// the front: when this one comes back the same control has the keyboard, without an event. Labels
-// never have the focus.
-// A form shown by a handler takes the focus at once, but the control that had it hears of that only
-// when the program next waits for its user (in the loop of the form itself, if modal), before any
-// other event. When a form goes otherwise than by its close box, its control loses the focus
-// without an event; whenever one goes, the focus returns, without an event, to the control that
-// had it last on the form that is then in front.
+// typed is not lost; that of another form takes none away. A message box does not move the focus, nor does
+// another program that comes to the front: when this one comes back the same control has the keyboard,
+// without an event. Labels never have the focus. A form shown by a handler takes the focus at once, but the
+// control that had it hears of that only when the program next waits for its user (in the loop of the form
+// itself, if modal), before any other event, a timer's included; also where that form has gone again
+// meanwhile. When a form goes otherwise than by its close box, its control loses the focus without an event;
+// whenever one goes, the focus returns, without an event, to the control that had it last on the form that is
+// then in front, with its caret and selection as they were.
 //
 // Modality. While a modal form is shown only it, and what its handlers show, can be used. It belongs
 // to the form in front of which it was shown: it stays above that one, is minimised and comes back
-// with it, never alone. A form that is on the screen already becomes modal where it stands, with its
-// focus; shown modally twice, both callers go on when it goes, the later one first. While a message box is
-// open nothing else can be used.
+// with it, never alone; when that one goes, or becomes modal itself, it stays. A form that it keeps from
+// the user stays so, and below it, also where a handler shows it again. A form that is on the screen already
+// becomes modal where it stands, with its focus; shown modally twice, both callers go on when it goes, the
+// later one first. While a message box is open nothing else can be used.
 #pragma once
 
 #include "base/errore.h"
@@ -58,9 +61,9 @@ void MostraForm(Form& form);
 void MostraFormModale(Form& form);
 /// Takes the form off the screen; it stays loaded and keeps its controls' state.
 void NascondiForm(Form& form);
-/// Form_Unload, then the window goes. Nothing for a form that is not loaded or is being unloaded
-/// already. The close box does the same. Other forms stay. The controls then have the content they were
-/// described with again, for the next load.
+/// Form_Unload, with the window still there, then it goes. Nothing for a form that is not loaded or is being
+/// unloaded already. The close box does the same. Other forms stay. The controls then have the content they
+/// were described with again, for the next load.
 void ScaricaForm(Form& form);
 
 /// What the program does when a fatal error ends it, before the message is shown; the sentence that it
@@ -104,7 +107,7 @@ void ImpostaPuntatore(Puntatore puntatore);
 /// Starts or stops a timer; starting one that runs changes nothing. A timer never fires while a
 /// handler runs (its own included) or a message box is open: it fires when that is over, once however
 /// often it was due, and its interval counts from then. While a modal form waits for its user it does
-/// fire.
+/// fire, also one whose own handler has shown that form.
 void AbilitaTimer(Temporizzatore& timer, bool attivo);
 
 }  // namespace tarvel

@@ -1,19 +1,13 @@
-// Texts and entries of controls: the program's changes and what a user sees of them.
+// Texts and entries of controls, and what a user sees of them.
 #include "platform/headless/contenuto.h"
 
 #include <cstring>
-#include <utility>
 
 #include "platform/headless/desktop.h"
 #include "platform/headless/verbale.h"
 
-namespace tarvel {
-namespace headless {
+namespace tarvel::headless {
 namespace {
-
-void AnnotaSeVisibile(const Controllo& controllo) {
-  if (FormDi(controllo) != nullptr) Annota(RigaContenuto(controllo));
-}
 
 // Twips, as letters of a narrow face have them on average; the edges of a box take their part.
 bool CiSta(const Controllo& casella) {
@@ -26,10 +20,11 @@ bool CiSta(const Controllo& casella) {
 
 }  // namespace
 
-void MostraContenuti(const Form& form, const Descrizione& descritta) {
-  for (std::size_t i = 0; i < descritta.size(); ++i) {
+void MostraContenuti(const Form& form) {
+  for (std::size_t i = 0; i < Descritti(form).size(); ++i) {
     const Controllo& controllo = *form.controlli[i];
-    const bool diverso = controllo.testo != descritta[i].testo || controllo.voci != descritta[i].voci;
+    const auto& [testo, voci, scelte] = Descritti(form)[i];
+    const bool diverso = controllo.testo != testo || controllo.voci != voci;
     if (controllo.tipo != TipoControllo::Bottone && diverso) Annota(RigaContenuto(controllo));
   }
 }
@@ -52,24 +47,4 @@ Testo SuggerimentoDi(const Controllo& casella) {
   return Suggerimento(casella, CiSta(casella));
 }
 
-}  // namespace headless
-
-using namespace headless;
-
-void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  ScegliTutto(controllo, false);
-  MettiCursoreInVista(controllo, false);
-  const Testo tenuto = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
-  if (controllo.testo == tenuto) return;
-  controllo.testo = tenuto;
-  AnnotaSeVisibile(controllo);
-}
-
-void ImpostaVoci(Controllo& lista, std::vector<Testo> voci) {
-  const bool diverse = lista.voci != voci;
-  lista.voci = std::move(voci);
-  lista.scelte.assign(lista.voci.size(), false);
-  if (diverse) AnnotaSeVisibile(lista);
-}
-
-}  // namespace tarvel
+}  // namespace tarvel::headless

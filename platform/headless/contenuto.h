@@ -3,14 +3,13 @@
 
 #include <string>
 
-#include "platform/comune/casella.h"
-#include "platform/comune/descrizione.h"
+#include "platform/comune/desktop/casella.h"
 
 namespace tarvel::headless {
 
 /// A form has just been shown: a line for each box, label and list whose content is not the one it
 /// was described with.
-void MostraContenuti(const Form& form, const Descrizione& descritta);
+void MostraContenuti(const Form& form);
 
 /// The line of a control: text C "TEXT" or list C "..." "..."; C is FORM.C on a visible form that
 /// is not in front.

@@ -1,54 +1,19 @@
-// The script that plays the user: one event a line.
+// The script that plays the user: one event a line, and the run of a program under it.
 #pragma once
 
-#include <deque>
 #include <istream>
-#include <optional>
-#include <string>
-#include <vector>
+#include <ostream>
 
-#include "platform/headless/desktop.h"
-#include "platform/headless/timer.h"
+#include "platform/controlli.h"
 
 namespace tarvel::headless {
 
-/// What is wrong with the script, and in which line (from 1).
-struct ErroreCopione {
-  int riga;
-  std::string cosa;
-};
-
-/// Plays the events of a script. After the last one it takes leave: closes each modal form, then
-/// the main form, and lets the clock run until the program ends. Its lines are UTF-8, ended by LF or
-/// CR LF; a byte order mark is dropped. Whatever cannot be played is an ErroreCopione.
-class Copione {
- public:
-  Copione(std::istream& testo, Form& principale) : testo_(testo), principale_(principale) {}
-
-  void Agisce();
-  Risposta Risponde(const Messaggio& messaggio);
-
-  /// Once the program has ended by itself nothing may be left, neither an event nor an answer.
-  void ControllaResto();
-
- private:
-  struct RispostaPronta {
-    Risposta risposta;
-    int riga;
-  };
-
-  bool Leggi(std::string& riga);
-  std::optional<std::string> Prossima();
-  void PreparaRisposte(const std::vector<std::string>& risposte);
-  void ControllaRisposte() const;
-  void Congeda();
-
-  std::istream& testo_;
-  int numero_ = 0;  // of the line read last
-  Form& principale_;
-  std::deque<RispostaPronta> risposte_;
-  bool finito_ = false;
-  Durata attesaFinale_ = 0;
-};
+/// Runs the program whose main form is `principale`. The script plays the user; after its last event it takes
+/// leave: closes each modal form, then the main form, and lets the clock run until the program ends. Its
+/// lines are UTF-8, ended by LF or CR LF; a byte order mark is dropped. The transcript, its last line `end
+/// STATUS`, goes to `verbale`; what is wrong with the script, an event or an answer that is left included, to
+/// `errori`. Returns the status: the program's own (0 normal end, 1 start-up refused or fatal error), 2 for a
+/// mistake of the script.
+int Recita(Form& principale, std::istream& copione, std::ostream& verbale, std::ostream& errori);
 
 }  // namespace tarvel::headless

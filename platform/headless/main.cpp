@@ -10,8 +10,9 @@
 
 #include "app/tarvel1.h"
 #include "platform/comune/argomenti.h"
-#include "platform/headless/avvio.h"
-#include "platform/headless/regione.h"
+#include "platform/comune/desktop/scrivania.h"
+#include "platform/headless/ambiente.h"
+#include "platform/headless/copione.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ righe del copione:
   type C TESTO            scrive il testo nella casella C, al posto di quello che ha
   focus C, enter C        va nella casella C; vi preme Invio
   click C                 fa clic su C
-  press TASTO             backspace, delete, enter, escape o tab, dove si trova
+  press TASTO             backspace, delete, down, enter, escape, tab o up, dove si trova
   paste C TESTO           incolla il testo nella casella C
   select C N..., dblclick C N  sceglie voci di un elenco, da 1
   answer R...             le risposte ai prossimi messaggi: ok, yes o no
@@ -111,7 +112,7 @@ int main(int argc, char** argv) {
     }
     file.clear();  // an empty script is one too
   }
-  headless::ImpostaRigaComando(opzioni->rigaComando);
+  ImpostaRigaComando(opzioni->rigaComando);
   headless::ImpostaDecimale(opzioni->decimale);
   return headless::Recita(FormPrincipale(), opzioni->copione ? file : std::cin, std::cout, std::cerr);
 }

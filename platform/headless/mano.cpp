@@ -3,33 +3,31 @@
 
 #include <algorithm>
 
-#include "platform/comune/smista.h"
+#include "platform/comune/desktop/casella.h"
 #include "platform/headless/desktop.h"
 
 namespace tarvel::headless {
 namespace {
 
-bool HaFuoco(const Controllo& controllo) {
-  return Usabile(controllo) && Fuoco() == &controllo;
+bool Prendibile(const Controllo& controllo) {
+  const Form* form = FormDi(controllo);
+  return form != nullptr && Usabile(*form) && controllo.tipo != TipoControllo::Etichetta;
 }
 
-// The key's event, then what the key does to the text as the event's handler has left it: `nuovo`
-// takes the place of the selected text, or of the last characters. The key is done also where its
-// handler has taken the form away.
+// What the key does to the text as its handler has left it: `nuovo` takes the place of the selected text,
+// or of the last characters.
 void Modifica(Controllo& casella, int codice, std::size_t via, const Testo& nuovo) {
-  const Form& form = *FormDi(casella);
-  if (casella.tasto) Smista([&] { casella.tasto(codice); });
-  if (!Caricata(form)) return;
-  Testo& testo = casella.testo;
-  testo.resize(
-      TuttoScelto(casella) && (via > 0 || !nuovo.empty()) ? 0 : testo.size() - std::min(via, testo.size()));
-  testo += nuovo.substr(0, kMassimoCasella - testo.size());
-  if (via == 0 && nuovo.empty()) return;
-  ScegliTutto(casella, false);
-  MettiCursoreInVista(casella, true);
+  PremiInCasella(casella, {codice}, [&] {
+    if (via == 0 && nuovo.empty()) return;
+    Testo& testo = casella.testo;
+    testo.resize(TuttoScelto(casella) ? 0 : testo.size() - std::min(via, testo.size()));
+    testo += nuovo.substr(0, kMassimoCasella - testo.size());
+    ScegliTutto(casella, false);
+    MettiCursoreInVista(&casella);
+  });
 }
 
-void PremiInCasella(Controllo& casella, int tasto) {
+void BattiInCasella(Controllo& casella, int tasto) {
   switch (tasto) {
     case kTastoInvio:
     case kTastoEsc:
@@ -44,6 +42,15 @@ void PremiInCasella(Controllo& casella, int tasto) {
     default:
       return Modifica(casella, tasto, 0, Testo(1, static_cast<char>(tasto)));
   }
+}
+
+// The entry beside the selected one; the first where none is.
+void ScorriLista(Controllo& lista, int tasto) {
+  if ((tasto != kTastoSu && tasto != kTastoGiu) || lista.voci.empty()) return;
+  const auto scelta = std::find(lista.scelte.begin(), lista.scelte.end(), true);
+  const int prima = scelta == lista.scelte.end() ? -1 : static_cast<int>(scelta - lista.scelte.begin());
+  const int dopo = prima + (tasto == kTastoSu && prima >= 0 ? -1 : 1);
+  Seleziona(lista, {std::clamp(dopo, 0, static_cast<int>(lista.voci.size()) - 1)});
 }
 
 bool VaiAlProssimo(const Controllo& da) {
@@ -70,49 +77,39 @@ bool InVista(const Controllo& controllo) {
                       });
 }
 
-bool ClickBottone(const Controllo& bottone) {
-  if (bottone.click) Smista(bottone.click);
-  return true;
-}
-
 }  // namespace
 
-bool Usabile(const Controllo& controllo) {
-  const Form* form = FormDi(controllo);
-  return form != nullptr && Usabile(*form) && controllo.tipo != TipoControllo::Etichetta;
-}
-
 bool Vai(Controllo& controllo) {
-  if (!Usabile(controllo)) return false;
-  const Controllo* prima = Fuoco();
-  if (prima == &controllo) return true;
-  SpostaFuoco(*FormDi(controllo), &controllo);
-  if (prima != nullptr && prima->fuocoPerso) Smista(prima->fuocoPerso);
-  return HaFuoco(controllo);
+  if (!Prendibile(controllo)) return false;
+  if (Fuoco() == &controllo) return true;
+  ScegliTutto(controllo, false);
+  MettiCursoreInVista(nullptr);
+  return Raggiungi(*FormDi(controllo), &controllo);
 }
 
 bool Clicca(Controllo& controllo) {
-  if (controllo.tipo == TipoControllo::Lista || !Usabile(controllo) || !InVista(controllo)) return false;
+  if (controllo.tipo == TipoControllo::Lista || !Prendibile(controllo) || !InVista(controllo)) return false;
   if (!Vai(controllo)) return false;
   ScegliTutto(controllo, false);
-  return controllo.tipo != TipoControllo::Bottone || ClickBottone(controllo);
+  if (controllo.tipo == TipoControllo::Bottone) Esegui(controllo.click);
+  return true;
 }
 
 bool Premi(int tasto) {
   Controllo* const controllo = Fuoco();
-  if (controllo == nullptr || !Usabile(*controllo)) return false;
+  if (controllo == nullptr || !Prendibile(*controllo)) return false;
   if (tasto == kTastoTab) return VaiAlProssimo(*controllo);
-  if (controllo->tipo == TipoControllo::Casella) return PremiInCasella(*controllo, tasto), true;
+  if (controllo->tipo == TipoControllo::Casella) return BattiInCasella(*controllo, tasto), true;
+  if (controllo->tipo == TipoControllo::Lista) return ScorriLista(*controllo, tasto), true;
   const bool preme = tasto == kTastoInvio || tasto == ' ';
-  return controllo->tipo != TipoControllo::Bottone || !preme || ClickBottone(*controllo);
+  if (preme) Esegui(controllo->click);
+  return true;
 }
 
 bool Incolla(const Testo& testo) {
   Controllo* const casella = Fuoco();
-  if (casella == nullptr || !Usabile(*casella) || casella->tipo != TipoControllo::Casella) return false;
-  Testo pulito = testo;
-  std::erase_if(pulito, [](char c) { return c >= 0 && c < ' '; });
-  Modifica(*casella, kTastoIncolla, 0, pulito);
+  if (casella == nullptr || !Prendibile(*casella) || casella->tipo != TipoControllo::Casella) return false;
+  Modifica(*casella, kTastoIncolla, 0, SenzaControlli(testo));
   return true;
 }
 
@@ -125,8 +122,8 @@ bool Digita(Controllo& casella, const Testo& testo) {
   ScegliTutto(casella, true);
   if (testo.empty()) return Premi(kTastoIndietro);
   return std::all_of(testo.begin(), testo.end(), [&](char c) {
-    if (!HaFuoco(casella)) return false;
-    PremiInCasella(casella, static_cast<unsigned char>(c));
+    if (Fuoco() != &casella || !Prendibile(casella)) return false;
+    BattiInCasella(casella, static_cast<unsigned char>(c));
     return true;
   });
 }
@@ -134,26 +131,18 @@ bool Digita(Controllo& casella, const Testo& testo) {
 bool Seleziona(Controllo& lista, const std::vector<int>& voci) {
   const auto fuori = [&](int voce) { return voce < 0 || voce >= static_cast<int>(lista.voci.size()); };
   if (lista.tipo != TipoControllo::Lista || !Vai(lista)) return false;
-  if (std::any_of(voci.begin(), voci.end(), fuori) || (voci.size() > 1 && !lista.selezioneEstesa))
-    return false;
+  if (std::any_of(voci.begin(), voci.end(), fuori)) return false;
   lista.scelte.assign(lista.voci.size(), false);
-  for (const int voce : voci) lista.scelte[static_cast<std::size_t>(voce)] = true;
+  for (const int voce : voci) {
+    if (!lista.selezioneEstesa) lista.scelte.assign(lista.voci.size(), false);
+    lista.scelte[static_cast<std::size_t>(voce)] = true;
+  }
   return true;
 }
 
 bool DoppioClick(Controllo& lista, int voce) {
   if (!Seleziona(lista, {voce})) return false;
-  if (lista.doppioClick) Smista(lista.doppioClick);
-  return true;
-}
-
-bool Chiudi(Form& form) {
-  if (!Usabile(form)) return false;
-  if (const Controllo* fuoco = Fuoco(); FormAttiva() == &form && fuoco != nullptr) {
-    SpostaFuoco(form, nullptr);
-    if (fuoco->fuocoPerso) Smista(fuoco->fuocoPerso);
-  }
-  Smista([&] { ScaricaForm(form); });
+  Esegui(lista.doppioClick);
   return true;
 }
 

@@ -9,27 +9,23 @@
 
 namespace tarvel::headless {
 
-/// Its form is visible and not blocked, and it can have the focus (labels never have it).
-bool Usabile(const Controllo& controllo);
-
 /// By mouse: in a box at the end of its text, in a list beside its entries.
 bool Vai(Controllo& controllo);
 /// Buttons and boxes that no other covers.
 bool Clicca(Controllo& controllo);
 
 constexpr int kTastoTab = 9;
+constexpr int kTastoSu = 24, kTastoGiu = 25;
 constexpr int kTastoCanc = 127;
-/// A key where the focus is: the code of its character, kTastoTab or kTastoCanc (Delete).
+/// A key where the focus is: the code of its character, kTastoTab, an arrow or kTastoCanc (Delete).
 bool Premi(int tasto);
 /// Where the focus is, in place of the selected text or at the end.
 bool Incolla(const Testo& testo);
 bool Invio(Controllo& controllo);
 /// Selects all and types key by key; an empty text is one Backspace.
 bool Digita(Controllo& casella, const Testo& testo);
-/// Exactly these entries, from 0.
+/// A click on the first of these entries, from 0, and Ctrl+click on the others.
 bool Seleziona(Controllo& lista, const std::vector<int>& voci);
 bool DoppioClick(Controllo& lista, int voce);
-/// The close box.
-bool Chiudi(Form& form);
 
 }  // namespace tarvel::headless

@@ -1,31 +1,18 @@
 // Lines and quoting of the transcript.
 #include "platform/headless/verbale.h"
 
-#include <array>
-#include <cstdio>
+#include <utility>
 
 namespace tarvel::headless {
 namespace {
 
 std::ostream* gUscita = nullptr;
 
-void AccodaControllo(std::string& riga, char c) {
-  switch (c) {
-    case '\r':
-      riga += "\\r";
-      break;
-    case '\n':
-      riga += "\\n";
-      break;
-    case '\t':
-      riga += "\\t";
-      break;
-    default: {
-      std::array<char, 5> codice{};
-      std::snprintf(codice.data(), codice.size(), "\\x%02X", static_cast<unsigned>(c));
-      riga += codice.data();
-    }
-  }
+std::string Sequenza(char c) {
+  constexpr char kCifre[] = "0123456789ABCDEF";
+  for (const auto& [segno, lettera] : {std::pair{'\r', 'r'}, {'\n', 'n'}, {'\t', 't'}})
+    if (c == segno) return {'\\', lettera};
+  return {'\\', 'x', kCifre[c >> 4], kCifre[c & 15]};
 }
 
 }  // namespace
@@ -41,9 +28,8 @@ void Annota(std::string_view riga) {
 std::string TraVirgolette(std::string_view testo) {
   std::string riga = "\"";
   for (const char c : InUtf8(testo)) {
-    const bool diControllo = (c >= 0 && c < ' ') || c == '\x7F';
-    if (diControllo)
-      AccodaControllo(riga, c);
+    if ((c >= 0 && c < ' ') || c == '\x7F')
+      riga += Sequenza(c);
     else
       riga += c;
   }

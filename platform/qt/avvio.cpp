@@ -9,16 +9,13 @@
 #include <cstdlib>
 
 #include "platform/comune/argomenti.h"
-#include "platform/desktop.h"
-#include "platform/qt/gestori.h"
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/schermo.h"
 #include "platform/qt/sistema.h"
 
 namespace tarvel {
 namespace {
-
-Testo rigaComando;
 
 // The forms choose their own colours for a light desktop, so the rest has to be light as well.
 QPalette Chiara() {
@@ -32,12 +29,8 @@ QPalette Chiara() {
 
 }  // namespace
 
-Testo RigaComando() {
-  return rigaComando;
-}
-
 void PreparaDesktop(int argc, char** argv, const Form& principale) {
-  rigaComando = RigaComandoPassata(argc, argv);
+  ImpostaRigaComando(RigaComandoPassata(argc, argv));
 
   ScegliAmbiente();
   // The arguments are the program's own: the toolkit sees the program's name only. Both outlive it,
@@ -58,7 +51,7 @@ void PreparaDesktop(int argc, char** argv, const Form& principale) {
 
 int EseguiProgramma(int argc, char** argv, Form& principale) {
   PreparaDesktop(argc, argv, principale);
-  EseguiGestore([&] { MostraForm(principale); });
+  Esegui([&] { MostraForm(principale); });
   return QApplication::exec();
 }
 

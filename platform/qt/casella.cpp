@@ -8,9 +8,10 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
+#include <algorithm>
 #include <cmath>
 
-#include "platform/qt/gestori.h"
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/testo_qt.h"
 
@@ -36,10 +37,22 @@ void DisegnaSegno(QPainter& penna, const QRect& casella, bool aSinistra) {
   penna.drawPolygon(freccia);
 }
 
-// What a box can hold: no control characters, and '?' for what the code page lacks.
-QString Ripulito(QString testo) {
-  testo.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
-  return InQt(DaQt(testo));
+// A character typed is a code, '?' where the code page lacks it.
+std::vector<int> Codici(const QString& testo) {
+  std::vector<int> codici;
+  for (const char c : DaQt(testo)) codici.push_back(static_cast<unsigned char>(c));
+  return codici;
+}
+
+// The text after a change: of what has come between what stays a box takes what it can hold.
+Testo Preso(const Testo& prima, const Testo& dopo) {
+  const auto meno = std::min(prima.size(), dopo.size());
+  const auto inizio = std::mismatch(prima.begin(), prima.begin() + std::ptrdiff_t(meno), dopo.begin()).second;
+  const auto fine =
+      std::mismatch(prima.rbegin(), prima.rbegin() + std::ptrdiff_t(meno) - (inizio - dopo.begin()),
+                    dopo.rbegin())
+          .second.base();
+  return Testo(dopo.begin(), inizio) + SenzaControlli(Testo(inizio, fine)) + Testo(fine, dopo.end());
 }
 
 }  // namespace
@@ -54,31 +67,26 @@ void Casella::keyPressEvent(QKeyEvent* evento) {
   const bool alt = evento->modifiers().testFlag(Qt::AltModifier);
   const bool ctrl = evento->modifiers().testFlag(Qt::ControlModifier);
   if (alt && !ctrl) return evento->ignore();  // Alt and a letter is no typing
-  // The key is done before the control hears of anything else, of the loss of its focus for one.
-  EseguiGestore([&] {
-    const QScopedValueRollback<bool> cambio(annunciato_);
-    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) return Annuncia(kTastoInvio);
-    const QString testo = evento->text();
-    const bool cancella = evento->key() == Qt::Key_Delete
-                              ? hasSelectedText() || cursorPosition() < text().size()
-                              : evento->key() == Qt::Key_Backspace || evento->matches(QKeySequence::Cut);
-    if (cancella)
-      Annuncia(kTastoIndietro);
-    else if (evento->key() == Qt::Key_Escape)
-      Annuncia(kTastoEsc);
-    else if (evento->matches(QKeySequence::Paste))
-      Annuncia(kTastoIncolla);
-    else if (!testo.isEmpty() && testo[0].isPrint() && alt == ctrl)
-      Scrivi(testo);
+  if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) return Batti({kTastoInvio}, [] {});
+  std::vector<int> codici;
+  if (evento->key() == Qt::Key_Delete
+          ? hasSelectedText() || cursorPosition() < text().size()
+          : evento->key() == Qt::Key_Backspace || evento->matches(QKeySequence::Cut))
+    codici = {kTastoIndietro};
+  else if (evento->key() == Qt::Key_Escape)
+    codici = {kTastoEsc};
+  else if (evento->matches(QKeySequence::Paste))
+    codici = {kTastoIncolla};
+  else if (alt == ctrl && !evento->text().isEmpty() && evento->text()[0].isPrint())
+    codici = Codici(evento->text());
+  Batti(codici, [&] {
     QLineEdit::keyPressEvent(evento);
     if (evento->isAccepted()) Inquadra(!hasFocus());
   });
 }
 
 void Casella::inputMethodEvent(QInputMethodEvent* evento) {
-  EseguiGestore([&] {
-    const QScopedValueRollback<bool> cambio(annunciato_);
-    Scrivi(evento->commitString());
+  Batti(Codici(evento->commitString()), [&] {
     QLineEdit::inputMethodEvent(evento);
     if (!evento->preeditString().isEmpty()) Inquadra(!hasFocus());
   });
@@ -111,31 +119,28 @@ void Casella::paintEvent(QPaintEvent* evento) {
   penna.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-void Casella::Annuncia(int codice) {
-  annunciato_ = true;
-  EseguiGestore([&] {
-    if (controllo_.tasto) controllo_.tasto(codice);
+void Casella::Batti(const std::vector<int>& codici, const std::function<void()>& agisce) {
+  PremiInCasella(controllo_, codici, [&] {
+    const QScopedValueRollback<bool> cambio(annunciato_, !codici.empty());
+    agisce();
   });
 }
 
-void Casella::Scrivi(const QString& testo) {
-  for (const char c : DaQt(testo)) Annuncia(static_cast<unsigned char>(c));
-}
-
 void Casella::Modificato(const QString& testo) {
-  const QString pulito = Ripulito(testo);
-  if (pulito != testo) {
+  const Testo nuovo = Preso(controllo_.testo, DaQt(testo));
+  if (InQt(nuovo) != testo) {
     const QSignalBlocker zitto(this);
-    const auto cursore = Ripulito(testo.left(cursorPosition())).size();
-    setText(pulito);
-    setCursorPosition(int(cursore));
+    const auto dopo = testo.size() - cursorPosition();
+    setText(InQt(nuovo));
+    setCursorPosition(int(std::ssize(nuovo) - dopo));
   }
-  const Testo nuovo = DaQt(pulito);
-  const QScopedValueRollback<bool> cambio(annunciato_);
-  if (!annunciato_) Annuncia(nuovo.size() < controllo_.testo.size() ? kTastoIndietro : kTastoIncolla);
-  controllo_.testo = DaQt(text());
-  Misura();
-  Inquadra(!hasFocus());
+  const auto prende = [this] {
+    controllo_.testo = DaQt(text());
+    Misura();
+    Inquadra(!hasFocus());
+  };
+  if (annunciato_) return prende();
+  Batti({nuovo.size() < controllo_.testo.size() ? kTastoIndietro : kTastoIncolla}, prende);
 }
 
 void Casella::Mostra() {

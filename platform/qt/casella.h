@@ -3,7 +3,7 @@
 
 #include <QLineEdit>
 
-#include "platform/comune/casella.h"
+#include "platform/comune/desktop/casella.h"
 
 namespace tarvel {
 
@@ -28,8 +28,7 @@ class Casella : public QLineEdit {
   void paintEvent(QPaintEvent* evento) override;
 
  private:
-  void Annuncia(int codice);
-  void Scrivi(const QString& testo);
+  void Batti(const std::vector<int>& codici, const std::function<void()>& agisce);
   void Modificato(const QString& testo);
   QRect Riga() const;
   void Misura();

@@ -1,45 +1,24 @@
-// Forms on the desktop: loading, showing, modality, unloading.
-#include "platform/desktop.h"
-
+// What the shared desktop shows as windows: their order and owners, the pointer, the clock.
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <list>
-#include <utility>
+#include <chrono>
+#include <map>
 
-#include "platform/comune/descrizione.h"
+#include "platform/comune/desktop/schermo.h"
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/comune/scala.h"
 #include "platform/qt/finestra.h"
-#include "platform/qt/fuoco.h"
-#include "platform/qt/gestori.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/widget.h"
 
 namespace tarvel {
 namespace {
 
-struct Caricata {
-  Form* form;
-  Descrizione descritta;
-  Finestra* finestra = nullptr;  // made when the form is first shown
-  bool inScarico = false;
-};
-
-std::list<Caricata> caricate;
-
-Caricata* Cerca(const Form& form) {
-  const auto trovata =
-      std::find_if(caricate.begin(), caricate.end(), [&](const Caricata& c) { return c.form == &form; });
-  return trovata == caricate.end() ? nullptr : &*trovata;
-}
-
-QWidget* WidgetDi(const Controllo& controllo) {
-  for (const Caricata& caricata : caricate)
-    if (caricata.finestra != nullptr)
-      if (QWidget* widget = caricata.finestra->WidgetDi(controllo)) return widget;
-  return nullptr;
-}
+std::map<const Form*, Finestra*> finestre;  // of the loaded forms that have been shown
 
 void Centra(Finestra& finestra, const Finestra& su) {
   QRect posto(QPoint(), finestra.size());
@@ -55,13 +34,36 @@ QPoint Angolo(const Finestra& finestra) {
   return schermo.topLeft() + QPoint(std::min(int(Pixel(kPostoVisualizzatore.sinistra)), resto / 2), 0);
 }
 
+// The one that owns this window so far is its own master then: no window can own its owner.
+void Appartiene(QWindow* finestra, QWindow* a) {
+  for (QWindow* sopra = a; sopra != nullptr; sopra = sopra->transientParent())
+    if (sopra->transientParent() == finestra) sopra->setTransientParent(nullptr);
+  finestra->setTransientParent(a);
+}
+
+// A handler of its form may be on the stack, or one that waits for it.
+void Butta(Finestra* finestra) {
+  constexpr std::chrono::milliseconds kRiprova{500};
+  if (ARiposo())
+    finestra->deleteLater();
+  else
+    QTimer::singleShot(kRiprova, [finestra] { Butta(finestra); });
+}
+
+}  // namespace
+
+Finestra* FinestraDi(const Form* form) {
+  const auto trovata = finestre.find(form);
+  return trovata == finestre.end() ? nullptr : trovata->second;
+}
+
 // The control that the user sees with the keyboard is the one that has the focus, whenever the
 // window manager gets round to making the window the active one.
-void Mostra(Caricata& caricata, bool modale) {
-  if (caricata.finestra == nullptr) caricata.finestra = new Finestra(*caricata.form);
-  Finestra& finestra = *caricata.finestra;
-  finestra.livello = LivelloModale();
-  const bool nuova = !finestra.isVisible();
+void PortaDavanti(Form& form, Form* davanti, bool nuova, bool modale) {
+  AttivaFinestra(nullptr);
+  if (FinestraDi(&form) == nullptr) finestre[&form] = new Finestra(form);
+  Finestra& finestra = *FinestraDi(&form);
+  const Finestra* const sotto = davanti == &form ? nullptr : FinestraDi(davanti);
   // One on the screen already goes for a moment, as its kind cannot change there.
   if (nuova || (modale && !finestra.isModal())) {
     const QPoint posto = finestra.pos();
@@ -69,91 +71,62 @@ void Mostra(Caricata& caricata, bool modale) {
     finestra.setWindowFlags((finestra.windowFlags() & ~Qt::WindowType_Mask) |
                             (modale ? Qt::Dialog : Qt::Window));
     finestra.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
-    if (nuova) finestra.VaiAlPrimo();
+    if (nuova) finestra.Metti(FuocoDi(form));
     if (!nuova)
       finestra.move(posto);
-    else if (modale && FinestraAttiva() != nullptr)
-      Centra(finestra, *FinestraAttiva());
-    else if (FinestraAttiva() == nullptr)
+    else if (modale && sotto != nullptr)
+      Centra(finestra, *sotto);
+    else if (sotto == nullptr)
       finestra.move(Angolo(finestra));
   }
   // While a modal form is shown, what its handlers show has to belong to it to be usable.
   finestra.winId();
-  if (LivelloModale() > 0 && FinestraAttiva() != nullptr && FinestraAttiva() != &finestra)
-    finestra.windowHandle()->setTransientParent(FinestraAttiva()->windowHandle());
+  if (LivelloModale() > 0 && sotto != nullptr) Appartiene(finestra.windowHandle(), sotto->windowHandle());
   finestra.setWindowState(finestra.windowState() & ~Qt::WindowMinimized);
   finestra.show();
   finestra.raise();
   finestra.activateWindow();
-  RaggiungeControllo(finestra, finestra.ColFuoco());
 }
 
-void Togli(Finestra& finestra) {
-  RendeFuoco(finestra);
-  finestra.hide();
-  if (QEventLoop* ciclo = std::exchange(finestra.ciclo, nullptr)) ciclo->quit();
-  if (FinestraAttiva() != nullptr) FinestraAttiva()->activateWindow();
-}
-
-}  // namespace
-
-void CaricaForm(Form& form) {
-  if (Cerca(form) != nullptr) return;
-  caricate.push_back({&form, Descritta(form)});
-  EseguiGestore([&] { form.Form_Load(); });
-}
-
-void MostraForm(Form& form) {
-  CaricaForm(form);
-  if (Caricata* caricata = Cerca(form)) Mostra(*caricata, false);
-}
-
-void MostraFormModale(Form& form) {
-  CaricaForm(form);
-  Caricata* const caricata = Cerca(form);
-  if (caricata == nullptr) return;
-  const LivelloInPiu livello;
-  Mostra(*caricata, true);
-  Finestra& finestra = *caricata->finestra;
-  QEventLoop ciclo;
-  QEventLoop* const esterno = std::exchange(finestra.ciclo, &ciclo);
-  const AttesaModale attesa;
-  // The control left hears of it first, and its handler may have unloaded the form.
-  if (finestra.ciclo == &ciclo) ciclo.exec();
-  if (esterno != nullptr) esterno->quit();
-}
-
-void NascondiForm(Form& form) {
-  const Caricata* caricata = Cerca(form);
-  if (caricata != nullptr && caricata->finestra != nullptr && caricata->finestra->isVisible())
-    Togli(*caricata->finestra);
-}
-
-void ScaricaForm(Form& form) {
-  Caricata* const caricata = Cerca(form);
-  if (caricata == nullptr || caricata->inScarico) return;
-  caricata->inScarico = true;
-  EseguiGestore([&] { form.Form_Unload(); });
-  const Caricata scaricata = std::move(*caricata);
-  caricate.remove_if([&](const Caricata& c) { return &c == caricata; });
-  if (Finestra* const finestra = scaricata.finestra) {
-    Togli(*finestra);
+void Togli(Form& form, bool scaricata) {
+  Finestra* const finestra = FinestraDi(&form);
+  finestra->hide();
+  if (scaricata) {
     finestra->Stacca();
-    // A handler of this form may be on the stack, or one that waits for it.
-    FinitiTutti([finestra] { finestra->deleteLater(); });
+    finestre.erase(&form);
+    Butta(finestra);
   }
-  Ripristina(form, scaricata.descritta);
+  if (Finestra* const resta = FinestraDi(FormAttiva())) resta->activateWindow();
 }
 
-void ImpostaTesto(Controllo& controllo, const Testo& testo) {
-  controllo.testo = controllo.tipo == TipoControllo::Casella ? testo.substr(0, kMassimoCasella) : testo;
-  if (QWidget* widget = WidgetDi(controllo)) AggiornaWidget(widget, controllo);
+void Aggiorna(Controllo& controllo, bool) {
+  for (const auto& [form, finestra] : finestre)
+    if (QWidget* const widget = finestra->WidgetDi(controllo)) AggiornaWidget(widget, controllo);
 }
 
-void ImpostaVoci(Controllo& lista, std::vector<Testo> voci) {
-  lista.voci = std::move(voci);
-  lista.scelte.assign(lista.voci.size(), false);
-  if (QWidget* widget = WidgetDi(lista)) AggiornaWidget(widget, lista);
+void Attende(const bool& finito) {
+  QEventLoop ciclo;
+  while (!finito) ciclo.processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+long long Adesso() {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(
+             std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
+
+void NuovaScadenza() {
+  static QTimer* const orologio = [] {
+    auto* nuovo = new QTimer(qGuiApp);
+    nuovo->setSingleShot(true);
+    nuovo->setTimerType(Qt::PreciseTimer);
+    nuovo->callOnTimeout([] {
+      if (!ScattaProssimo() && !Occupato()) NuovaScadenza();
+    });
+    return nuovo;
+  }();
+  orologio->stop();
+  if (const auto prossima = ProssimaScadenza()) orologio->start(int(std::max(0LL, *prossima - Adesso())));
 }
 
 void ImpostaPuntatore(Puntatore puntatore) {

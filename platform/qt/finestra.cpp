@@ -4,20 +4,29 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
-#include "platform/desktop.h"
-#include "platform/qt/fuoco.h"
-#include "platform/qt/gestori.h"
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/testo_qt.h"
 #include "platform/qt/widget.h"
 
 namespace tarvel {
 namespace {
+
+QPointer<Finestra> attivata;  // whose control is not reached yet
+
+// It counts as reached now.
+void FinisceAttivazione() {
+  const QPointer<Finestra> finestra = std::exchange(attivata, nullptr);
+  if (finestra != nullptr && finestra->form != nullptr) Raggiungi(*finestra->form, FuocoDi(*finestra->form));
+}
 
 /// Sees the user reach a control, before the control sees it.
 class Vedetta : public QObject {
@@ -36,26 +45,40 @@ class Vedetta : public QObject {
     const auto ragione =
         tipo == QEvent::FocusIn ? static_cast<QFocusEvent*>(evento)->reason() : Qt::OtherFocusReason;
     const bool colMouse = tipo == QEvent::MouseButtonPress || ragione == Qt::MouseFocusReason;
-    if (tipo == QEvent::FocusIn) clickInterrotto_ = false;
     if (ragione == Qt::ActiveWindowFocusReason) {
-      AttivaFinestra(finestra_);
+      AttivaFinestra(&finestra_);
       return false;
     }
-    const int prima = LoopAperti();
-    RaggiungeControllo(finestra_, &controllo_);
-    if (LoopAperti() != prima) clickInterrotto_ = colMouse;
-    if (tipo != QEvent::MouseButtonPress || !std::exchange(clickInterrotto_, false)) return false;
-    if (auto* bottone = qobject_cast<QPushButton*>(widget_)) bottone->click();
-    return true;
+    // A press in a control without the focus has reached it already.
+    if (tipo != QEvent::MouseButtonPress || click_ == Click::Intero) {
+      const int prima = LoopAperti();
+      AttivaFinestra(nullptr);
+      const bool raggiunto = Raggiungi(*finestra_.form, &controllo_);
+      if (tipo == QEvent::KeyPress) return !raggiunto;
+      click_ = !colMouse               ? Click::Intero
+               : !raggiunto            ? Click::Perso
+               : LoopAperti() != prima ? Click::Premuto
+                                       : Click::Intero;
+    }
+    if (tipo != QEvent::MouseButtonPress) return false;
+    const Click click = std::exchange(click_, Click::Intero);
+    if (auto* bottone = qobject_cast<QPushButton*>(widget_); bottone != nullptr && click == Click::Premuto)
+      bottone->click();
+    return click != Click::Intero;
   }
 
  private:
+  enum class Click {
+    Intero,
+    Premuto,  // the control left by it has shown a message: the release may have gone there, the press alone
+              // counts
+    Perso,    // the control left by it has taken the focus elsewhere
+  };
+
   Finestra& finestra_;
   Controllo& controllo_;
   QWidget* const widget_;
-  // The control left by this click has shown a message: the release may have gone there, and the
-  // press alone counts.
-  bool clickInterrotto_ = false;
+  Click click_ = Click::Intero;
 };
 
 QColor InQColor(Colore colore) {
@@ -93,19 +116,10 @@ QWidget* Finestra::WidgetDi(const Controllo& controllo) const {
   return trovato == widget_.end() ? nullptr : trovato->second;
 }
 
-Controllo* Finestra::ColFuoco() const {
-  for (Controllo* controllo : form->controlli)
-    if (WidgetDi(*controllo) == focusWidget()) return controllo;
-  return nullptr;
-}
-
-void Finestra::VaiAlPrimo() {
-  for (Controllo* controllo : form->controlli)
-    if (QWidget* widget = WidgetDi(*controllo); widget->focusPolicy() != Qt::NoFocus) {
-      widget->setFocus(Qt::TabFocusReason);
-      if (controllo->tipo == TipoControllo::Casella) static_cast<QLineEdit*>(widget)->selectAll();
-      return;
-    }
+void Finestra::Metti(const Controllo* controllo) {
+  if (controllo == nullptr) return;
+  WidgetDi(*controllo)->setFocus(Qt::TabFocusReason);
+  if (auto* casella = qobject_cast<QLineEdit*>(WidgetDi(*controllo))) casella->selectAll();
 }
 
 void Finestra::Stacca() {
@@ -130,11 +144,13 @@ void Finestra::paintEvent(QPaintEvent*) {
 void Finestra::closeEvent(QCloseEvent* evento) {
   evento->ignore();  // the window goes when the form is unloaded
   FinisceAttivazione();
-  if (form == nullptr || !Usabile(*this)) return;
-  EseguiGestore([this] {
-    LasciaControllo(*this);
-    if (form != nullptr) ScaricaForm(*form);
-  });
+  if (form != nullptr) Chiudi(*form);
+}
+
+void AttivaFinestra(Finestra* finestra) {
+  constexpr std::chrono::milliseconds kAttesaClick{150};
+  attivata = finestra;
+  if (finestra != nullptr) QTimer::singleShot(kAttesaClick, finestra, FinisceAttivazione);
 }
 
 }  // namespace tarvel

@@ -1,7 +1,6 @@
 // The window of a form.
 #pragma once
 
-#include <QEventLoop>
 #include <QWidget>
 #include <map>
 #include <memory>
@@ -17,16 +16,12 @@ class Finestra : public QWidget {
 
   /// The widget of a control of this form; nullptr for any other.
   QWidget* WidgetDi(const Controllo& controllo) const;
-  /// The control that has, or will have when the window is active, the keyboard.
-  Controllo* ColFuoco() const;
-  /// The keyboard goes to the first control that can have it.
-  void VaiAlPrimo();
+  /// The keyboard goes to a control, as Tab takes it there; nullptr: to none.
+  void Metti(const Controllo* controllo);
   /// The form is gone: nothing of it is referred to any more.
   void Stacca();
 
   Form* form;
-  QEventLoop* ciclo = nullptr;  // of a modal showing
-  int livello = 0;              // modal forms below it; the user can reach the topmost level only
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
@@ -36,5 +31,13 @@ class Finestra : public QWidget {
   std::map<const Controllo*, QWidget*> widget_;
   std::vector<std::unique_ptr<QObject>> vedette_;  // gone before the widgets they watch
 };
+
+/// The window of a form; nullptr for one (nullptr too) that is not loaded or was not shown yet.
+Finestra* FinestraDi(const Form* form);
+
+/// The window has become the active one (nullptr: what did counts no more). If by a click, the click comes
+/// next, and it has to find its control before a message of the one left takes the mouse: the control that
+/// has the keyboard here counts as reached only when nothing has come for a moment.
+void AttivaFinestra(Finestra* finestra);
 
 }  // namespace tarvel

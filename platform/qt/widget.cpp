@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/qt/casella.h"
-#include "platform/qt/gestori.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/testo_qt.h"
 
@@ -86,7 +86,7 @@ QWidget* CreaLista(Controllo& controllo, QWidget* padre) {
   });
   QObject::connect(lista, &QListWidget::itemDoubleClicked, lista, [lista, &controllo](QListWidgetItem* voce) {
     lista->setCurrentItem(voce, QItemSelectionModel::ClearAndSelect);
-    EseguiGestore(controllo.doppioClick);
+    Esegui(controllo.doppioClick);
   });
   return lista;
 }
@@ -96,8 +96,7 @@ QWidget* Crea(Controllo& controllo, QWidget* padre) {
     case TipoControllo::Bottone: {
       auto* bottone = new QPushButton(padre);
       bottone->setAutoDefault(true);  // Enter presses the button that has the focus
-      QObject::connect(bottone, &QPushButton::clicked, bottone,
-                       [&controllo] { EseguiGestore(controllo.click); });
+      QObject::connect(bottone, &QPushButton::clicked, bottone, [&controllo] { Esegui(controllo.click); });
       return bottone;
     }
     case TipoControllo::Casella:

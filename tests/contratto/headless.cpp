@@ -2,12 +2,11 @@
 #include <algorithm>
 
 #include "platform/comune/argomenti.h"
-#include "platform/headless/avvio.h"
+#include "platform/headless/ambiente.h"
 #include "platform/headless/contenuto.h"
+#include "platform/headless/copione.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/mano.h"
-#include "platform/headless/regione.h"
-#include "platform/headless/timer.h"
 #include "tests/contratto/utente.h"
 
 namespace tarvel::contratto {
@@ -17,11 +16,11 @@ class UtenteHeadless : public Utente {
  public:
   void Esegui(Form& principale, std::vector<Passo> passi) override {
     passi_.assign(passi.begin(), passi.end());
-    headless::ImpostaRigaComando(
+    ImpostaRigaComando(
         UnisciArgomenti(std::vector<std::string>(std::begin(kArgomenti), std::end(kArgomenti))));
     headless::ImpostaDecimale(',');
-    const int stato = headless::Avvia(
-        principale, {[&] { Agisce(); }, [&](const headless::Messaggio& m) { return Risponde(m); }});
+    const int stato =
+        headless::Avvia(principale, {[&] { Agisce(); }, [&](const Messaggio& m) { return Risponde(m); }});
     Annota("fine " + std::to_string(stato));
   }
 
@@ -35,13 +34,15 @@ class UtenteHeadless : public Utente {
   void Invio(Controllo& c) override { headless::Invio(c); }
   void Seleziona(Controllo& c, const std::vector<int>& voci) override { headless::Seleziona(c, voci); }
   void DoppioClick(Controllo& c, int voce) override { headless::DoppioClick(c, voce); }
-  void Chiudi(Form& form) override { headless::Chiudi(form); }
+  void Chiudi(Form& form) override { tarvel::Chiudi(form); }
   void AspettaRiga(const std::string& riga) override {
     aspettata_ = riga;
     pazienza_ = 5000;
   }
 
-  bool Vede(const Form& form) override { return headless::Visibile(form); }
+  bool Vede(const Form& form) override {
+    return std::find(Fila().begin(), Fila().end(), &form) != Fila().end();
+  }
   bool VedeClessidra() override { return headless::Clessidra(); }
   Testo Legge(const Controllo& c) override {
     if (c.tipo != TipoControllo::Lista) return c.testo;
@@ -67,7 +68,7 @@ class UtenteHeadless : public Utente {
     FaProssimo();
   }
 
-  Risposta Risponde(const headless::Messaggio& m) {
+  Risposta Risponde(const Messaggio& m) {
     const auto [risposta, attesa] = ProssimaRisposta(m.bottoni);
     headless::LasciaPassare(attesa);
     if (VedeClessidra()) Annota("clessidra");

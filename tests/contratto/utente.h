@@ -46,7 +46,8 @@ class Utente {
   virtual void Vai(Controllo& controllo) = 0;
   /// Buttons and boxes: a mouse click; one that is covered cannot be used.
   virtual void Clicca(Controllo& controllo) = 0;
-  /// A key where the focus is: the code of its character, 9 Tab, 127 Delete, 22 paste.
+  /// A key where the focus is: the code of its character, 9 Tab, 22 paste, 24 and 25 the arrows up and
+  /// down, 127 Delete.
   virtual void Premi(int tasto) = 0;
   /// Another program comes to the front for a moment.
   virtual void AltroProgramma() = 0;

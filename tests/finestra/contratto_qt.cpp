@@ -16,11 +16,10 @@
 #include <array>
 #include <fstream>
 
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/qt/avvio.h"
 #include "platform/qt/casella.h"
 #include "platform/qt/finestra.h"
-#include "platform/qt/fuoco.h"
-#include "platform/qt/gestori.h"
 #include "platform/qt/testo_qt.h"
 #include "tests/contratto/utente.h"
 #include "tests/finestra/gesti.h"
@@ -41,8 +40,8 @@ Finestra* FinestraCon(const std::function<bool(const Finestra&)>& quale) {
   return nullptr;
 }
 
-Finestra* FinestraDi(const Form& form) {
-  return FinestraCon([&](const Finestra& f) { return f.form == &form && f.isVisible(); });
+Finestra* Davanti() {
+  return FinestraDi(FormAttiva());
 }
 
 QWidget* WidgetDi(const Controllo& controllo) {
@@ -67,7 +66,7 @@ class UtenteQt : public Utente {
     PreparaDesktop(int(argomenti.size()), argomenti.data(), principale);
     QApplication::clipboard()->setText(kAppunti);
     Guarda();
-    EseguiGestore([&] { MostraForm(principale); });
+    tarvel::Esegui([&] { MostraForm(principale); });
     QApplication::exec();
   }
 
@@ -80,7 +79,7 @@ class UtenteQt : public Utente {
     QWidget* const widget = Usabile(controllo);
     if (widget == nullptr) return;
     if (widget->hasFocus())  // by the activation of its window, which counts a little later
-      return void(QTest::qWaitFor([&] { return FinestraAttiva() == widget->window(); }));
+      return void(QTest::qWaitFor([&] { return Davanti() == widget->window(); }));
     QWindow* const finestra = widget->window()->windowHandle();
     if (controllo.tipo == TipoControllo::Casella) return Clic(widget, widget->rect().center());
     if (controllo.tipo == TipoControllo::Lista)
@@ -99,6 +98,7 @@ class UtenteQt : public Utente {
   void Premi(int tasto) override {
     QWindow* const finestra = QApplication::focusWindow();
     if (tasto == kTastoIncolla) return Batti(finestra, Qt::Key_V, {}, Qt::ControlModifier);
+    if (tasto == 24 || tasto == 25) return Batti(finestra, tasto == 24 ? Qt::Key_Up : Qt::Key_Down, {});
     if (tasto == kTastoCanc) return Batti(finestra, Qt::Key_Delete, "\x7F");
     Batti(finestra, static_cast<char>(tasto));
   }
@@ -137,7 +137,8 @@ class UtenteQt : public Utente {
   }
 
   void Chiudi(Form& form) override {
-    if (Finestra* finestra = FinestraDi(form)) finestra->windowHandle()->close();
+    if (Finestra* finestra = FinestraDi(&form); finestra != nullptr && finestra->isVisible())
+      finestra->windowHandle()->close();
   }
 
   void AspettaRiga(const std::string& riga) override {
@@ -145,7 +146,9 @@ class UtenteQt : public Utente {
     pazienza_.setRemainingTime(kPazienza);
   }
 
-  bool Vede(const Form& form) override { return FinestraDi(form) != nullptr; }
+  bool Vede(const Form& form) override {
+    return FinestraDi(&form) != nullptr && FinestraDi(&form)->isVisible();
+  }
   bool VedeClessidra() override {
     const QCursor* puntatore = QApplication::overrideCursor();
     return puntatore != nullptr && puntatore->shape() == Qt::WaitCursor;
@@ -206,12 +209,12 @@ class UtenteQt : public Utente {
   // Called again and again, in whichever loop; a loop inside one call has calls of its own.
   void Guarda() {
     QTimer::singleShot(1, [this] { Guarda(); });
-    if (FinestraAttiva() == nullptr && !Occupato()) return;
+    if (Davanti() == nullptr && !Occupato()) return;
     if (auto* riquadro = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
       return Risponde(riquadro);
     if (Occupato() || LivelloModale() <= livello_ || Attende()) return;
-    if (FinestraAttiva() != nullptr && QApplication::activeWindow() != FinestraAttiva())
-      return FinestraAttiva()->activateWindow();  // it is on its way
+    if (Davanti() != nullptr && QApplication::activeWindow() != Davanti())
+      return Davanti()->activateWindow();  // it is on its way
     const QScopedValueRollback<int> agisce(livello_, LivelloModale());
     FaProssimo();
   }

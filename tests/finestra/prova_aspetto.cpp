@@ -18,10 +18,9 @@
 #include "app/form_opt.h"
 #include "app/form_sez.h"
 #include "app/tarvel1.h"
-#include "platform/desktop.h"
+#include "platform/comune/desktop/scrivania.h"
 #include "platform/qt/avvio.h"
 #include "platform/qt/finestra.h"
-#include "platform/qt/fuoco.h"
 #include "platform/qt/scala.h"
 #include "platform/qt/tasti.h"
 #include "platform/qt/testo_qt.h"
@@ -63,7 +62,7 @@ TEST(Casella, DiceOgniCambioETieneSoloTestoAOttoBit) {
   form.controlli = {&controllo};
   Prepara(form);
   MostraForm(form);
-  auto& casella = static_cast<QLineEdit&>(*FinestraAttiva()->WidgetDi(controllo));
+  auto& casella = static_cast<QLineEdit&>(*FinestraDi(FormAttiva())->WidgetDi(controllo));
   ASSERT_TRUE(QTest::qWaitForWindowActive(&casella));
 
   using Gesto = std::function<void()>;
@@ -147,7 +146,8 @@ TEST_P(AScala, NessunaScrittaENessunaNotaTagliata) {
   vuota.larghezza = FormPrincipale().larghezza;
   vuota.altezza = FormPrincipale().altezza;
   MostraForm(vuota);
-  const QRect schermo = FinestraAttiva()->screen()->geometry(), posto = FinestraAttiva()->frameGeometry();
+  const QRect schermo = FinestraDi(FormAttiva())->screen()->geometry(),
+              posto = FinestraDi(FormAttiva())->frameGeometry();
   EXPECT_TRUE(schermo.contains(posto) && posto.top() == schermo.top() && posto.left() <= Pixel(1350));
   ScaricaForm(vuota);
   FormSez elenco;

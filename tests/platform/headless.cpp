@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "platform/desktop.h"
-#include "platform/headless/avvio.h"
+#include "platform/headless/copione.h"
 
 namespace tarvel::headless {
 namespace {

@@ -10,6 +10,12 @@ struct Taglio {
   bool inizio = false, fine = false;
 };
 
+/// Text as it arrives in a box: control characters stay out.
+inline Testo SenzaControlli(Testo testo) {
+  std::erase_if(testo, [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; });
+  return testo;
+}
+
 /// What a box is called to who cannot see it.
 inline Testo NomeAccessibile(const Controllo& casella) {
   return casella.descrizione.empty() ? casella.nome : casella.descrizione;

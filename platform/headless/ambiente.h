@@ -1,4 +1,4 @@
-// The programs that were started: none runs, but each is a task until it ends.
+// What the host would give: other programs, none of which runs, and the regional number format.
 #pragma once
 
 #include <cstdint>
@@ -10,5 +10,9 @@ bool TerminaCompito(std::int32_t id);
 
 /// No task runs; ids count from 1 again.
 void AzzeraProgrammi();
+
+/// In force until the next call; '.' at first. The thousands separator is '.' beside a decimal ',',
+/// ',' beside '.', none beside any other.
+void ImpostaDecimale(char decimale);
 
 }  // namespace tarvel::headless

@@ -1,5 +1,5 @@
-// Starting, activating and ending programs that are not run.
-#include "platform/headless/programmi.h"
+// Programs that are not run, each a task until it ends; separators as the entry set them.
+#include "platform/headless/ambiente.h"
 
 #include <set>
 #include <string>
@@ -7,6 +7,7 @@
 #include "platform/file.h"
 #include "platform/headless/verbale.h"
 #include "platform/programmi.h"
+#include "platform/regione.h"
 
 namespace tarvel {
 namespace headless {
@@ -15,6 +16,7 @@ namespace {
 std::int32_t gUltimo = 0;
 std::set<std::int32_t> gAttivi;
 std::int32_t gAttivato = 0;  // the task that keys go to
+char gDecimale = '.';
 
 }  // namespace
 
@@ -25,6 +27,10 @@ bool TerminaCompito(std::int32_t id) {
 void AzzeraProgrammi() {
   gUltimo = gAttivato = 0;
   gAttivi.clear();
+}
+
+void ImpostaDecimale(char decimale) {
+  gDecimale = decimale;
 }
 
 }  // namespace headless
@@ -51,6 +57,14 @@ bool AttivaProgramma(std::int32_t id) {
 
 void InviaTasti(const Testo& sequenza) {
   if (gAttivi.count(gAttivato) != 0) Annota("keys " + TraVirgolette(sequenza));
+}
+
+char SeparatoreDecimale() {
+  return gDecimale;
+}
+
+char SeparatoreMigliaia() {
+  return gDecimale == '.' ? ',' : gDecimale == ',' ? '.' : '\0';
 }
 
 }  // namespace tarvel
