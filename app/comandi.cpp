@@ -1,9 +1,9 @@
 // The main form's commands on sections: calculate, read, save, switch the section file.
 #include "app/form_sez.h"
+#include "app/genera_disegno.h"
 #include "app/salvataggio.h"
 #include "app/tarvel1.h"
 #include "base/errore.h"
-#include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "model/archivio/file_sezioni.h"
@@ -98,7 +98,9 @@ void tarvel1::RichiamaSezione(int i) {
   SezioneCalcolata = false;
   const RecordSezione& r = TabellaSezioni[i];
   const auto verifica = [&] { return VerificaSezione(r); };
-  if (!Durante([&] { return SullaSezione("lettura", r.Nome); }, verifica, kNonCassone)) return;
+  const auto dimensioni = Durante([&] { return SullaSezione("lettura", r.Nome); }, verifica, kNonCassone);
+  if (!dimensioni) return Avverti(kSezioneNonValida);
+  ParametriSezione = *dimensioni;
   SezioneCorrente = i;
   AggiornaTextParametri();
   ImpostaTesto(nome, Testo(SenzaBlanchi(r.Nome)));
@@ -132,25 +134,18 @@ void tarvel1::SalvaSezione() {
   if (s.starts_with(PrefissoNome)) ++NumeroProposto;
 
   NomeFileDisegno = DisegnoDellaSezione(s);
-  GeneraDisegno(disegno::ModoAvviso::Nessuno);
+  GeneraDisegno(ModoAvviso::Nessuno);
   NomeFileDisegno = kDisegnoTemporaneo;
 }
 
 void tarvel1::Command3_Click() {
-  MettiDaParteSezioni();
   const Testo fileLavoro = DirLavori + "\\sezio_ut";
-  if (FileSezioni != fileLavoro) {
-    FileSezioni = fileLavoro;
-    PrefissoNome = "U_PO_";
-    ImpostaTesto(nome, NormalizzaNome(nome.testo, "U_", "G_"));
-  } else {
-    FileSezioni = DirCustom + "\\sezio_ut";
-    PrefissoNome = "G_PO_";
-    ImpostaTesto(nome, NormalizzaNome(nome.testo, "G_", "U_"));
-  }
-  ImpostaTesto(nomute, FileSezioni);
-  LeggiFileSezioni(true);
-  LasciaSezioniDaParte();
+  const bool delLavoro = FileSezioni != fileLavoro;
+  const Testo file = delLavoro ? fileLavoro : DirCustom + "\\sezio_ut";
+  PrefissoNome = delLavoro ? "U_PO_" : "G_PO_";
+  ImpostaTesto(nome, NormalizzaNome(nome.testo, delLavoro ? "U_" : "G_", delLavoro ? "G_" : "U_"));
+  ImpostaTesto(nomute, file);
+  if (const auto guasto = CambiaFileSezioni(file)) MostraMessaggio(guasto->testo, "ERRORE", Icona::Stop);
 }
 
 }  // namespace tarvel

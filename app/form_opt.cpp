@@ -1,12 +1,11 @@
 // Labels and boxes in two columns of eight rows, the buttons in a row below.
 #include "app/form_opt.h"
 
+#include "app/genera_disegno.h"
 #include "base/numeri.h"
 #include "base/tronca.h"
-#include "drawing/sezione/disegno_sezione.h"
 #include "platform/desktop.h"
 #include "platform/regione.h"
-#include "preview/anteprima.h"
 
 namespace tarvel {
 namespace {
@@ -112,20 +111,25 @@ void FormOpt::TextOpt_LostFocus(int i) {
   AggiornaTextOpt(i);
 }
 
+void FormOpt::RileggiOpzioni() {
+  if (const auto guasto = LeggiOpzioni(FileOpzioni(), Opzioni))
+    MostraMessaggio(guasto->ConMotivo(), "ERRORE", Icona::Esclamazione);
+}
+
 void FormOpt::Reset_Click() {
-  LeggiOpzioni();
+  RileggiOpzioni();
   Form_Load();
 }
 
 void FormOpt::Salva_Click() {
   CopiaOpzioniOut();
-  ScriviOpzioni();
+  if (const auto guasto = ScriviOpzioni(FileOpzioni(), Opzioni))
+    MostraMessaggio(guasto->testo, "ERRORE", Icona::Esclamazione);
 }
 
 void FormOpt::Applica_Click() {
   CopiaOpzioniOut();
-  GeneraDisegno(disegno::ModoAvviso::Nessuno);
-  Anteprima();
+  MostraAnteprima();
 }
 
 void FormOpt::Chiudi_Click() {

@@ -14,6 +14,8 @@ class FormOpt : public Form {
  public:
   FormOpt();
   static FormOpt& Unica();
+  /// Opzioni become those of their file; what is wrong with it is said.
+  static void RileggiOpzioni();
   void Form_Load() override;
 
   void CopiaOpzioniIn();

@@ -2,21 +2,19 @@
 // section file, and the message says where.
 #pragma once
 
-#include "base/testo.h"
+#include "base/guasto.h"
 
 namespace tarvel {
 
-/// From now on.
+/// A fatal error keeps them from now on.
 void PreparaSalvataggio();
 
 /// After a save that failed: keeps the table's sections beside their file. Where they are, in a sentence; ""
 /// where the file has them all, or they cannot be kept.
 Testo ConservaNonSalvate();
 
-/// Before the table is replaced by another file's sections: a fatal error on the way saves what it holds
-/// now, beside the file it belongs to.
-void MettiDaParteSezioni();
-/// The table has been replaced.
-void LasciaSezioniDaParte();
+/// From now on the section file is another one, whose sections are read into the table. A fatal error on the
+/// way keeps what the table held before, beside the file it belongs to.
+[[nodiscard]] std::optional<Guasto> CambiaFileSezioni(const Testo& file);
 
 }  // namespace tarvel

@@ -3,16 +3,15 @@
 
 #include "app/form_opt.h"
 #include "app/form_sez.h"
+#include "app/genera_disegno.h"
 #include "app/salvataggio.h"
 #include "app/schema.h"
 #include "base/numeri.h"
-#include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "model/archivio/file_sezioni.h"
 #include "model/nomi_dimensioni.h"
 #include "model/tabella_sezioni.h"
-#include "options/opzioni.h"
 #include "platform/desktop.h"
 #include "preview/anteprima.h"
 
@@ -21,9 +20,26 @@ namespace {
 
 constexpr Colore kBluMarino{0, 0, 128};
 
+// While debugging, an argument to use in place of the command line.
+constexpr char kArgomentoDebug[] = "";
+
 Testo TestoNota() {
   return "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
          "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)"_t;
+}
+
+// Whatever is wrong with the folders ends the program.
+void TrovaCartelle() {
+  Testo argomento = RigaComando();
+  if (const Testo debug = kArgomentoDebug; !debug.empty()) {
+    argomento = debug;
+    MostraMessaggio("Versione di debug ***", kTitoloProgramma, Icona::Informazione);
+  }
+  if (const auto guasto = InizializzaDirettori(argomento)) {
+    const bool senzaArgomento = guasto->tipo == TipoErrore::Argomento;
+    MostraMessaggio(guasto->testo, "ERRORE", senzaArgomento ? Icona::Stop : Icona::Esclamazione);
+    TerminaProgramma(1);
+  }
 }
 
 }  // namespace
@@ -93,20 +109,19 @@ void tarvel1::Form_Load() {
   SezioneSalvata = true;
   ChiusuraEseguita_ = false;
   NumeroProposto = 1;
-  VerticiPoligono[1] = 13;
-  VerticiPoligono[2] = 11;
+  VerticiPoligono = kVerticiCassone;
   SezioneCorrente = 1;
   PrefissoNome = "U_PO_";
   PreparaSalvataggio();
-  InizializzaDirettori();
+  TrovaCartelle();
   FileSezioni = DirLavori + "\\sezio_ut";
   ImpostaTesto(nomute, FileSezioni);
   NomeFileDisegno = kDisegnoTemporaneo;
-  LeggiOpzioni();
+  FormOpt::RileggiOpzioni();
   LeggiDefault();
   ImpostaTesto(nome, ProponiNome(NumeroProposto));
   AggiornaTextParametri();
-  LeggiFileSezioni(false);
+  static_cast<void>(LeggiFileSezioni());  // a job without sections begins with none
   CaricaForm(FormOpt::Unica());
 }
 
@@ -143,8 +158,7 @@ void tarvel1::nome_LostFocus() {
 }
 
 void tarvel1::Command4_Click() {
-  GeneraDisegno(disegno::ModoAvviso::Nessuno);
-  Anteprima();
+  MostraAnteprima();
 }
 
 void tarvel1::Command5_Click() {

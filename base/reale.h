@@ -74,4 +74,7 @@ class Reale {
   double valore_ = 0;
 };
 
+/// Absolute, everywhere: a length, an area, a width not greater than this counts as zero.
+inline constexpr double kTolleranza = 0.0001;
+
 }  // namespace tarvel

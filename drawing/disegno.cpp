@@ -21,6 +21,7 @@ void SvuotaDisegno() {
   Disegno.Linee.numero = 0;
   Disegno.Archi.numero = 0;
   Disegno.Testi.numero = 0;
+  Disegno.avvisi.clear();
 }
 
 }  // namespace tarvel::disegno

@@ -1,12 +1,10 @@
 // The drawing that is being generated: fixed tables of elements over one shared table of
 // coordinates, and the settings that every primitive obeys. An element names its points by their
 // index in Coordinate, never by value.
-//
-// Everything about drawing lives in this namespace, where Testo is the primitive that draws a text;
-// the 8-bit string is tarvel::Testo.
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "base/intero.h"
 #include "base/reale.h"
@@ -15,13 +13,11 @@
 
 namespace tarvel::disegno {
 
-/// Absolute: points nearer than this in X and in Y are one point.
-inline constexpr double kTolleranza = 0.0001;
-
 struct Coordinata {
   Reale x, y;
 };
 
+/// Points nearer than the tolerance in X and in Y are one point.
 inline bool Coincidono(Coordinata a, Coordinata b) {
   return Assoluto(a.x - b.x) < kTolleranza && Assoluto(a.y - b.y) < kTolleranza;
 }
@@ -47,7 +43,7 @@ struct ElementoTesto {
   Intero16 angolo;             // whole degrees
   Intero16 base10, altezza10;  // of one character, times ten
   Intero16 colore;
-  tarvel::Testo stringa;
+  Testo stringa;
 };
 
 /// Places 0 to Ultimo, of which `numero` are taken. The primitives leave the last place free.
@@ -68,11 +64,12 @@ struct TabelleDisegno {
   Elenco<"delle linee", ElementoLinea, 50000> Linee;
   Elenco<"degli archi", ElementoArco, 15000> Archi;
   Elenco<"dei testi", ElementoTesto, 15000> Testi;
+  std::vector<const char*> avvisi;  // of tables that became full, for the user, in their order
 };
 
 extern TabelleDisegno Disegno;
 
-/// Sets every count to 0. The entries keep their values: the extents of a drawing without
+/// Sets every count to 0, without warnings. The entries keep their values: the extents of a drawing without
 /// coordinates are those of place 0.
 void SvuotaDisegno();
 

@@ -4,19 +4,18 @@
 #include <algorithm>
 #include <numbers>
 
-#include "platform/desktop.h"
-
 namespace tarvel::disegno {
 namespace {
 
+// The blanks at both ends are wanted: the texts are fixed.
 constexpr char kTroppeCoordinate[] = " Numero eccessivo di coordinate ";
 constexpr char kTroppiElementi[] = " Numero eccessivo di elementi di disegno ";
 constexpr char kTroppiTesti[] = " Numero eccessivo di testi ";
 
-// Takes the next place of a table; false when there is none. The last one is taken with a warning.
+// Takes the next place of a table; false when there is none. Taking the last one leaves a warning.
 template <class Elenco>
 bool PrendiPosto(Elenco& elenco, const char* avviso) {
-  if (elenco.numero == elenco.kCapienza - 1) MostraMessaggio(avviso, "Problema", Icona::Esclamazione);
+  if (elenco.numero == elenco.kCapienza - 1) Disegno.avvisi.push_back(avviso);
   if (elenco.numero >= elenco.kCapienza) return false;
   ++elenco.numero;
   return true;
@@ -34,7 +33,7 @@ Coordinata ConOrigine(Coordinata p) {
   return {p.x + OrigineX, p.y + OrigineY};
 }
 
-void RegistraTesto(const tarvel::Testo& stringa, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+void RegistraTesto(const Testo& stringa, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
                    Intero16 colore) {
   auto& testi = Disegno.Testi;
   if (!PrendiPosto(testi, kTroppiTesti)) return;
@@ -48,8 +47,8 @@ void RegistraTesto(const tarvel::Testo& stringa, Coordinata posto, Intero16 ango
   if (testo.posizione < 0) --testi.numero;
 }
 
-void TracciaCaratteri(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base,
-                      Reale altezza, Intero16 colore, const Superficie* superficie) {
+void TracciaCaratteri(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+                      Intero16 colore, const Superficie* superficie) {
   const Reale a = Reale(angolo) * std::numbers::pi / 180;
   const Reale coseno = Coseno(a), seno = Seno(a);
   const Reale scalaX = (1 - Reale(SpaziaturaCaratteri) / 100) * base / 99;
@@ -130,8 +129,8 @@ void Cerchio(Coordinata centro, Reale diametro, std::optional<Intero16> colore,
   if (arco.inizio < 0) --archi.numero;
 }
 
-void Testo(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
-           Intero16 colore, const Superficie* superficie) {
+void ScriviTesto(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+                 Intero16 colore, const Superficie* superficie) {
   if (base == 0 || altezza == 0) return;
   if (FlagDisegno)
     RegistraTesto(testo, posto, angolo, base, altezza, colore);

@@ -2,8 +2,8 @@
 // caller hands it a surface, draws onto that one.
 //
 // Coordinates are in drawing units. What is too small to be seen (a segment within the tolerance,
-// a circle of no diameter, a text without size) is passed over. A table announces its last place by
-// one message; after it further elements are dropped in silence.
+// a circle of no diameter, a text without size) is passed over. An element that takes the last place of
+// its table leaves a warning in Disegno; after it further elements are dropped in silence.
 #pragma once
 
 #include <functional>
@@ -45,7 +45,7 @@ void Cerchio(Coordinata centro, Reale diametro, std::optional<Intero16> colore =
 /// A text that begins at `posto`, at whole degrees; `base` is the width of one character cell,
 /// `altezza` the height of the characters. A text recorded in black takes white, its sizes are kept in
 /// tenths; a size that does not fit 16 bits so is a fatal overflow.
-void Testo(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
-           Intero16 colore, const Superficie* superficie = nullptr);
+void ScriviTesto(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+                 Intero16 colore, const Superficie* superficie = nullptr);
 
 }  // namespace tarvel::disegno

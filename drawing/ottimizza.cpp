@@ -121,13 +121,12 @@ void OttimizzaDisegno() {
   TogliCoordinate();
 }
 
-Reale Distanza(Coordinata a, Coordinata b) {
-  const Reale dx = a.x - b.x, dy = a.y - b.y;
-  return Radice(dx * dx + dy * dy);
-}
-
 bool PuntoSuSegmento(Coordinata a, Coordinata b, Coordinata c) {
-  return Distanza(a, b) + Distanza(a, c) - Distanza(b, c) < kTolleranza;
+  const auto lunghezza = [](Coordinata da, Coordinata fino) {
+    const Reale dx = da.x - fino.x, dy = da.y - fino.y;
+    return Radice(dx * dx + dy * dy);
+  };
+  return lunghezza(a, b) + lunghezza(a, c) - lunghezza(b, c) < kTolleranza;
 }
 
 void RimuoviLinea(std::int32_t i) {

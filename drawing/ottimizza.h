@@ -13,8 +13,6 @@ namespace tarvel::disegno {
 /// keeps its order. A line without its first point, index -1, is fatal once it is compared.
 void OttimizzaDisegno();
 
-Reale Distanza(Coordinata a, Coordinata b);
-
 /// Whether A lies on segment BC: the detour over A is shorter than the tolerance.
 bool PuntoSuSegmento(Coordinata a, Coordinata b, Coordinata c);
 

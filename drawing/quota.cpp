@@ -54,9 +54,9 @@ Intero16 AngoloTesto(const Tratto& q) {
   return InteroPari(Arcotangente(q.dy / q.dx) * 180 / 3.141592654);
 }
 
-tarvel::Testo Misura(Reale valore) {
+Testo Misura(Reale valore) {
   const Reale potenza = Potenza(Reale(10), std::max<int>(DecimaliQuote, 0));
-  tarvel::Testo testo;
+  Testo testo;
   AccodaNumero(testo, Arrotondato(valore * potenza) / potenza, SeparatoreDecimale(), true);
   return testo;
 }
@@ -72,25 +72,25 @@ Reale DistanzaEtichetta(bool sta, const StileQuota& stile) {
   return stile.distanzaTesto;
 }
 
-void ScriviEtichetta(const tarvel::Testo& etichetta, const Tratto& q, const StileQuota& stile) {
+void TracciaEtichetta(const Testo& etichetta, const Tratto& q, const StileQuota& stile) {
   const Intero16 angolo = AngoloTesto(q);
   const Reale l = q.lunghezza;
   const Reale larghezza = Reale(static_cast<double>(etichetta.size())) * stile.base;
   const Reale distanza = DistanzaEtichetta(larghezza <= l, stile);
   const Reale x = (q.p1.x + q.p2.x) / 2 - larghezza / 2 * q.dx / l - distanza * q.dy / l;
   const Reale y = (q.p1.y + q.p2.y) / 2 - larghezza / 2 * q.dy / l + distanza * q.dx / l;
-  Testo(etichetta, {x, y}, angolo, stile.base, stile.altezza, stile.coloreTesto);
+  ScriviTesto(etichetta, {x, y}, angolo, stile.base, stile.altezza, stile.coloreTesto);
 }
 
 }  // namespace
 
 void Quota(Coordinata p1, Coordinata p2, const StileQuota& stile) {
   if (const auto q = TracciaQuota(p1, p2, stile))
-    ScriviEtichetta(Misura(Assoluto(stile.scala) * q->lunghezza), *q, stile);
+    TracciaEtichetta(Misura(Assoluto(stile.scala) * q->lunghezza), *q, stile);
 }
 
-void Quota(const tarvel::Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile) {
-  if (const auto q = TracciaQuota(p1, p2, stile)) ScriviEtichetta(testo, *q, stile);
+void Quota(const Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile) {
+  if (const auto q = TracciaQuota(p1, p2, stile)) TracciaEtichetta(testo, *q, stile);
 }
 
 void CatenaQuote(EtichetteCatena etichette, std::span<const Reale> ascisse, Reale y,

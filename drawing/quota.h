@@ -35,7 +35,7 @@ extern bool LatoTestoAlternato;
 /// Nothing is drawn between coinciding points.
 void Quota(Coordinata p1, Coordinata p2, const StileQuota& stile);
 /// The same with a label of its own.
-void Quota(const tarvel::Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile);
+void Quota(const Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile);
 
 enum class EtichetteCatena { Misure, Nessuna };
 

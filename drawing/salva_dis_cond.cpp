@@ -8,7 +8,6 @@
 #include "base/numeri.h"
 #include "drawing/disegno.h"
 #include "drawing/ottimizza.h"
-#include "platform/desktop.h"
 #include "platform/regione.h"
 #include "platform/scrittura.h"
 
@@ -16,7 +15,7 @@ namespace tarvel::disegno {
 namespace {
 
 struct Uscita {
-  tarvel::Testo testo = {};
+  Testo testo = {};
   char separatore = SeparatoreDecimale();
 };
 
@@ -28,7 +27,7 @@ void Stampa(Uscita& uscita, Valori... valori) {
 }
 
 // A text always is one line, or the viewer would lose its place.
-void StampaTesto(Uscita& uscita, tarvel::Testo testo) {
+void StampaTesto(Uscita& uscita, Testo testo) {
   std::replace_if(
       testo.begin(), testo.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
   AccodaRiga(uscita.testo, testo);
@@ -58,7 +57,7 @@ void ScriviSezioni(Uscita& uscita) {
   });
 }
 
-tarvel::Testo ComponiFile(Intestazione intestazione, const Estremi& estremi) {
+Testo ComponiFile(Intestazione intestazione, const Estremi& estremi) {
   Uscita uscita;
   AccodaRiga(uscita.testo, "                   " + std::to_string(static_cast<int>(intestazione)));
   Stampa(uscita, estremi.xmin, estremi.xmax);
@@ -66,15 +65,6 @@ tarvel::Testo ComponiFile(Intestazione intestazione, const Estremi& estremi) {
   AccodaRiga(uscita.testo, "-10000.000000        10000.000000");
   ScriviSezioni(uscita);
   return std::move(uscita.testo);
-}
-
-bool ScriviFileDisegno(const tarvel::Testo& nomeFile, ModoAvviso avvisi, Intestazione intestazione,
-                       const Estremi& estremi) {
-  const bool scritto = ScriviFile(nomeFile, ComponiFile(intestazione, estremi)) == EsitoScrittura::Scritto;
-  // No blank before the name: the text is fixed, and found so by whoever looks for it.
-  if (!scritto && avvisi != ModoAvviso::Nessuno)
-    MostraMessaggio("Errore durante la scrittura sul file" + nomeFile, "ERRORE", Icona::Nessuna);
-  return scritto;
 }
 
 }  // namespace
@@ -89,13 +79,13 @@ Estremi EstremiDisegno() {
   return e;
 }
 
-bool SalvaDisegno(const tarvel::Testo& nomeFile, ModoAvviso avvisi, Intestazione intestazione) {
+std::optional<Guasto> SalvaDisegno(const Testo& nomeFile, Intestazione intestazione) {
   const Estremi estremi = EstremiDisegno();
   OttimizzaDisegno();
-  const bool scritto = ScriviFileDisegno(nomeFile, avvisi, intestazione, estremi);
-  if (scritto && avvisi == ModoAvviso::Tutti)
-    MostraMessaggio("File " + nomeFile + " salvato.", "SALVA FILE DISEGNO", Icona::Informazione);
-  return scritto;
+  const EsitoScrittura esito = ScriviFile(nomeFile, ComponiFile(intestazione, estremi));
+  if (esito) return {};
+  // No blank before the name: the text is fixed, and found so by whoever looks for it.
+  return Guasto{TipoErrore::File, "Errore durante la scrittura sul file" + nomeFile, esito.motivo};
 }
 
 }  // namespace tarvel::disegno

@@ -1,7 +1,7 @@
 // Where files live: the folders of the installation and of the current job.
 #pragma once
 
-#include "base/testo.h"
+#include "base/guasto.h"
 
 namespace tarvel {
 
@@ -13,8 +13,8 @@ extern Testo DirProgra;   // programs, the viewer among them
 extern Testo DirDriver;   // of use to other programs of the installation
 extern Testo DirCustom;   // defaults, drawing options, general section file
 
-/// Derives the folders from the command line ("|diroot=…|") and the two settings files, or says
-/// what is wrong and ends the program. The folders themselves are not tested for existence.
-void InizializzaDirettori();
+/// Derives the folders from the parent application's argument ("|diroot=…|") and the two settings files. A
+/// fault is of the kind Argomento or File. The folders themselves are not tested for existence.
+[[nodiscard]] std::optional<Guasto> InizializzaDirettori(const Testo& argomento);
 
 }  // namespace tarvel

@@ -9,7 +9,7 @@ Intero16 NumeroSezioniFile;
 Intero16 SezioneCorrente = 1;
 bool SezioneCalcolata = false;
 bool SezioneSalvata = true;
-ConteggiVertici VerticiPoligono;
+ConteggiVertici VerticiPoligono = kVerticiCassone;
 
 Intero16 CercaSezione(std::string_view nome) {
   for (int i = 1; i <= NumeroSezioni; ++i)

@@ -22,7 +22,7 @@ extern bool SezioneCalcolata;
 /// Nothing was changed since the last save or since the start.
 extern bool SezioneSalvata;
 
-/// Vertices of each polygon of an outline; the main form's load sets 13 and 11.
+/// Vertices of each polygon of an outline; the main form's load sets those of a box girder.
 extern ConteggiVertici VerticiPoligono;
 
 /// 1-based index of the first record with exactly this name, 0 when there is none.

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "base/guasto.h"
 #include "base/reale.h"
 #include "base/tabella.h"
 #include "base/testo.h"
@@ -77,14 +78,14 @@ inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
 }};
 // clang-format on
 
-/// The options of "CapOpSez.txt" in DirCustom; the built-in defaults when it cannot be opened
-/// (silently) or is short or spoiled (with a message that names the line, the option and what it may be).
-void LeggiOpzioni();
-/// The same of another file.
-void LeggiOpzioni(const Testo& percorso);
+/// "CapOpSez.txt" in DirCustom.
+Testo FileOpzioni();
 
-/// Writes Opzioni to the file; a message when that fails, Opzioni are as they were.
-void ScriviOpzioni();
+/// The options of a file; the built-in defaults when it cannot be opened, which is no fault, or is short or
+/// spoiled: the fault then names the line, the option and what it may be.
+[[nodiscard]] std::optional<Guasto> LeggiOpzioni(const Testo& percorso, VettoreOpzioni& opzioni);
+
+[[nodiscard]] std::optional<Guasto> ScriviOpzioni(const Testo& percorso, const VettoreOpzioni& opzioni);
 
 /// Whether a drawing can hold this value of option i.
 bool Ammesso(int i, Reale valore);

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace tarvel {
@@ -51,6 +52,9 @@ struct Ospite {
   /// Returns when the file's name, an entry of its folder, is on the disk.
   bool (*NomeSulDisco)(const std::string& percorso);
   bool (*Togli)(const std::string& percorso);
+
+  /// Why the last of these calls that failed did so; another call may change it.
+  std::error_code (*Motivo)();
 };
 
 /// The system's own calls.

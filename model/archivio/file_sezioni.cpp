@@ -8,7 +8,6 @@
 #include "base/numeri.h"
 #include "model/archivio/righe_sezione.h"
 #include "model/tabella_sezioni.h"
-#include "platform/desktop.h"
 #include "platform/scrittura.h"
 
 namespace tarvel {
@@ -51,36 +50,35 @@ void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
   if (nostro && !SostituisciFile(FileCopia(), *vecchio, FileSezioni)) {
     esito.scritte = file->Sostituisci(testo);
     if (!esito.scritte)
-      esito.ostacolo = "Non si può fare né la copia "_t + FileCopia() + " né un file nuovo accanto."_t;
+      esito.ostacolo = "Non si può fare né la copia "_t + FileCopia() + " né un file nuovo accanto: "_t +
+                       esito.scritte.motivo + ".";
     return;
   }
-  const EsitoScrittura scritto = file->Riscrivi(testo);
-  FileSezioniIntero = scritto != EsitoScrittura::Incompleto;
+  esito.scritte = file->Riscrivi(testo);
+  FileSezioniIntero = esito.scritte != EsitoScrittura::Incompleto;
   if (!FileSezioniIntero)
-    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
+    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita: " + esito.scritte.motivo,
                        "il file " + FileSezioni + " può essere incompleto; "_t +
                            DoveLaCopia(nostro ? FileCopia() : esito.altro));
-  esito.scritte = scritto == EsitoScrittura::Scritto;
 }
 
 }  // namespace
 
-void LeggiFileSezioni(bool mostraErrore) {
+std::optional<Guasto> LeggiFileSezioni() {
   // Another program may be writing it: half a file is not read. Who may not write it reads it all the same.
   const auto daSoli = FileDaRiscrivere::Apri(FileSezioni);
-  auto file = FileInLettura::Apri(FileSezioni);
+  Testo motivo;
+  auto file = FileInLettura::Apri(FileSezioni, &motivo);
   gImpronta.reset();
   gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;
-  if (!file) {
-    if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
-    return;
-  }
+  if (!file) return Guasto{TipoErrore::File, "File " + FileSezioni + " non trovato", motivo};
   try {
     NumeroSezioniFile = LeggiConteggio(*file, kMaxSezioni, "sezioni");
     NumeroSezioni = NumeroSezioniFile;
     for (int i = 1; i <= NumeroSezioni; ++i) LeggiSezione(*file, TabellaSezioni[i]);
     file->PretendiFine();
     gImpronta = file->ImprontaLetta();
+    return {};
   } catch (ErroreFatale& errore) {
     if (GenereFile(FileCopia()) == TipoVoce::File) errore.dove += "; " + DoveLaCopia(FileCopia());
     throw;

@@ -4,9 +4,11 @@
 
 #include <string_view>
 
+#include "base/guasto.h"
 #include "base/intero.h"
 #include "base/testo.h"
 #include "model/archivio/copie_sezioni.h"
+#include "platform/scrittura.h"
 
 namespace tarvel {
 
@@ -20,18 +22,17 @@ extern Testo PrefissoNome;
 extern Intero16 NumeroProposto;
 
 /// Replaces the table by the file's content, once nobody writes it; slots above the file's count keep theirs.
-/// A file that is missing or cannot be opened leaves everything as it is, with a message when `mostraErrore`.
-/// A malformed file is fatal, with file and line and the copy to go back to, if there is one; what was read
-/// before stays in the table.
-void LeggiFileSezioni(bool mostraErrore);
+/// A file that is missing or cannot be opened leaves everything as it is. A malformed file is fatal, with
+/// file and line and the copy to go back to, if there is one; what was read before stays in the table.
+[[nodiscard]] std::optional<Guasto> LeggiFileSezioni();
 
 /// What became of writing the table.
 struct EsitoSezioni {
-  bool scritte = false;  // otherwise nothing has changed
-  Testo ostacolo;        // what could not be made, in a sentence, where it is not the file itself
-  Testo altro;           // where the file is kept as another program had left it; "" where none had
-  Testo copia;           // where its copy is kept, if it is no section file; "" where there was none
-  Confronto confronto;   // of that one's sections with the table's
+  EsitoScrittura scritte{EsitoScrittura::NonAperto};
+  Testo ostacolo;       // what could not be made, in a sentence, where it is not the file itself
+  Testo altro;          // where the file is kept as another program had left it; "" where none had
+  Testo copia;          // where its copy is kept, if it is no section file; "" where there was none
+  Confronto confronto;  // of that one's sections with the table's
 };
 
 /// Writes the whole table, on the disk when it returns. A record that cannot be written (a number too large

@@ -39,8 +39,8 @@ class ProvaFile : public testing::Test {
     Scrivi(percorso, testo);
     NumeroSezioni = 0;
     try {
-      LeggiFileSezioni(false);
-      return "";
+      const auto guasto = LeggiFileSezioni();
+      return guasto ? guasto->testo : "";
     } catch (const ErroreFatale& e) {
       return e.Messaggio();
     }
@@ -140,7 +140,8 @@ TEST_F(ProvaFile, QuelloCheSiScriveSiRilegge) {
 
 TEST_F(ProvaFile, QuelloCheUnAltroHaScrittoEConservatoSeEDiverso) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
-  LeggiFileSezioni(false);
+  EXPECT_EQ(LeggiFileSezioni()->ConMotivo(),
+            "File " + FileSezioni + " non trovato: file o cartella inesistente");
   Scrivi(percorso, ComponiFileSezioni(RigheSezioni()));
   EXPECT_EQ(ScriviFileSezioni().altro, "");
   Scrivi(percorso, "0\r\n");

@@ -23,6 +23,7 @@ std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DW
   if (file == INVALID_HANDLE_VALUE) return std::nullopt;
   if (GetFileType(file) == FILE_TYPE_DISK) return reinterpret_cast<Ospite::Maniglia>(file);
   CloseHandle(file);
+  SetLastError(ERROR_BAD_UNIT);
   return std::nullopt;
 }
 
@@ -120,6 +121,10 @@ bool Togli(const std::string& percorso) {
   return DeleteFileW(PercorsoLargo(percorso).c_str()) != 0;
 }
 
+std::error_code Motivo() {
+  return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
 }  // namespace
 
 const Ospite kOspiteSistema = {.Genere = Genere,
@@ -134,6 +139,7 @@ const Ospite kOspiteSistema = {.Genere = Genere,
                                .Chiudi = Chiudi,
                                .Rinomina = Rinomina,
                                .NomeSulDisco = NomeSulDisco,
-                               .Togli = Togli};
+                               .Togli = Togli,
+                               .Motivo = Motivo};
 
 }  // namespace tarvel
