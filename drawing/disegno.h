@@ -17,6 +17,11 @@ struct Coordinata {
   Reale x, y;
 };
 
+inline Reale Lunghezza(Coordinata da, Coordinata a) {
+  const Reale dx = a.x - da.x, dy = a.y - da.y;
+  return Radice(dx * dx + dy * dy);
+}
+
 /// Points nearer than the tolerance in X and in Y are one point.
 inline bool Coincidono(Coordinata a, Coordinata b) {
   return Assoluto(a.x - b.x) < kTolleranza && Assoluto(a.y - b.y) < kTolleranza;
@@ -53,6 +58,10 @@ struct Elenco {
 
   T& operator[](long long i) { return voci[i]; }
   const T& operator[](long long i) const { return voci[i]; }
+  auto begin() { return voci.begin(); }
+  auto end() { return voci.begin() + numero; }
+  auto begin() const { return voci.begin(); }
+  auto end() const { return voci.begin() + numero; }
 
   std::int32_t numero = 0;
   Tabella<Nome, T, 0, Ultimo> voci;

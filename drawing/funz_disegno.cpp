@@ -12,13 +12,11 @@ constexpr char kTroppeCoordinate[] = " Numero eccessivo di coordinate ";
 constexpr char kTroppiElementi[] = " Numero eccessivo di elementi di disegno ";
 constexpr char kTroppiTesti[] = " Numero eccessivo di testi ";
 
-// Takes the next place of a table; false when there is none. Taking the last one leaves a warning.
+// Takes the next place of a table, null when there is none. Taking the last one leaves a warning.
 template <class Elenco>
-bool PrendiPosto(Elenco& elenco, const char* avviso) {
+auto* PrendiPosto(Elenco& elenco, const char* avviso) {
   if (elenco.numero == elenco.kCapienza - 1) Disegno.avvisi.push_back(avviso);
-  if (elenco.numero >= elenco.kCapienza) return false;
-  ++elenco.numero;
-  return true;
+  return elenco.numero < elenco.kCapienza ? &elenco[elenco.numero++] : nullptr;
 }
 
 Intero16 ColoreScelto(std::optional<Intero16> colore, const Superficie* superficie) {
@@ -35,16 +33,15 @@ Coordinata ConOrigine(Coordinata p) {
 
 void RegistraTesto(const Testo& stringa, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
                    Intero16 colore) {
-  auto& testi = Disegno.Testi;
-  if (!PrendiPosto(testi, kTroppiTesti)) return;
-  ElementoTesto& testo = testi[testi.numero - 1];
-  testo.posizione = AggiungiCoordinata(ConOrigine(posto));
-  testo.base10 = InteroPari(base * 10);
-  testo.altezza10 = InteroPari(altezza * 10);
-  testo.angolo = angolo;
-  testo.colore = NeroInBianco(colore);
-  testo.stringa = stringa;
-  if (testo.posizione < 0) --testi.numero;
+  ElementoTesto* const testo = PrendiPosto(Disegno.Testi, kTroppiTesti);
+  if (testo == nullptr) return;
+  *testo = {.posizione = AggiungiCoordinata(ConOrigine(posto)),
+            .angolo = angolo,
+            .base10 = InteroPari(base * 10),
+            .altezza10 = InteroPari(altezza * 10),
+            .colore = NeroInBianco(colore),
+            .stringa = stringa};
+  if (testo->posizione < 0) --Disegno.Testi.numero;
 }
 
 void TracciaCaratteri(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
@@ -75,21 +72,21 @@ Intero16 AggiungiCoordinata(Coordinata p) {
   const int piuLontana = std::max(coordinate.numero - 31, 0);
   for (int i = ultima; i >= piuLontana; --i)
     if (Coincidono(p, coordinate[i])) return i;
-  if (!PrendiPosto(coordinate, kTroppeCoordinate)) return -1;
-  coordinate[coordinate.numero - 1] = p;
+  Coordinata* const nuova = PrendiPosto(coordinate, kTroppeCoordinate);
+  if (nuova == nullptr) return -1;
+  *nuova = p;
   return coordinate.numero - 1;
 }
 
 void AggiungiLinea(Coordinata da, Coordinata a, Intero16 colore) {
-  auto& linee = Disegno.Linee;
-  if (!PrendiPosto(linee, kTroppiElementi)) return;
-  ElementoLinea& linea = linee[linee.numero - 1];
-  linea.primo = AggiungiCoordinata(da);
-  linea.secondo = AggiungiCoordinata(a);
-  linea.tipo = TipoLineaCorrente;
-  linea.colore = colore;
+  ElementoLinea* const linea = PrendiPosto(Disegno.Linee, kTroppiElementi);
+  if (linea == nullptr) return;
+  *linea = {.primo = AggiungiCoordinata(da),
+            .secondo = AggiungiCoordinata(a),
+            .colore = colore,
+            .tipo = TipoLineaCorrente};
   // A line that lacks only its first point stays: who reads the file knows of -1 there.
-  if (linea.secondo < 0) --linee.numero;
+  if (linea->secondo < 0) --Disegno.Linee.numero;
 }
 
 void Linea(Coordinata da, Coordinata a, std::optional<Intero16> colore, const Superficie* superficie) {
@@ -113,20 +110,18 @@ void Cerchio(Coordinata centro, Reale diametro, std::optional<Intero16> colore,
     superficie->arco(centro, r, inizio, fine, ColoreRGB(scelto));
     return;
   }
-  auto& archi = Disegno.Archi;
-  if (!PrendiPosto(archi, kTroppiElementi)) return;
-  ElementoArco& arco = archi[archi.numero - 1];
+  ElementoArco* const arco = PrendiPosto(Disegno.Archi, kTroppiElementi);
+  if (arco == nullptr) return;
   const Coordinata c = ConOrigine(centro);
   const auto a = [&](Reale angolo) -> Coordinata {
     return {c.x + r * Coseno(angolo), c.y + r * Seno(angolo)};
   };
-  arco.centro = AggiungiCoordinata(c);
-  arco.inizio = AggiungiCoordinata(a(inizio));
-  arco.secondoCentro = arco.centro;
-  arco.fine = AggiungiCoordinata(a(fine));
-  arco.genere = 0;
-  arco.colore = NeroInBianco(scelto);
-  if (arco.inizio < 0) --archi.numero;
+  arco->centro = arco->secondoCentro = AggiungiCoordinata(c);
+  arco->inizio = AggiungiCoordinata(a(inizio));
+  arco->fine = AggiungiCoordinata(a(fine));
+  arco->genere = 0;
+  arco->colore = NeroInBianco(scelto);
+  if (arco->inizio < 0) --Disegno.Archi.numero;
 }
 
 void ScriviTesto(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,

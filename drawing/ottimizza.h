@@ -1,8 +1,6 @@
 // Compaction of the drawing: what adds nothing to the picture is dropped before the file is written.
 #pragma once
 
-#include <cstdint>
-
 #include "drawing/disegno.h"
 
 namespace tarvel::disegno {
@@ -15,13 +13,5 @@ void OttimizzaDisegno();
 
 /// Whether A lies on segment BC: the detour over A is shorter than the tolerance.
 bool PuntoSuSegmento(Coordinata a, Coordinata b, Coordinata c);
-
-// --- The later entries of the table move down by one.
-
-void RimuoviLinea(std::int32_t i);
-void RimuoviArco(std::int32_t i);
-void RimuoviTesto(std::int32_t i);
-/// References to later coordinates follow them.
-void RimuoviCoordinata(std::int32_t k);
 
 }  // namespace tarvel::disegno

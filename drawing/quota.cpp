@@ -25,8 +25,7 @@ struct Tratto {
 Tratto Orientato(Coordinata p1, Coordinata p2) {
   const bool indietro = Assoluto(p1.x - p2.x) >= kTolleranza ? p1.x > p2.x : p1.y > p2.y;
   if (indietro) std::swap(p1, p2);
-  const Reale dx = p2.x - p1.x, dy = p2.y - p1.y;
-  return {p1, p2, dx, dy, Radice(dx * dx + dy * dy)};
+  return {p1, p2, p2.x - p1.x, p2.y - p1.y, Lunghezza(p1, p2)};
 }
 
 void TracciaLinee(const Tratto& q, const StileQuota& stile) {
