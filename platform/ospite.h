@@ -11,6 +11,8 @@
 #include <system_error>
 #include <vector>
 
+#include "base/testo.h"
+
 namespace tarvel {
 
 /// What stands under a name, links followed. Ignota: the host does not tell (a folder that cannot be
@@ -62,5 +64,8 @@ extern const Ospite kOspiteSistema;
 
 /// The calls in use.
 const Ospite& OspiteDeiFile();
+
+/// Motivo in the user's words: "disco pieno"; the system's own number for what has none here.
+Testo MotivoOspite();
 
 }  // namespace tarvel

@@ -4,7 +4,6 @@
 
 #include "base/errore.h"
 #include "base/numeri.h"
-#include "platform/comune/motivo.h"
 #include "platform/comune/percorso.h"
 #include "platform/file.h"
 

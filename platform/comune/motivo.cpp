@@ -1,10 +1,10 @@
-#include "platform/comune/motivo.h"
-
+// The host's reasons in the user's words, for every system.
 #include "platform/ospite.h"
 
 namespace tarvel {
 
-Testo InParole(std::error_code motivo) {
+Testo MotivoOspite() {
+  const std::error_code motivo = OspiteDeiFile().Motivo();
   static constexpr struct {
     std::errc quale;
     const char* parole;
@@ -27,10 +27,6 @@ Testo InParole(std::error_code motivo) {
   for (const auto& m : kMotivi)
     if (motivo == m.quale) return DaUtf8(m.parole);
   return "errore " + std::to_string(motivo.value()) + " del sistema";
-}
-
-Testo MotivoOspite() {
-  return InParole(OspiteDeiFile().Motivo());
 }
 
 }  // namespace tarvel

@@ -3,7 +3,6 @@
 
 #include <random>
 
-#include "platform/comune/motivo.h"
 #include "platform/comune/percorso.h"
 
 namespace tarvel {
@@ -82,8 +81,6 @@ EsitoScrittura ScriviFile(const Testo& percorso, std::string_view testo, bool su
   const auto host = PercorsoHost(percorso);
   const TipoVoce voce = host ? ospite.Genere(*host) : TipoVoce::Ignota;
   if (voce == TipoVoce::Ignota) return NonRiuscito(EsitoScrittura::NonAperto);
-  if (voce == TipoVoce::Cartella)
-    return {EsitoScrittura::NonAperto, InParole(std::make_error_code(std::errc::is_a_directory))};
   if (voce != TipoVoce::Assente) {
     // Who may not write into a file may not put another in its place.
     const auto aperto = ospite.ApriRiscrittura(*host);

@@ -27,6 +27,11 @@ std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DW
   return std::nullopt;
 }
 
+// Another program has the file.
+bool Occupato(DWORD errore) {
+  return errore == ERROR_SHARING_VIOLATION || errore == ERROR_LOCK_VIOLATION;
+}
+
 TipoVoce Genere(const std::string& percorso) {
   const DWORD attributi = GetFileAttributesW(PercorsoLargo(percorso).c_str());
   if (attributi == INVALID_FILE_ATTRIBUTES) {
@@ -62,9 +67,7 @@ std::optional<Ospite::Maniglia> ApriRiscrittura(const std::string& percorso) {
   constexpr DWORD kAttesa = 5000, kPasso = 20;  // milliseconds
   for (DWORD atteso = 0;; atteso += kPasso) {
     const auto file = Apri(percorso, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
-    const DWORD errore = GetLastError();
-    const bool occupato = errore == ERROR_SHARING_VIOLATION || errore == ERROR_LOCK_VIOLATION;
-    if (file || !occupato || atteso >= kAttesa) return file;
+    if (file || !Occupato(GetLastError()) || atteso >= kAttesa) return file;
     Sleep(kPasso);
   }
 }
@@ -122,7 +125,9 @@ bool Togli(const std::string& percorso) {
 }
 
 std::error_code Motivo() {
-  return {static_cast<int>(GetLastError()), std::system_category()};
+  const DWORD errore = GetLastError();
+  if (Occupato(errore)) return std::make_error_code(std::errc::resource_unavailable_try_again);
+  return {static_cast<int>(errore), std::system_category()};
 }
 
 }  // namespace
