@@ -1,6 +1,7 @@
 #include "app/genera_disegno.h"
 
-#include "base/errore.h"
+#include <exception>
+
 #include "drawing/salva_dis_cond.h"
 #include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
@@ -11,39 +12,30 @@
 #include "preview/anteprima.h"
 
 namespace tarvel {
-namespace {
-
-void MostraAvvisi() {
-  for (const char* avviso : disegno::Disegno.avvisi) MostraMessaggio(avviso, "Problema", Icona::Esclamazione);
-}
-
-void Salva(const Testo& file, ModoAvviso avvisi) {
-  const auto guasto = disegno::SalvaDisegno(file);
-  if (guasto && avvisi != ModoAvviso::Nessuno) MostraMessaggio(guasto->testo, "ERRORE", Icona::Nessuna);
-  if (!guasto && avvisi == ModoAvviso::Tutti)
-    MostraMessaggio("File " + file + " salvato.", "SALVA FILE DISEGNO", Icona::Informazione);
-}
-
-}  // namespace
 
 void ConAvvisi(const std::function<void()>& disegna) {
+  std::exception_ptr fatale;
   try {
     disegna();
   } catch (const ErroreFatale&) {
-    MostraAvvisi();
-    throw;
+    fatale = std::current_exception();
   }
-  MostraAvvisi();
+  for (const char* avviso : disegno::Disegno.avvisi) MostraMessaggio(avviso, "Problema", Icona::Esclamazione);
+  if (fatale) std::rethrow_exception(fatale);
 }
 
 void GeneraDisegno(ModoAvviso avvisi) {
   RecordSezione& r = TabellaSezioni[SezioneCorrente];
+  const Testo file = DirLavori + NomeFileDisegno;
   const auto genera = [&] {
     if (!SezioneCalcolata) RifaiContorno(r, ParametriSezione);
     ConAvvisi([&] { DisegnaSezione(r, ParametriSezione, StileDi(Opzioni), SezioneCalcolata); });
-    Salva(DirLavori + NomeFileDisegno, avvisi);
+    return disegno::SalvaDisegno(file);
   };
-  Durante([&] { return SullaSezione("disegno", r.Nome); }, genera, kNonCassone);
+  const auto guasto = Durante([&] { return SullaSezione("disegno", r.Nome); }, genera, kNonCassone);
+  if (guasto && avvisi != ModoAvviso::Nessuno) MostraMessaggio(guasto->testo, "ERRORE", Icona::Nessuna);
+  if (!guasto && avvisi == ModoAvviso::Tutti)
+    MostraMessaggio("File " + file + " salvato.", "SALVA FILE DISEGNO", Icona::Informazione);
 }
 
 void MostraAnteprima() {

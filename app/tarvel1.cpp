@@ -20,26 +20,22 @@ namespace {
 
 constexpr Colore kBluMarino{0, 0, 128};
 
-// While debugging, an argument to use in place of the command line.
-constexpr char kArgomentoDebug[] = "";
+// While debugging, an argument in place of the command line's.
+constexpr std::string_view kArgomentoDebug;
 
-Testo TestoNota() {
-  return "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
-         "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)"_t;
-}
+constexpr char kNota[] =
+    "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
+    "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)";
 
 // Whatever is wrong with the folders ends the program.
 void TrovaCartelle() {
-  Testo argomento = RigaComando();
-  if (const Testo debug = kArgomentoDebug; !debug.empty()) {
-    argomento = debug;
-    MostraMessaggio("Versione di debug ***", kTitoloProgramma, Icona::Informazione);
-  }
-  if (const auto guasto = InizializzaDirettori(argomento)) {
-    const bool senzaArgomento = guasto->tipo == TipoErrore::Argomento;
-    MostraMessaggio(guasto->testo, "ERRORE", senzaArgomento ? Icona::Stop : Icona::Esclamazione);
-    TerminaProgramma(1);
-  }
+  const bool debug = !kArgomentoDebug.empty();
+  if (debug) MostraMessaggio("Versione di debug ***", kTitoloProgramma, Icona::Informazione);
+  const auto guasto = InizializzaDirettori(debug ? Testo(kArgomentoDebug) : RigaComando());
+  if (!guasto) return;
+  const bool senzaArgomento = guasto->tipo == TipoErrore::Argomento;
+  MostraMessaggio(guasto->testo, "ERRORE", senzaArgomento ? Icona::Stop : Icona::Esclamazione);
+  TerminaProgramma(1);
 }
 
 }  // namespace
@@ -75,7 +71,7 @@ tarvel1::tarvel1() {
   nomute = NuovoControllo(TipoControllo::Etichetta, "nomute", {1524, 4404, 2460, 156});
   nomute.coloreTesto = kBluMarino;
   nomute.carattere.grassetto = true;
-  Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, TestoNota());
+  Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, DaUtf8(kNota));
   Label2 = NuovoControllo(TipoControllo::Etichetta, "Label2", {7296, 3768, 912, 156}, "Nome sezione:");
 
   const struct {

@@ -10,6 +10,9 @@
 
 namespace tarvel {
 
+/// Absolute, everywhere: a magnitude not greater than this counts as zero.
+inline constexpr double kTolleranza = 0.0001;
+
 [[noreturn]] void ErroreOverflow();
 [[noreturn]] void ErroreNonValida(const char* operazione);
 [[noreturn]] void ErroreDivisione(bool zeroSuZero);
@@ -73,8 +76,5 @@ class Reale {
 
   double valore_ = 0;
 };
-
-/// Absolute, everywhere: a length, an area, a width not greater than this counts as zero.
-inline constexpr double kTolleranza = 0.0001;
 
 }  // namespace tarvel

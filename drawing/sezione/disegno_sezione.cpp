@@ -1,6 +1,7 @@
 // Dimensions stand in tables, as on a drawing; the order of drawing is the order of the file.
 #include "drawing/sezione/disegno_sezione.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/errore.h"
@@ -41,7 +42,7 @@ void DisegnaTitolo(const RecordSezione& r, const StileSezione& stile, Reale d) {
                                           .scala = 1,
                                           .estensione = 0,
                                           .lato = Lato::Destra};
-  const Reale y = Massimo(r.O(1).y, r.O(10).y) + 3 * d;
+  const Reale y = std::max(r.O(1).y, r.O(10).y) + 3 * d;
   disegno::Quota("SEZIONE " + r.Nome, {r.O(1).z, y}, {r.O(10).z, y}, solaEtichetta);
 }
 
@@ -58,8 +59,8 @@ void DisegnaCatene(const GeometriaSezione& g, disegno::StileQuota stile, Reale d
   } catene[] = {
       {{O(1).z, O(10).z},                            2, sopra + 2 * d,                  Lato::Destra},    // overall
       {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                      Lato::Destra},    // top
-      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, Minimo(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
-      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, Minimo(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
+      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, std::min(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
+      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, std::min(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
   };
   // clang-format on
   for (const auto& c : catene) {
@@ -174,7 +175,7 @@ void DisegnaSezione(const RecordSezione& r, const VettoreParametri& p, const Sti
   disegno::TipoLineaCorrente = stile.tipoLinea;
   DisegnaContorni(r);
 
-  const Reale d = Minimo(stile.distanzaMassima, p[kAltezzaTotale] / 2);
+  const Reale d = std::min(stile.distanzaMassima, p[kAltezzaTotale] / 2);
   DisegnaTitolo(r, stile, d);
   DisegnaCatene(r, stile.quota, d);
   DisegnaQuote(r, p, stile, d);
