@@ -10,8 +10,8 @@ namespace tarvel {
 
 /// Table index picked in FormSez, 0 for none. The close box leaves it as it was.
 extern Intero16 SezioneScelta;
-/// How many entries were selected in FormSez2 when it was last closed by its button, and which (kept for
-/// whoever continues with them; the recalculation counts them only).
+/// How many entries were selected in FormSez2 when its button last closed it, and which ones. The
+/// recalculation uses their number only.
 extern Intero16 NumeroScelte;
 extern Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
 

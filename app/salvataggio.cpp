@@ -1,4 +1,4 @@
-// What a fatal error or a failed save has to keep, and where.
+
 #include "app/salvataggio.h"
 
 #include <optional>

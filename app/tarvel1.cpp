@@ -27,7 +27,7 @@ constexpr char kNota[] =
     "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
     "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)";
 
-// Whatever is wrong with the folders ends the program.
+// A fault in the folders ends the program.
 void TrovaCartelle() {
   const bool debug = !kArgomentoDebug.empty();
   if (debug) MostraMessaggio("Versione di debug ***", kTitoloProgramma, Icona::Informazione);

@@ -29,7 +29,7 @@ inline bool Coincidono(Coordinata a, Coordinata b) {
 
 struct ElementoPunto {
   std::int32_t coordinata = 0;
-  Intero16 attributoA, attributoB;  // carried to the file for the viewer
+  Intero16 attributoA, attributoB;  // for the viewer
 };
 
 struct ElementoLinea {
@@ -51,7 +51,8 @@ struct ElementoTesto {
   Testo stringa;
 };
 
-/// Places 0 to Ultimo, of which `numero` are taken. The primitives leave the last place free.
+/// Places 0 to Ultimo, of which `numero` are taken: begin() to end(). The primitives leave the last place
+/// free.
 template <NomeTabella Nome, class T, int Ultimo>
 struct Elenco {
   static constexpr std::int32_t kCapienza = Ultimo;
@@ -78,11 +79,11 @@ struct TabelleDisegno {
 
 extern TabelleDisegno Disegno;
 
-/// Sets every count to 0, without warnings. The entries keep their values: the extents of a drawing without
-/// coordinates are those of place 0.
+/// Sets every count to 0 and drops the warnings. The entries keep their values: the extents of a drawing
+/// without coordinates are those of place 0.
 void SvuotaDisegno();
 
-// --- Settings; each keeps its value from one drawing to the next.
+// --- Settings. Each keeps its value from one drawing to the next.
 
 /// Added to whatever is recorded into Disegno, not to what is drawn onto a surface. A section's drawing
 /// has its origin at 0.
@@ -94,12 +95,11 @@ extern Intero16 TipoLineaCorrente;
 /// While a drawing file is being generated: texts are then recorded as texts, otherwise drawn by the
 /// strokes of the font.
 extern bool FlagDisegno;
-/// Decimals of a measured dimension; a negative number counts as 0. A setting that no option sets yet.
+/// Decimals of a measured dimension; a negative number counts as 0. No option sets it.
 extern Intero16 DecimaliQuote;
 
 // --- The stroke font, by character code: glyphs 99 units wide and 69 high, their baseline at
-// ordinate 30. Two consecutive points are one stroke. The place for a font: none is supplied, all of it
-// is 0.
+// ordinate 30. Two consecutive points are one stroke. No font is supplied: all values are 0.
 
 template <NomeTabella Nome>
 using OrdinateFont = Tabella<"dei caratteri", Tabella<Nome, Intero16, 0, 100>, 0, 255>;

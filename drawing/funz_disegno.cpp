@@ -1,4 +1,4 @@
-// The primitives and the one way to take a place in a table.
+// The drawing primitives.
 #include "drawing/funz_disegno.h"
 
 #include <algorithm>
@@ -68,7 +68,7 @@ void TracciaCaratteri(const Testo& testo, Coordinata posto, Intero16 angolo, Rea
 Intero16 AggiungiCoordinata(Coordinata p) {
   auto& coordinate = Disegno.Coordinate;
   const Intero16 ultima = coordinate.numero - 1;
-  // Not farther back, so that adding stays cheap; the file may hold a point twice.
+  // No farther back, so that adding stays cheap. That the file may hold a point twice is wanted.
   const int piuLontana = std::max(coordinate.numero - 31, 0);
   for (int i = ultima; i >= piuLontana; --i)
     if (Coincidono(p, coordinate[i])) return i;
@@ -85,7 +85,7 @@ void AggiungiLinea(Coordinata da, Coordinata a, Intero16 colore) {
             .secondo = AggiungiCoordinata(a),
             .colore = colore,
             .tipo = TipoLineaCorrente};
-  // A line that lacks only its first point stays: who reads the file knows of -1 there.
+  // A line that lacks only its first point stays, with -1 there. That is wanted.
   if (linea->secondo < 0) --Disegno.Linee.numero;
 }
 

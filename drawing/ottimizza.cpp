@@ -1,5 +1,4 @@
-// Five phases, each of which compares whatever it has to compare: a section's drawing has some two
-// hundred elements, and nothing draws larger ones.
+// Five phases, quadratic in the number of elements: a section's drawing has some two hundred.
 #include "drawing/ottimizza.h"
 
 #include <algorithm>

@@ -40,7 +40,7 @@ void TracciaLinee(const Tratto& q, const StileQuota& stile) {
     Linea({p.x - aSinistra * ey, p.y + aSinistra * ex}, {p.x + aDestra * ey, p.y - aDestra * ex}, colore);
 }
 
-// All of a dimension but its label; nothing between coinciding points.
+// Draws a dimension without its label. Nothing is drawn between coinciding points.
 std::optional<Tratto> TracciaQuota(Coordinata p1, Coordinata p2, const StileQuota& stile) {
   if (Coincidono(p1, p2)) return std::nullopt;
   const Tratto q = Orientato(p1, p2);
@@ -60,7 +60,8 @@ Testo Misura(Reale valore) {
   return testo;
 }
 
-// How far the label lies to the left of the line; keeps the alternation of a chain.
+// How far the label lies to the left of the line. `sta`: it fits the dimension. In a chain the sides
+// alternate.
 Reale DistanzaEtichetta(bool sta, const StileQuota& stile) {
   if (sta) {
     LatoTestoAlternato = false;

@@ -1,4 +1,4 @@
-// Writing the drawing file: printed items, one line an entry, sections in a fixed order.
+// The viewer expects printed items, one line an entry, sections in this order.
 #include "drawing/salva_dis_cond.h"
 
 #include <algorithm>
@@ -58,7 +58,7 @@ std::optional<Guasto> SalvaDisegno(const Testo& nomeFile, Intestazione intestazi
   OttimizzaDisegno();
   const EsitoScrittura esito = ScriviFile(nomeFile, ComponiFile(intestazione, estremi));
   if (esito) return {};
-  // No blank before the name: the text is fixed, and found so by whoever looks for it.
+  // The blank that lacks before the name is wanted: the text is fixed.
   return Guasto{TipoErrore::File, "Errore durante la scrittura sul file" + nomeFile, esito.motivo};
 }
 

@@ -6,7 +6,7 @@
 
 namespace tarvel::disegno {
 
-/// The digit that the file begins with. The viewer reads both; this program writes the first.
+/// The digit in the first line of the file. The viewer reads both; this program writes Tre.
 enum class Intestazione { Tre = 3, Quattro = 4 };
 
 struct Estremi {

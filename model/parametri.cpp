@@ -12,7 +12,7 @@ VettoreParametri ParametriSezione;
 
 namespace {
 
-// A file that is there and that the host did not let read: what it holds is not known, so it stays.
+// The host did not let the existing file be read. What it holds is not known, so it is not replaced.
 bool gIntoccabile = false;
 
 Testo FileDefault() {

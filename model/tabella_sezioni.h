@@ -17,7 +17,7 @@ extern Intero16 NumeroSezioniFile;
 /// The record shown and drawn; 1 at start, even while the table is empty.
 extern Intero16 SezioneCorrente;
 
-/// The current record reflects the boxes.
+/// The boxes have not changed since the current record was calculated or read back.
 extern bool SezioneCalcolata;
 /// Nothing was changed since the last save or since the start.
 extern bool SezioneSalvata;

@@ -36,8 +36,8 @@ enum Opzione {
   kAltezzaTesti,
 };
 
-/// What an option may be. The drawing keeps it as a whole number so many times as large, 16 bits
-/// wide; 0 times: as it is.
+/// The values that an option may have. The drawing keeps `volte` times the value as a whole number of 16
+/// bits; where `volte` is 0, the value as it is.
 struct GenereOpzione {
   const char* cosa;
   double minimo, massimo;
@@ -46,7 +46,7 @@ struct GenereOpzione {
 
 inline constexpr GenereOpzione kCodice = {"un numero intero", -32768, 32767, 1};
 inline constexpr GenereOpzione kCarattere = {"un numero", -3276.8, 3276.7, 10};
-/// Far beyond any drawing, far from where its squares overflow.
+/// Far beyond any drawing, and far below the numbers whose squares overflow.
 inline constexpr GenereOpzione kMisura = {"un numero", -1e15, 1e15, 0};
 
 struct VoceOpzione {
@@ -56,8 +56,7 @@ struct VoceOpzione {
   GenereOpzione genere;
 };
 
-/// One entry an option, in order. 14 and 15 have the file labels of 9 and 10: only their place tells
-/// them apart.
+/// One entry an option, in order. 14 and 15 have the file labels of 9 and 10; only their places differ.
 // clang-format off
 inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
     {"colore sezione",                            "Colore sezione",                            disegno::kRosso,   kCodice},

@@ -1,4 +1,4 @@
-// Dimensions stand in tables, as on a drawing; the order of drawing is the order of the file.
+// Dimensions stand in tables. They are drawn in this order, which is the order of the file.
 #include "drawing/sezione/disegno_sezione.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ void DisegnaContorni(const GeometriaSezione& g) {
     };
     Durante(operazione, [&] {
       for (int k = 1; k < n; ++k) disegno::Linea(punto(k), punto(k + 1));
-      // Of a polygon without vertices too: that is fatal, rather than a drawing that lacks it.
+      // A polygon without vertices is fatal here, rather than missing in the drawing.
       disegno::Linea(punto(n), punto(1));
     });
   }
@@ -57,8 +57,8 @@ void DisegnaCatene(const GeometriaSezione& g, disegno::StileQuota stile, Reale d
     Reale y;
     Lato lato;
   } catene[] = {
-      {{O(1).z, O(10).z},                            2, sopra + 2 * d,                  Lato::Destra},    // overall
-      {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                      Lato::Destra},    // top
+      {{O(1).z, O(10).z},                            2, sopra + 2 * d,                    Lato::Destra},    // overall
+      {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                        Lato::Destra},    // top
       {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, std::min(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
       {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, std::min(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
   };

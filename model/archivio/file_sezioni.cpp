@@ -19,8 +19,8 @@ Intero16 NumeroProposto = 1;
 
 namespace {
 
-// A file that was there and could not be opened when it was to be read: the table does not hold its
-// sections, so it is not replaced until it has been read.
+// The section file that existed and could not be opened for reading. The table does not hold its sections, so
+// it is not replaced until it has been read.
 Testo gIntoccabile;
 
 Testo FileCopia() {
@@ -31,11 +31,11 @@ Testo DoveLaCopia(const Testo& copia) {
   return "la versione precedente è in "_t + copia;
 }
 
-// The file as it was last read or written here, to tell whether it still is; none where there was none.
+// Fingerprint of the file as this program last read or wrote it; another one betrays another program.
 std::optional<std::uint64_t> gImpronta;
 
-// Puts the text in the place of a file that is there, once that is kept whole under another name. What
-// another program has left may be half a file: it never takes the place of the copy.
+// Replaces the text of an existing file, after copying the old text to another file. A text that another
+// program has written may be half of what it meant, so it never replaces the copy.
 void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
   auto file = FileDaRiscrivere::Apri(FileSezioni);
   const auto vecchio = file ? file->Contenuto() : std::nullopt;
@@ -65,7 +65,7 @@ void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
 }  // namespace
 
 std::optional<Guasto> LeggiFileSezioni() {
-  // Another program may be writing it: half a file is not read. Who may not write it reads it all the same.
+  // Waits for a program that is writing the file. Without the right to write, it is read without waiting.
   const auto daSoli = FileDaRiscrivere::Apri(FileSezioni);
   Testo motivo;
   auto file = FileInLettura::Apri(FileSezioni, &motivo);
@@ -90,13 +90,14 @@ EsitoSezioni ScriviFileSezioni() {
   EsitoSezioni esito;
   if (FileSezioni == gIntoccabile) return esito;
   const Testo testo = ComponiFileSezioni(sezioni);
-  // A file that another program makes meanwhile is there the second time.
+  // CreaFile fails where another program makes the file at the same moment; it is then rewritten.
   if (GenereFile(FileSezioni) == TipoVoce::Assente) esito.scritte = CreaFile(FileSezioni, testo);
   if (!esito.scritte) Riscrivi(testo, esito);
   if (esito.scritte) gImpronta = Impronta(testo);
   if (esito.altro.empty()) return esito;
   esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
-  // What that one held before it stopped half-way is whole in its copy, whose place the next save here takes.
+  // The other program stopped half-way: its sections are whole only in the copy, which the next save
+  // replaces.
   const auto copia = esito.confronto.leggibile ? std::nullopt : LeggiTutto(FileCopia());
   if (copia) esito.copia = Conserva(*copia, FileSezioni, ".altro");
   return esito;

@@ -1,5 +1,4 @@
-// The driver: every result is accumulated in the record itself, so that a fault leaves what came
-// before it.
+// The driver accumulates every result in the record itself: a fault leaves the results before it.
 #include "properties/calcolo/caratteristiche.h"
 
 #include "base/errore.h"
