@@ -56,23 +56,19 @@ FormOpt::FormOpt() {
     controlli.push_back(&TextOpt[posto]);
   }
 
-  const struct {
-    Controllo& bottone;
-    const char* nome;
-    void (FormOpt::*click)();
-  } bottoni[] = {{Reset, "Reset", &FormOpt::Reset_Click},
-                 {Salva, "Salva", &FormOpt::Salva_Click},
-                 {Applica, "Applica", &FormOpt::Applica_Click},
-                 {Chiudi, "Chiudi", &FormOpt::Chiudi_Click}};
   const int intervallo = (larghezza - 2 * kMargine - 4 * kBottone) / 3;
   int sinistra = kMargine;
-  for (const auto& b : bottoni) {
-    b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome,
-                               {sinistra, kRighe * kPassoRighe + 2 * kMargine, kBottone, 330}, b.nome);
-    b.bottone.click = [this, click = b.click] { (this->*click)(); };
-    controlli.push_back(&b.bottone);
+  const auto aggiungi = [&](Controllo& bottone, const char* testo, void (FormOpt::*click)()) {
+    const Rettangolo posto{sinistra, kRighe * kPassoRighe + 2 * kMargine, kBottone, 330};
+    bottone = NuovoControllo(TipoControllo::Bottone, testo, posto, testo);
+    bottone.click = [this, click] { (this->*click)(); };
+    controlli.push_back(&bottone);
     sinistra += kBottone + intervallo;
-  }
+  };
+  aggiungi(Reset, "Reset", &FormOpt::Reset_Click);
+  aggiungi(Salva, "Salva", &FormOpt::Salva_Click);
+  aggiungi(Applica, "Applica", &FormOpt::Applica_Click);
+  aggiungi(Chiudi, "Chiudi", &FormOpt::Chiudi_Click);
   for (Controllo& etichetta : LabelOpt) controlli.push_back(&etichetta);
 }
 

@@ -10,10 +10,6 @@
 
 namespace tarvel {
 
-Intero16 SezioneScelta;
-Intero16 NumeroScelte;
-Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
-
 namespace {
 
 void RiempiLista(Controllo& lista) {

@@ -74,30 +74,22 @@ tarvel1::tarvel1() {
   Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, DaUtf8(kNota));
   Label2 = NuovoControllo(TipoControllo::Etichetta, "Label2", {7296, 3768, 912, 156}, "Nome sezione:");
 
-  const struct {
-    Controllo& bottone;
-    const char* nome;
-    const char* testo;
-    Rettangolo posto;
-    void (tarvel1::*click)();
-  } bottoni[] = {
-      {Command1, "Command1", "Leggi", {7320, 4320, 972, 300}, &tarvel1::Command1_Click},
-      {Command2, "Command2", "Salva", {8352, 4320, 972, 300}, &tarvel1::Command2_Click},
-      {Calcolo, "Calcolo", "Calcola", {8352, 3312, 972, 300}, &tarvel1::Calcolo_Click},
-      {Command4, "Command4", "Anteprima", {8352, 2928, 972, 300}, &tarvel1::Command4_Click},
-      {Command6, "Command6", "Opzioni DIS", {8352, 2532, 972, 300}, &tarvel1::Command6_Click},
-      {Command7, "Command7", "Calcolo Multiplo", {5448, 4368, 1488, 240}, &tarvel1::Command7_Click},
-      {Command3, "Command3", "File SEZIO_UT:", {84, 4332, 1332, 300}, &tarvel1::Command3_Click},
-      {Command5, "Command5", "Chiudi", {8352, 144, 972, 300}, &tarvel1::Command5_Click},
-  };
-
   for (const int i : OrdineCaselle()) controlli.push_back(&Text1[static_cast<std::size_t>(i)]);
   controlli.push_back(&nome);
-  for (const auto& b : bottoni) {
-    b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome, b.posto, b.testo);
-    b.bottone.click = [this, click = b.click] { (this->*click)(); };
-    controlli.push_back(&b.bottone);
-  }
+  const auto aggiungi = [this](Controllo& bottone, const char* chiamato, const char* testo, Rettangolo posto,
+                               void (tarvel1::*click)()) {
+    bottone = NuovoControllo(TipoControllo::Bottone, chiamato, posto, testo);
+    bottone.click = [this, click] { (this->*click)(); };
+    controlli.push_back(&bottone);
+  };
+  aggiungi(Command1, "Command1", "Leggi", {7320, 4320, 972, 300}, &tarvel1::Command1_Click);
+  aggiungi(Command2, "Command2", "Salva", {8352, 4320, 972, 300}, &tarvel1::Command2_Click);
+  aggiungi(Calcolo, "Calcolo", "Calcola", {8352, 3312, 972, 300}, &tarvel1::Calcolo_Click);
+  aggiungi(Command4, "Command4", "Anteprima", {8352, 2928, 972, 300}, &tarvel1::Command4_Click);
+  aggiungi(Command6, "Command6", "Opzioni DIS", {8352, 2532, 972, 300}, &tarvel1::Command6_Click);
+  aggiungi(Command7, "Command7", "Calcolo Multiplo", {5448, 4368, 1488, 240}, &tarvel1::Command7_Click);
+  aggiungi(Command3, "Command3", "File SEZIO_UT:", {84, 4332, 1332, 300}, &tarvel1::Command3_Click);
+  aggiungi(Command5, "Command5", "Chiudi", {8352, 144, 972, 300}, &tarvel1::Command5_Click);
   for (Controllo* etichetta : {&nomute, &Label1, &Label2}) controlli.push_back(etichetta);
 }
 

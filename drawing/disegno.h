@@ -77,26 +77,30 @@ struct TabelleDisegno {
   std::vector<const char*> avvisi;  // of tables that became full, for the user, in their order
 };
 
-extern TabelleDisegno Disegno;
+inline TabelleDisegno Disegno;
 
 /// Sets every count to 0 and drops the warnings. The entries keep their values: the extents of a drawing
 /// without coordinates are those of place 0.
-void SvuotaDisegno();
+inline void SvuotaDisegno() {
+  Disegno.Coordinate.numero = Disegno.Punti.numero = Disegno.Linee.numero = 0;
+  Disegno.Archi.numero = Disegno.Testi.numero = 0;
+  Disegno.avvisi.clear();
+}
 
 // --- Settings. Each keeps its value from one drawing to the next.
 
 /// Added to whatever is recorded into Disegno, not to what is drawn onto a surface. A section's drawing
 /// has its origin at 0.
-extern Reale OrigineX, OrigineY;
+inline Reale OrigineX, OrigineY;
 /// Of a line or circle recorded without a colour of its own.
-extern Intero16 ColoreCorrente;
+inline Intero16 ColoreCorrente;
 /// Of every recorded line.
-extern Intero16 TipoLineaCorrente;
+inline Intero16 TipoLineaCorrente;
 /// While a drawing file is being generated: texts are then recorded as texts, otherwise drawn by the
 /// strokes of the font.
-extern bool FlagDisegno;
+inline bool FlagDisegno = false;
 /// Decimals of a measured dimension; a negative number counts as 0. No option sets it.
-extern Intero16 DecimaliQuote;
+inline Intero16 DecimaliQuote;
 
 // --- The stroke font, by character code: glyphs 99 units wide and 69 high, their baseline at
 // ordinate 30. Two consecutive points are one stroke. No font is supplied: all values are 0.
@@ -104,10 +108,10 @@ extern Intero16 DecimaliQuote;
 template <NomeTabella Nome>
 using OrdinateFont = Tabella<"dei caratteri", Tabella<Nome, Intero16, 0, 100>, 0, 255>;
 
-extern Tabella<"dei caratteri", Intero16, 0, 255> FontPunti;
-extern OrdinateFont<"dei caratteri"> FontX;
-extern OrdinateFont<"dei caratteri"> FontY;
+inline Tabella<"dei caratteri", Intero16, 0, 255> FontPunti;
+inline OrdinateFont<"dei caratteri"> FontX;
+inline OrdinateFont<"dei caratteri"> FontY;
 /// By which characters are narrowed, percent.
-extern Intero16 SpaziaturaCaratteri;
+inline Intero16 SpaziaturaCaratteri;
 
 }  // namespace tarvel::disegno

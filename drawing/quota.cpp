@@ -11,9 +11,6 @@
 
 namespace tarvel::disegno {
 
-bool AlternaTestiQuote = false;
-bool LatoTestoAlternato = false;
-
 namespace {
 
 // A dimension in its drawing direction.

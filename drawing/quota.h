@@ -26,9 +26,9 @@ struct StileQuota {
 
 /// True while a chain is drawn: a label wider than its dimension then goes to the opposite side of the line,
 /// unless the label before it did.
-extern bool AlternaTestiQuote;
+inline bool AlternaTestiQuote = false;
 /// The last label went to the opposite side. A label that fits resets it.
-extern bool LatoTestoAlternato;
+inline bool LatoTestoAlternato = false;
 
 /// A dimension line between two points, in either order: it runs to the right, or upwards where vertical. Its
 /// label is the measured length, with DecimaliQuote decimals in the regional format. Nothing is drawn between

@@ -6,13 +6,6 @@
 
 namespace tarvel {
 
-Testo DirRoot;
-Testo NomeLavoro;
-Testo DirLavori;
-Testo DirProgra;
-Testo DirDriver;
-Testo DirCustom;
-
 namespace {
 
 constexpr std::string_view kChiave = "|diroot=";

@@ -15,8 +15,6 @@ bool Proibito(char c) {
 
 }  // namespace
 
-Testo NomeFileDisegno = kDisegnoTemporaneo;
-
 Testo DisegnoDellaSezione(const Testo& nomeSezione) {
   Testo nome = nomeSezione.substr(0, kLunghezza);
   std::replace_if(nome.begin(), nome.end(), Proibito, '_');

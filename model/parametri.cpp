@@ -8,8 +8,6 @@
 
 namespace tarvel {
 
-VettoreParametri ParametriSezione;
-
 namespace {
 
 // The host did not let the existing file be read. What it holds is not known, so it is not replaced.

@@ -42,7 +42,7 @@ enum Dimensione {
 
 using VettoreParametri = Tabella<"delle dimensioni", Reale, 0, kNumParametri - 1>;
 
-extern VettoreParametri ParametriSezione;
+inline VettoreParametri ParametriSezione;
 
 /// Fills ParametriSezione from "CapSezDe.txt" in DirCustom, each item converted as a box converts it ('20cm'
 /// is 20, nothing is 0). A failure, or an item without a number, ends the reading in silence: the values read

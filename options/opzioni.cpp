@@ -10,8 +10,6 @@
 
 namespace tarvel {
 
-VettoreOpzioni Opzioni;
-
 namespace {
 
 VettoreOpzioni Predefinite() {

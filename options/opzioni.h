@@ -15,7 +15,7 @@ constexpr int kNumOpzioni = 15;
 using VettoreOpzioni = Tabella<"delle opzioni", Reale, 1, kNumOpzioni>;
 
 /// Read at start, changed afterwards only by the options form.
-extern VettoreOpzioni Opzioni;
+inline VettoreOpzioni Opzioni;
 
 /// Indices of Opzioni.
 enum Opzione {

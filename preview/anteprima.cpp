@@ -9,8 +9,6 @@
 
 namespace tarvel {
 
-std::int32_t IdVisualizzatore = 0;
-
 namespace {
 
 constexpr char kTastiRicarica[] = "%(fg)";  // File menu, reload

@@ -9,7 +9,7 @@
 namespace tarvel {
 
 /// Task id of the viewer when it was last started; 0 before any start.
-extern std::int32_t IdVisualizzatore;
+inline std::int32_t IdVisualizzatore = 0;
 
 /// Shows the current drawing file: a running viewer comes to the front and is sent the keys of its
 /// reload command, otherwise it is started.

@@ -79,13 +79,10 @@ Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
     Testo nome = file + coda + (n == 1 ? Testo() : std::to_string(n));
     const TipoVoce voce = GenereFile(nome);
     if (voce == TipoVoce::Ignota) break;
-    if (voce != TipoVoce::Assente) {
-      if (LeggiTutto(nome) == testo) return nome;
-    } else if (CreaFile(nome, testo, file)) {
+    const bool libero = voce == TipoVoce::Assente;
+    if (libero ? CreaFile(nome, testo, file) == EsitoScrittura::Scritto : LeggiTutto(nome) == testo)
       return nome;
-    } else {
-      ++falliti;
-    }
+    if (libero) ++falliti;
   }
   return {};
 }
@@ -100,12 +97,11 @@ Confronto ConfrontaSezioni(const Testo& altro, std::span<const Testo> sezioni) {
   Confronto esito;
   esito.leggibile = Scorri(altro, [&](const RecordSezione& r, const Testo& righe) {
     const int i = CercaSezione(r.Nome);
-    if (i == 0) {
+    if (i == 0)
       ++esito.mancanti;
-      return;
-    }
-    const Testo& nostra = sezioni[static_cast<std::size_t>(i - 1)];
-    if (righe != nostra && tutto.find("\r\n" + nostra) == Testo::npos) ++esito.diverse;
+    else if (const Testo& nostra = sezioni[static_cast<std::size_t>(i - 1)];
+             righe != nostra && tutto.find("\r\n" + nostra) == Testo::npos)
+      ++esito.diverse;
   });
   return esito;
 }

@@ -22,8 +22,8 @@ std::vector<Testo> SezioniScrivibili();
 /// before it holds the text already. Returns that file's name, "" when it cannot be written.
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda);
 
-/// Conserva of a section file with these sections, `file` + ".salvataggio", ".salvataggio2"... Returns ""
-/// also when `file` itself is whole (`intero`) and holds them all.
+/// Writes the sections as a section file in the same way, with the ending ".salvataggio". Returns "" also
+/// when `file` itself is whole (`intero`) and holds them all.
 Testo ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni);
 
 /// How the sections of another file compare with the table's.

@@ -12,11 +12,6 @@
 
 namespace tarvel {
 
-Testo FileSezioni;
-bool FileSezioniIntero = true;
-Testo PrefissoNome;
-Intero16 NumeroProposto = 1;
-
 namespace {
 
 // The section file that existed and could not be opened for reading. The table does not hold its sections, so

@@ -13,13 +13,13 @@
 namespace tarvel {
 
 /// Full path of the current section file: the job's or the general one.
-extern Testo FileSezioni;
+inline Testo FileSezioni;
 /// False once a write of a section file has stopped half-way: it may be read whole and not be on the disk.
-extern bool FileSezioniIntero;
+inline bool FileSezioniIntero = true;
 /// What proposed names begin with: "U_PO_" in the job's file, "G_PO_" in the general one.
-extern Testo PrefissoNome;
+inline Testo PrefissoNome;
 /// Counter of proposed names, 1 at start.
-extern Intero16 NumeroProposto;
+inline Intero16 NumeroProposto = 1;
 
 /// Reads the file into the table, once no other program is writing it; slots above its count stay as they
 /// are. A file that is missing or cannot be opened changes nothing. A malformed file is fatal: the error has

@@ -18,8 +18,7 @@ Testo MotivoOspite() {
       {std::errc::is_a_directory, "è una cartella"},
       {std::errc::no_such_device, "non è un file"},
       {std::errc::file_exists, "il nome è già preso"},
-      {std::errc::filename_too_long, "nome troppo lungo"},
-      {std::errc::too_many_symbolic_link_levels, "rimandi senza fine"},
+
       {std::errc::file_too_large, "file troppo grande"},
       {std::errc::resource_unavailable_try_again, "in uso da un altro programma"},
       {std::errc::io_error, "guasto del disco"},
