@@ -91,7 +91,7 @@ EsitoScrittura ScriviFile(const Testo& percorso, std::string_view testo, bool su
   const std::string reale = PercorsoReale(*host);
   const EsitoScrittura accanto = ScriviAccanto(
       {.file = reale, .come = voce == TipoVoce::File ? reale : "", .sulDisco = sulDisco}, testo);
-  if (accanto) return accanto;
+  if (accanto) return {};
   const bool daProvare = accanto == EsitoScrittura::NonAperto && voce == TipoVoce::File;
   const auto aperto = daProvare ? ospite.ApriRiscrittura(*host) : std::nullopt;
   if (!aperto) return {EsitoScrittura::NonAperto, accanto.motivo};
