@@ -9,7 +9,9 @@
 #include "drawing/disegno.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
+#include "platform/headless/programmi.h"
 #include "platform/headless/verbale.h"
+#include "preview/anteprima.h"
 #include "tests/aiuti.h"
 #include "tests/cartella.h"
 
@@ -54,6 +56,18 @@ TEST(GeneraDisegno, AvvisiDelleTabelleAnchePrimaDiUnErrore) {
   EXPECT_EQ(Mostrato([&] { ConAvvisi(disegna); }), atteso);
   EXPECT_EQ(Mostrato([&] { EXPECT_THROW(ConAvvisi(fallisce), ErroreFatale); }), atteso);
   disegno::SvuotaDisegno();
+}
+
+TEST(Anteprima, UnVisualizzatoreCheNonSiAvviaPiuNonEPiuNessuno) {
+  const prove::Cartella cartella;
+  DirProgra = (cartella / "").string();
+  prove::Scrivi(cartella / "ostrel.exe", "");
+  EXPECT_FALSE(Anteprima());
+  EXPECT_TRUE(headless::TerminaCompito(IdVisualizzatore));
+  std::filesystem::remove(cartella / "ostrel.exe");
+  EXPECT_EQ(Anteprima()->testo,
+            "Problemi con l'apertura dell'applicazione " + DirProgra + DirProgra + "\\ostrel.exe");
+  EXPECT_EQ(IdVisualizzatore, 0);
 }
 
 }  // namespace
