@@ -146,6 +146,8 @@ TEST_F(ProvaFile, QuelloCheUnAltroHaScrittoEConservatoSeEDiverso) {
   EXPECT_EQ(ScriviFileSezioni().altro, "");
   Scrivi(percorso, "0\r\n");
   EXPECT_EQ(ScriviFileSezioni().altro, FileSezioni + ".altro");
+  for (const char* altro : {".altro2", ".altro3", ".altro4", ".altro5", ".altro5"})
+    EXPECT_EQ(Conserva(altro, FileSezioni, ".altro"), FileSezioni + altro);
 }
 
 // One line cut off, missing, or one too many, and a count of sections that is too small.
