@@ -126,8 +126,6 @@ bool Consegna(Lotto& l, std::vector<Riga>& righe) {
 
 int Esegui(Lotto& l) {
   PrefissoNome = "U_PO_";
-  VerticiPoligono[1] = 13;
-  VerticiPoligono[2] = 11;
   ImpostaDecimale(l.richieste.virgola ? ',' : '.');
   l.salvataggi = PreparaSalvataggi(l.richieste);
   l.ingresso.file = l.richieste.ingressi;
@@ -137,7 +135,7 @@ int Esegui(Lotto& l) {
   if (!l.richieste.da.empty()) l.rilettura = Rileggi(l.richieste);
   if (!l.rilettura.lasciato.empty()) Dice(l.rilettura.lasciato);
 
-  l.conserva = l.salvataggi.sezioni || l.salvataggi.disegni;
+  l.conserva = l.salvataggi.sezioni || !l.salvataggi.disegni.empty();
   // Threads may outlive this call: what they use is the Lotto's.
   const bool tutto =
       Lavora(l.richieste.processi, {.leggi = [&l](Blocco& b) { return Leggi(l, b.righe); },

@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "base/errore.h"
-#include "lotto/piattaforma.h"
 #include "model/archivio/file_sezioni.h"
 #include "model/archivio/righe_sezione.h"
 #include "model/geometria.h"
@@ -19,8 +18,9 @@ namespace {
 using Posto = FileInLettura::Posto;
 
 FileInLettura Apri(const Testo& percorso) {
-  auto file = FileInLettura::Apri(percorso);
-  if (!file) throw ErroreFatale(TipoErrore::File, "File " + percorso + " non trovato");
+  Testo motivo;
+  auto file = FileInLettura::Apri(percorso, &motivo);
+  if (!file) throw ErroreFatale(TipoErrore::File, "File " + percorso + " non trovato: " + motivo);
   return std::move(*file);
 }
 
@@ -137,12 +137,15 @@ void Togli(Rilettura& rilettura, const Richieste& richieste) {
 void Riporta(Riletta& r) {
   try {
     const auto verifica = [&] { return VerificaSezione(r.sezione.record); };
-    if (!Durante([&] { return SullaSezione("lettura", r.sezione.record.Nome); }, verifica, kNonCassone))
-      r.motivo = PrendiMessaggio();
+    const auto p =
+        Durante([&] { return SullaSezione("lettura", r.sezione.record.Nome); }, verifica, kNonCassone);
+    if (p)
+      r.sezione.p = *p;
+    else
+      r.motivo = kSezioneNonValida;
   } catch (const ErroreFatale& errore) {
     r.motivo = errore.Messaggio();
   }
-  r.sezione.p = ParametriSezione;
 }
 
 }  // namespace
@@ -151,8 +154,7 @@ Rilettura Rileggi(const Richieste& richieste) {
   if (!richieste.finDoveSiLegge) {
     // What the program refuses at its start is refused in its words.
     FileSezioni = richieste.da;
-    LeggiFileSezioni(true);
-    if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
+    if (const auto guasto = LeggiFileSezioni()) throw ErroreFatale(guasto->tipo, guasto->ConMotivo());
   }
   const std::vector<Testo> righe = Righe(richieste.da);
   Lettura l = LeggiTutte(richieste.da, righe);

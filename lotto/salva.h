@@ -5,15 +5,18 @@
 #include <span>
 #include <unordered_set>
 
+#include "drawing/sezione/disegno_sezione.h"
 #include "lotto/riga_comando.h"
 #include "lotto/studio.h"
 
 namespace tarvel::lotto {
 
 struct Salvataggi {
-  bool sezioni = false, disegni = false;
-  std::unordered_set<Testo> nomi;  // of the sections for the file
-  long long oltre = 0;             // sections that the file has no room for
+  bool sezioni = false;
+  Testo disegni;  // their folder; "": none are made
+  StileSezione stile;
+  std::unordered_set<Testo> nomi = {};  // of the sections for the file
+  long long oltre = 0;                  // sections that the file has no room for
 };
 
 /// Folders and options; options that are malformed are fatal.

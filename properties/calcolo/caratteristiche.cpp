@@ -1,5 +1,4 @@
-// The driver: every result is accumulated in the record itself, so that a fault leaves what came
-// before it.
+// The driver accumulates every result in the record itself: a fault leaves the results before it.
 #include "properties/calcolo/caratteristiche.h"
 
 #include "base/errore.h"
@@ -55,7 +54,7 @@ void Ingombri(RecordSezione& r) {
   r.BaseTotale = Massimo(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
 }
 
-void Copia(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {
+void CopiaVertici(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {
   for (int v = 1; v <= vertici[1]; ++v) copia.poligono1.Aggiungi(g.O(v));
   for (int v = 1; v <= vertici[2]; ++v) copia.poligono2.Aggiungi(g.C(v));
 }
@@ -90,7 +89,7 @@ void CalcolaCaratteristiche(RecordSezione& sezione, const VettoreParametri& p,
 
   sezione.An = sezione.Jt = sezione.Jzg = sezione.Jyg = 0;
   Durante("area e baricentro", [&] {
-    Copia(sezione, vertici, SezioneBaricentrica);
+    CopiaVertici(sezione, vertici, SezioneBaricentrica);
     EstraiSuperiore(SezioneBaricentrica, ParteSuperiore.poligono1);
     EstraiInferiore(SezioneBaricentrica, ParteInferiore.poligono1);
     Sommatori somme;

@@ -24,10 +24,10 @@ SCENA = "type nome C\nclick Calcolo\nclick Command2\nclick Command4\n" \
 PREVISTI = re.compile("|".join((
     "Calcolo eseguito", "File salvato", r"Sezione non salvata\. Salvare\?",
     r"Errore: file \S+impostazioni\\(dirlav|lavoro) errato o mancante",
-    r"Problemi nella scrittura del file \S+\\sezio_ut(\\nNon si può fare né .*)?(\\nLe sezioni non ancora salvate .*)?",
-    r"Lettura del file \S+CapOpSez\.txt non riuscita", r"Problemi con la scrittura del file \S+ostrel\.inp",
+    r"Problemi nella scrittura del file \S+\\sezio_ut(\\nNon si può fare né .*: guasto del disco\.)?(\\nLe sezioni non ancora salvate .*)?",
+    r"Lettura del file \S+CapOpSez\.txt non riuscita: guasto del disco", r"Problemi con la scrittura del file \S+ostrel\.inp",
     r"Problemi con l'apertura dell'applicazione \S+ostrel\.exe", r"File \S+CapOpSez\.txt non valido.*",
-    "Errore irreversibile: (?!fine del file inattesa).*")))  # whole files do not end early
+    "Errore irreversibile: (calcolo della sezione .*|.*: guasto del disco .*)")))
 guasti = 0
 
 

@@ -90,7 +90,7 @@ def copia(base):
         with open(sezio, "w") as scritto:
             scritto.write("altrui")
         detto = processo.communicate(timeout=60)[1].decode()
-    controlla("fatto intanto", (processo.returncode, byte(sezio), "non si crea" in detto), (1, b"altrui", True))
+    controlla("fatto intanto", (processo.returncode, byte(sezio), "non si crea: il nome è già preso" in detto), (1, b"altrui", True))
 
     for argomenti, detto in ((["--senza", "A"], "--senza senza --da"), ([FINO], FINO + " senza --da"),
                              (["--da", primo, "--sezio", primo], "non viene sostituito")):

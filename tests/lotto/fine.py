@@ -7,7 +7,7 @@ import subprocess
 import tempfile
 import time
 
-from banco import EMULATORE, LOTTO, RIGA, cambiata, controlla, lotto
+from banco import EMULATORE, LOTTO, RIGA, cambiata, controlla, lotto, tabella
 
 
 def memoria(righe):
@@ -86,10 +86,11 @@ def fine(base):
     # A drawing that has no room is not there, and the next run writes it.
     disegni = os.path.join(base, "disegni senza posto")
     os.mkdir(disegni)
-    for posto, atteso in ((1000, (3, [])), (-1, (0, ["U_PO_001.dis"]))):
+    senza_posto = f"Errore durante la scrittura sul file{disegni}\\U_PO_001.dis: file troppo grande"
+    for posto, atteso in ((1000, (3, [], senza_posto)), (-1, (0, ["U_PO_001.dis"], ""))):
         esito = lotto(["--disegni", disegni], RIGA,
                       preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (posto, -1)))
-        controlla("disegno senza posto", (esito.returncode, os.listdir(disegni)), atteso)
+        controlla("disegno senza posto", (esito.returncode, os.listdir(disegni), tabella(esito)[1][-1]), atteso)
     padrone, terminale = os.openpty()
     subprocess.run([LOTTO], input=tante.encode() * 40, stdout=subprocess.DEVNULL, stderr=terminale)
     controlla("avanzamento", b" righe, 0 con errore" in os.read(padrone, 1 << 16), True)

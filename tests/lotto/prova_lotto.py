@@ -221,7 +221,7 @@ def sbagliate(base):
         ([], "\0" * 400, 1, "un carattere nullo (riga 1; standard input)"),
         (["--", "-manca.csv"], "", 1, "il file non si legge (-manca.csv)"),
         (["manca.csv"], "", 1, "il file non si legge (manca.csv)"),
-        (["--da", "manca"], "", 1, "File manca non trovato"),
+        (["--da", "manca"], "", 1, "File manca non trovato: file o cartella inesistente"),
         (["--da", __file__], "", 1, "riga 1"),
         (["--da", "x", "y"], "", 2, "l'uno o l'altro"),
         (["--boh"], "", 2, "opzione sconosciuta: --boh"),
