@@ -122,7 +122,7 @@ TEST(Tagli, TroppiPuntiAlPunto14) {
   copia.poligono2.n = 11;
   copia.Jyg = copia.Jzg = 1;
   const auto flusso = [&](int esterno, int interno) {
-    return FlussoVy({copie, {}, {true, esterno, interno}}, 14, {});
+    return FlussoVy({{}, copie, {}, {true, esterno, interno}}, 14, {});
   };
   EXPECT_EQ(flusso(1, 4), 0);
   EXPECT_EQ(flusso(2, 5), 0);
