@@ -40,9 +40,9 @@ tarvel1::tarvel1() {
   altezza = 4785;
   linee = LineeSchema();
 
-  for (int i = 0; i < kNumParametri; ++i) {
+  for (const CasellaSchema& voce : CaselleSchema()) {
+    const int i = voce.dimensione;
     Controllo& casella = Text1[static_cast<std::size_t>(i)];
-    const CasellaSchema& voce = CaselleSchema()[static_cast<std::size_t>(i)];
     casella = NuovoControllo(TipoControllo::Casella, "Text1(" + std::to_string(i) + ")",
                              {voce.sinistra, voce.alto, 396, 216}, "1234");
     casella.coloreTesto = voce.colore;
@@ -50,6 +50,7 @@ tarvel1::tarvel1() {
     casella.descrizione = DescrizioneDimensione(i);
     casella.tasto = [this, i](int codice) { Text1_KeyPress(i, codice); };
     casella.fuocoPerso = [this, i] { Text1_LostFocus(i); };
+    controlli.push_back(&casella);
   }
 
   nome = NuovoControllo(TipoControllo::Casella, "nome", {7320, 3960, 2004, 288});
@@ -79,7 +80,6 @@ tarvel1::tarvel1() {
       {Command5, "Command5", "Chiudi", {8352, 144, 972, 300}, &tarvel1::Command5_Click},
   };
 
-  for (const int i : OrdineCaselle()) controlli.push_back(&Text1[static_cast<std::size_t>(i)]);
   controlli.push_back(&nome);
   for (const auto& b : bottoni) {
     b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome, b.posto, b.testo);
