@@ -10,6 +10,9 @@
 
 namespace tarvel {
 
+/// Absolute, everywhere: a magnitude not greater than this counts as zero.
+inline constexpr double kTolleranza = 0.0001;
+
 [[noreturn]] void ErroreOverflow();
 [[noreturn]] void ErroreNonValida(const char* operazione);
 [[noreturn]] void ErroreDivisione(bool zeroSuZero);

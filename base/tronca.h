@@ -1,4 +1,4 @@
-// Cutting to a number of decimals; the smaller and the larger of two.
+// Cutting to a number of decimals.
 #pragma once
 
 #include <iterator>
@@ -16,14 +16,6 @@ inline Reale Tronca(Reale valore, Intero16 decimali) {
   const bool nota = decimali >= 0 && decimali < static_cast<int>(std::size(kPotenze));
   const Reale potenza = nota ? Reale(kPotenze[decimali]) : Potenza(Reale(10), decimali);
   return Pavimento(valore * potenza) / potenza;
-}
-
-/// On equality the second.
-inline Reale Minimo(Reale a, Reale b) {
-  return a < b ? a : b;
-}
-inline Reale Massimo(Reale a, Reale b) {
-  return a > b ? a : b;
 }
 
 }  // namespace tarvel

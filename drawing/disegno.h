@@ -15,13 +15,11 @@
 
 namespace tarvel::disegno {
 
-/// Absolute: points nearer than this in X and in Y are one point.
-inline constexpr double kTolleranza = 0.0001;
-
 struct Coordinata {
   Reale x, y;
 };
 
+/// Points nearer than the tolerance in X and in Y are one point.
 inline bool Coincidono(Coordinata a, Coordinata b) {
   return Assoluto(a.x - b.x) < kTolleranza && Assoluto(a.y - b.y) < kTolleranza;
 }

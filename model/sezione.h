@@ -33,9 +33,6 @@
 
 namespace tarvel {
 
-/// Absolute, everywhere: a magnitude not greater than this counts as zero.
-inline constexpr double kTolleranza = 0.0001;
-
 constexpr int kMaxPoligoni = 5;
 constexpr int kMaxVertici = 50;
 constexpr int kMaxPunti = 50;

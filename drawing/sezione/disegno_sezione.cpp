@@ -1,6 +1,7 @@
 // Dimensions stand in tables, as on a drawing; the order of drawing is the order of the file.
 #include "drawing/sezione/disegno_sezione.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/errore.h"
@@ -24,7 +25,7 @@ using disegno::Lato;
 
 // Of the dimension lines from the outline.
 Reale DistanzaQuote() {
-  return Minimo(Opzioni[kDistanzaMassima], ParametriSezione[kAltezzaTotale] / 2);
+  return std::min(Opzioni[kDistanzaMassima], ParametriSezione[kAltezzaTotale] / 2);
 }
 
 // Distances of a label from its dimension line: the standard side, and the other one.
@@ -76,7 +77,7 @@ void DisegnaTitolo(const RecordSezione& r, Reale d) {
                                           .scala = 1,
                                           .estensione = 0,
                                           .lato = Lato::Destra};
-  const Reale y = Massimo(r.O(1).y, r.O(10).y) + 3 * d;
+  const Reale y = std::max(r.O(1).y, r.O(10).y) + 3 * d;
   disegno::Quota("SEZIONE " + r.Nome, {r.O(1).z, y}, {r.O(10).z, y}, solaEtichetta);
 }
 
@@ -93,8 +94,8 @@ void DisegnaCatene(const GeometriaSezione& g, Reale d, Reale T) {
   } catene[] = {
       {{O(1).z, O(10).z},                            2, sopra + 2 * d,                  Lato::Destra},    // overall
       {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                      Lato::Destra},    // top
-      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, Minimo(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
-      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, Minimo(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
+      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, std::min(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
+      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, std::min(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
   };
   // clang-format on
   for (const auto& c : catene)

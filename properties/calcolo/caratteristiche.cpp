@@ -2,8 +2,9 @@
 // before it.
 #include "properties/calcolo/caratteristiche.h"
 
+#include <algorithm>
+
 #include "base/errore.h"
-#include "base/tronca.h"
 #include "model/tabella_sezioni.h"
 #include "properties/aree_taglio.h"
 #include "properties/copia_lavoro.h"
@@ -51,8 +52,8 @@ void ImpostaBaricentro(Record& r, const Sommatori& somme) {
 void Ingombri(RecordSezione& r) {
   const Reale yS = r.O(5).y;
   r.AltezzaTotale = Assoluto(r.O(1).y - yS);
-  for (const int v : {13, 12, 11, 10}) r.AltezzaTotale = Massimo(r.AltezzaTotale, Assoluto(r.O(v).y - yS));
-  r.BaseTotale = Massimo(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
+  for (const int v : {13, 12, 11, 10}) r.AltezzaTotale = std::max(r.AltezzaTotale, Assoluto(r.O(v).y - yS));
+  r.BaseTotale = std::max(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
 }
 
 void Copia(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {
