@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/file.h"
 #include "platform/headless/contenuto.h"
 #include "platform/headless/mano.h"
 #include "platform/headless/programmi.h"
@@ -17,7 +18,6 @@
 namespace tarvel::headless {
 namespace {
 
-constexpr std::size_t kRigaMassima = 1 << 20;
 constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
 constexpr int kTickMassimo = 3'600'000;
 constexpr Durata kAttesaFinaleMassima = 60'000;
@@ -175,15 +175,9 @@ constexpr std::array<Verbo, 14> kVerbi = {{
 }};
 
 std::vector<std::string> Parole(std::string_view testo) {
-  constexpr std::string_view kBlanchi = " \t";
   std::vector<std::string> parole;
-  for (auto inizio = testo.find_first_not_of(kBlanchi); inizio != std::string_view::npos;
-       inizio = testo.find_first_not_of(kBlanchi)) {
-    testo.remove_prefix(inizio);
-    const auto fine = std::min(testo.find_first_of(kBlanchi), testo.size());
-    parole.emplace_back(testo.substr(0, fine));
-    testo.remove_prefix(fine);
-  }
+  for (auto parola = PrimaParola(testo); !parola.empty(); parola = PrimaParola(testo))
+    parole.emplace_back(parola);
   return parole;
 }
 
