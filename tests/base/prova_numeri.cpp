@@ -45,7 +45,7 @@ TEST(Numeri, FormaInvariante) {
     EXPECT_EQ(FormatoNumero(c.valore), c.testo) << c.valore;
     EXPECT_NEAR(ConvertiNumero(c.testo).Valore(), c.valore, std::fabs(c.valore) * 1e-14);
   }
-  // Hundredths take a way of their own: the same text as by their digits.
+  // Hundredths, which nearly all numbers are, as the C library writes them.
   for (int n = -20000; n <= 20000; n += 7) {
     char atteso[32];
     std::snprintf(atteso, sizeof atteso, "%.15g", n / 100.);
@@ -70,13 +70,14 @@ TEST(Numeri, ConversioneIndulgente) {
       {"+7", 7},       {"1e3", 1000},     {"1D3", 1000},    {"1d-2", .01},  {"1e", 1},
       {"1e+", 1},      {"12,5", 12},      {"12.5cm", 12.5}, {"1 2", 12},    {" \t1\n2 .5", 12.5},
       {"1.2.3", 1.2},  {".", 0},          {"-", 0},         {"--1", 0},     {"&H10", 16},
-      {"&hff", 255},   {"&O17", 15},      {"&O8", 0},       {"&H", 0},      {"&", 0},
+      {"&hfD", 253},   {"&O17", 15},      {"&O8", 0},       {"&H", 0},      {"&", 0},
       {"1e400", kMax}, {"-1e400", -kMax}, {"1e-400", 0},    {"0e99999", 0}, {"1e99999999999999999999", kMax},
-      {"nan", 0},      {"inf", 0},        {"0x10", 0},      {"00012", 12},  {"1.5E+16", 1.5e16},
+      {"nan", 0},      {"-inf", 0},       {"0x10", 0},      {"00012", 12},  {"1.5E+16", 1.5e16},
       {"5.", 5},       {"&H1.5", 1},
   };
   for (const auto& c : casi) EXPECT_EQ(ConvertiNumero(c.testo).Valore(), c.valore) << '"' << c.testo << '"';
 
+  EXPECT_EQ(ConvertiNumero("-1e-99999999999999999999").Valore(), 0);
   EXPECT_EQ(ConvertiNumero(std::string(400, '9')).Valore(), kMax);
   EXPECT_EQ(ConvertiNumero("-" + std::string(400, '9')).Valore(), -kMax);
   EXPECT_EQ(ConvertiNumero("&H" + std::string(400, 'F')).Valore(), kMax);
