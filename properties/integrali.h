@@ -107,17 +107,19 @@ inline Reale MomCentrifugo(const Segmento& s) {
   });
 }
 
-/// Calls lavoro(from, to) for each edge of a closed polygon, the closing one last.
-template <class Vertice, class Lavoro>
-void PerOgniLato(std::span<const Vertice> vertici, const Lavoro& lavoro) {
+/// Calls lavoro(edge) for each edge of a closed polygon that is not vertical, the closing one last.
+template <class Lavoro>
+void PerOgniSegmento(std::span<const Estremo> vertici, const Lavoro& lavoro) {
   const std::size_t n = vertici.size();
-  for (std::size_t v = 0; v < n; ++v) lavoro(vertici[v], vertici[v + 1 < n ? v + 1 : 0]);
+  for (std::size_t v = 0; v < n; ++v)
+    if (const auto s = SegmentoDi(vertici[v], vertici[v + 1 < n ? v + 1 : 0])) lavoro(*s);
 }
 
 /// Sum of AreaTrapezio over a closed polygon.
 inline Reale AreaPoligono(std::span<const Punto> vertici) {
   Reale area;
-  PerOgniLato<Punto>(vertici, [&](Punto da, Punto a) { area += AreaTrapezio(da, a); });
+  const std::size_t n = vertici.size();
+  for (std::size_t v = 0; v < n; ++v) area += AreaTrapezio(vertici[v], vertici[v + 1 < n ? v + 1 : 0]);
   return area;
 }
 

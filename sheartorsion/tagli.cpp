@@ -8,6 +8,21 @@
 namespace tarvel {
 namespace {
 
+struct MomentiStatici {
+  Reale MomStaticoParteZ;  // ∫ y dA
+  Reale MomStaticoParteY;  // ∫ z dA
+};
+
+// Of a closed polygon, times the sign k.
+MomentiStatici MomentiStaticiPoligono(std::span<const Estremo> vertici, int k) {
+  MomentiStatici m;
+  PerOgniSegmento(vertici, [&](const Segmento& s) {
+    m.MomStaticoParteZ += k * MomStaticoZ(s);
+    m.MomStaticoParteY += k * MomStaticoY(s);
+  });
+  return m;
+}
+
 MomentiStatici Parte(std::initializer_list<Estremo> angoli) {
   return MomentiStaticiPoligono({angoli.begin(), angoli.size()}, 1);
 }
@@ -47,17 +62,6 @@ Reale Determinante(const CopiaLavoro& s) {
 }
 
 }  // namespace
-
-MomentiStatici MomentiStaticiPoligono(std::span<const Estremo> vertici, int k) {
-  MomentiStatici m;
-  PerOgniLato(vertici, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    m.MomStaticoParteZ += k * MomStaticoZ(*s);
-    m.MomStaticoParteY += k * MomStaticoY(*s);
-  });
-  return m;
-}
 
 CoefficientiVy CoefficientiDi(const CopiaLavoro& s) {
   const Reale D = Determinante(s);

@@ -1,8 +1,6 @@
 // The cut-off parts of the section, whose static moments give the shear flows (Jourawski).
 #pragma once
 
-#include <span>
-
 #include "model/parametri.h"
 #include "properties/copia_lavoro.h"
 #include "sheartorsion/asse.h"
@@ -16,15 +14,6 @@ struct SezioneInEsame {
   const VettoreParametri& p;
   const AsseBaricentrico& asse;
 };
-
-struct MomentiStatici {
-  Reale MomStaticoParteZ;  // ∫ y dA
-  Reale MomStaticoParteY;  // ∫ z dA
-};
-
-/// Static moments of a closed polygon times the sign k, by the edge integrals; vertical edges
-/// contribute nothing.
-[[nodiscard]] MomentiStatici MomentiStaticiPoligono(std::span<const Estremo> vertici, int k);
 
 struct CoefficientiVy {
   Reale CoeffVy1, CoeffVy2;  // of ∫y dA / Jzg and of ∫z dA / Jyg

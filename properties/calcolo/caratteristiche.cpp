@@ -22,22 +22,18 @@ struct Sommatori {
 // `segno`: -1 for the whole section (counter-clockwise outline), +1 for the clockwise parts.
 // Vertical edges contribute nothing, not even to the area.
 void SommaAreaStatici(const Poligono& poligono, int segno, Reale& An, Sommatori& somme) {
-  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    An += segno * AreaTrapezio(da, a);
-    somme.MomStaticoYTot += segno * MomStaticoY(*s);
-    somme.MomStaticoZTot += segno * MomStaticoZ(*s);
+  PerOgniSegmento(poligono, [&](const Segmento& s) {
+    An += segno * AreaTrapezio(s.da, s.a);
+    somme.MomStaticoYTot += segno * MomStaticoY(s);
+    somme.MomStaticoZTot += segno * MomStaticoZ(s);
   });
 }
 
 void SommaInerzie(const Poligono& poligono, int segno, Reale& Jyg, Reale& Jzg, Reale& Jyz) {
-  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    Jyg += segno * MomInerziaY(*s);
-    Jzg += segno * MomInerziaZ(*s);
-    Jyz += segno * MomCentrifugo(*s);
+  PerOgniSegmento(poligono, [&](const Segmento& s) {
+    Jyg += segno * MomInerziaY(s);
+    Jzg += segno * MomInerziaZ(s);
+    Jyz += segno * MomCentrifugo(s);
   });
 }
 

@@ -1,9 +1,7 @@
 // Properties in rungs: closed forms, the worked example, invariances.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
-#include <thread>
 
 #include "base/errore.h"
 #include "base/tronca.h"
@@ -140,30 +138,6 @@ TEST(Caratteristiche, OgniPassoDiceIlSuoNomeELasciaICampiPrecedenti) {
     EXPECT_EQ(r.TauVz[14], -7) << c.dove;
     EXPECT_EQ(r.Sigla, "prima") << c.dove;
   }
-}
-
-// Two threads on two sections, while the program's own state is of neither.
-TEST(Caratteristiche, DiQualunqueSezioneDaOgniThread) {
-  std::mt19937 caso(11);
-  const auto lavoro = [&](const VettoreParametri& p, const RecordSezione& attesa, int& diversi) {
-    for (int n = 0; n < 5000; ++n) {
-      RecordSezione r = attesa;
-      CalcolaCaratteristiche(r, p, attesa.NumVertici);
-      for (const auto stato : {&RecordSezione::Jzg, &RecordSezione::Jt, &RecordSezione::Aty})
-        diversi += r.*stato != attesa.*stato;
-      for (const auto stato : {&RecordSezione::TauT, &RecordSezione::TauVy, &RecordSezione::TauVz})
-        diversi += !std::ranges::equal(r.*stato, attesa.*stato);
-    }
-  };
-  const VettoreParametri p1 = Casuale(caso, false), p2 = Casuale(caso, false);
-  const RecordSezione r1 = Calcolata(p1), r2 = Calcolata(p2);
-  ParametriSezione = {};
-  VerticiPoligono = {};
-  int diversi1 = 0, diversi2 = 0;
-  std::thread altro([&] { lavoro(p2, r2, diversi2); });
-  lavoro(p1, r1, diversi1);
-  altro.join();
-  EXPECT_EQ(diversi1 + diversi2, 0);
 }
 
 }  // namespace

@@ -103,18 +103,6 @@ TEST(Asse, LatiOrizzontali) {
   }
 }
 
-TEST(Tagli, SegnoEdegeneri) {
-  const std::vector<Estremo> orario = {{0, 0}, {0, 2}, {3, 2}, {3, 0}};
-  const std::vector<Estremo> antiorario(orario.rbegin(), orario.rend());
-  const auto m = MomentiStaticiPoligono(orario, 1);
-  EXPECT_NEAR(m.MomStaticoParteZ.Valore(), 6, 1e-12);
-  EXPECT_NEAR(m.MomStaticoParteY.Valore(), 9, 1e-12);
-  EXPECT_EQ(MomentiStaticiPoligono(orario, -1).MomStaticoParteY, -m.MomStaticoParteY);
-  EXPECT_NEAR(MomentiStaticiPoligono(antiorario, 1).MomStaticoParteZ.Valore(), -6, 1e-12);
-  const std::vector<Estremo> verticale = {{1, 0}, {1.00005, 7}, {1.00003, 3}};
-  EXPECT_EQ(MomentiStaticiPoligono(verticale, 1).MomStaticoParteZ, 0);
-}
-
 TEST(Tagli, TroppiPuntiAlPunto14) {
   CopieLavoro copie;
   CopiaLavoro& copia = copie.SezioneBaricentrica;

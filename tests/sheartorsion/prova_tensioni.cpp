@@ -222,5 +222,16 @@ TEST(Tensioni, Segni) {
   EXPECT_NEAR((negativa.TauT[10] / negativa.TauT[2]).Valore(), 25 / 5., 1e-9);
 }
 
+TEST(Tensioni, PartiSenzaArea) {
+  RecordSezione r = Costruita(Esempio());
+  CopieLavoro copie;
+  copie.SezioneBaricentrica.Jyg = copie.SezioneBaricentrica.Jzg = 1;
+  CalcolaTauPunti(r, copie, Esempio(), 1);
+  Testo indicatori;
+  for (int punto = 1; punto <= 14; ++punto) indicatori += std::to_string(r.IndicatoreTauVz[punto]);
+  EXPECT_EQ(indicatori, "12221112122222");
+  EXPECT_TRUE(std::ranges::all_of(r.TauVz, [](Reale tensione) { return tensione == 0; }));
+}
+
 }  // namespace
 }  // namespace tarvel
