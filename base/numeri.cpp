@@ -18,7 +18,7 @@ bool Cifra(char c) {
 }
 
 // The significant digits of a magnitude, without trailing zeros, and the exponent of the first. The
-// digits stand in the buffer of who asks.
+// digits stand in the caller's buffer.
 struct Cifre {
   std::string_view cifre;
   int esponente = 0;
@@ -54,8 +54,8 @@ void AccodaEsponente(Testo& testo, int esponente) {
   testo += std::to_string(grandezza);
 }
 
-// Whether a number that no double holds is too large, not too small: by the place of its first digit that
-// is not zero.
+// Tells whether a number beyond the range of a double is too large or too small, by the place of its first
+// digit that is not zero.
 bool TroppoGrande(std::string_view numero) {
   const auto fineMantissa = std::min(numero.find_first_of("eE"), numero.size());
   const auto punto = std::min(numero.find('.'), fineMantissa);
@@ -92,20 +92,19 @@ Scansione Scandisci(std::string_view s) {
   return esito;
 }
 
-Reale InteroConBase(std::string_view cifre, int base) {
+Reale InteroConBase(std::string_view cifre, std::size_t base) {
   double valore = 0;
   for (const char c : cifre) {
-    const char m = Minuscola(c);
-    const int cifra = Cifra(m) ? m - '0' : m >= 'a' && m <= 'f' ? m - 'a' + 10 : base;
+    const auto cifra = std::string_view("0123456789abcdef").find(Minuscola(c));
     if (cifra >= base) break;
-    valore = valore * base + cifra;
+    valore = valore * static_cast<double>(base) + static_cast<double>(cifra);
     if (valore > kMassimo) return kMassimo;
   }
   return valore;
 }
 
-// The text in invariant form, or nothing where the thousands separators stand wrong: out of their
-// groups, or in front of an exponent, where they rather are somebody else's decimal point.
+// The text in invariant form. Nothing where the thousands separators do not part groups of three, and where
+// an exponent follows them: there the separator rather is a decimal point in another country's format.
 std::optional<Testo> Invariante(std::string_view testo, char decimale, char migliaia) {
   const auto virgola = testo.find(decimale);
   const auto inizioEsponente = testo.find_first_of("eE");
@@ -136,7 +135,7 @@ void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroI
   if (v < 0) testo += '-';
   BufferCifre buffer;
   const auto [cifre, esponente] = Scomponi(std::fabs(v), quante, buffer);
-  // From 1E+15 upwards there are no decimals, and the shorter of both forms is written.
+  // From 1E+15 upwards a number has no decimals, and the shorter of both forms is written.
   const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + (esponente < 100 ? 4 : 5));
   if (esponente < -4 || (esponente >= kCifre && conEsponente <= esponente + 1)) {
     testo += cifre[0];

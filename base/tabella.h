@@ -8,7 +8,7 @@
 
 namespace tarvel {
 
-/// `tabella`: whose elements it holds, "delle sezioni".
+/// `tabella`: what its elements are, with the article: "delle sezioni".
 [[noreturn]] void ErroreIndice(const char* tabella, long long indice, int primo, int ultimo);
 
 template <std::size_t N>
@@ -40,7 +40,7 @@ class Tabella {
   std::array<T, static_cast<std::size_t>(Ultimo - Primo + 1)> dati_{};
 };
 
-/// Two indices from 1, the first running fastest in storage.
+/// A table with two indices from 1; the first one runs fastest in storage.
 template <NomeTabella Nome, class T, int Prime, int Seconde>
 class Griglia {
  public:

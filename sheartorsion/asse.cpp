@@ -13,7 +13,7 @@ int Cerca(const auto& attraversato) {
   return 0;
 }
 
-// Where the edge from a to b has the height y. A horizontal edge has no one place: it gives one of its ends.
+// Where the edge from a to b has the height y; of a horizontal edge its first or its second end.
 Reale Ascissa(Punto a, Punto b, Reale y, bool secondo) {
   if (Assoluto(b.y - a.y) <= kTolleranza) return secondo ? b.z : a.z;
   return a.z + (b.z - a.z) / (b.y - a.y) * (y - a.y);
@@ -31,8 +31,8 @@ AsseBaricentrico CercaAsseBaricentrico(RecordSezione& r) {
 
   r.PuntoY[14] = YG;
   r.PuntoY[15] = YG;
-  // For the end of a horizontal edge an abscissa is compared with an ordinate. As geometry it means nothing,
-  // but the stored stresses of point 14 depend on it.
+  // Comparing an abscissa with an ordinate to choose the end means nothing as geometry, but the stored
+  // stresses of point 14 depend on it.
   const Punto o1 = r.O(esterno), o2 = r.O(esterno + 1);
   r.PuntoZ[14] = Ascissa(o1, o2, YG, o2.z >= o1.y);
   const Punto c1 = r.C(interno), c2 = r.C(interno == kLatoDiChiusura ? 1 : interno + 1);

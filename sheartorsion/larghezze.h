@@ -10,7 +10,8 @@ using Larghezza = Reale (*)(const SezioneInEsame&);
 
 namespace larghezza {
 
-// Twice the area of the triangle over its side; the fillet's own length where there is no area.
+// The height of the triangle between O5 and the fillet's slope, as twice its area over its side; the distance
+// of O5 from the fillet where the triangle has no area.
 inline Reale AttraversoRaccordo(const CopiaLavoro& c) {
   const Punto triangolo[] = {c.O(5), c.C(1), c.C(11)};
   const Reale A = Assoluto(AreaPoligono(triangolo));
@@ -30,10 +31,12 @@ inline constexpr Larghezza
     Piede                  = [](auto& s) { return AttraversoRaccordo(s.copie.SezioneBaricentrica); },
     // Points 8 and 9, across the lean of the web. The one for torsion lacks the root: the stored stresses and
     // labels depend on both.
-    Anima                  = [](auto& s) { return Assoluto((s.r.C(2).z - s.r.O(4).z) *
-                                                           Radice(1 + Potenza(s.p[kInclinazioneAnime] / 100, 2))); },
-    AnimaPerTorsione       = [](auto& s) { return Assoluto((1 + Potenza(s.p[kInclinazioneAnime] / 100, 2)) *
-                                                           (s.r.C(2).z - s.r.O(4).z)); },
+    Anima                  = [](auto& s) {
+      return Assoluto((s.r.C(2).z - s.r.O(4).z) * Radice(1 + Potenza(s.p[kInclinazioneAnime] / 100, 2)));
+    },
+    AnimaPerTorsione       = [](auto& s) {
+      return Assoluto((1 + Potenza(s.p[kInclinazioneAnime] / 100, 2)) * (s.r.C(2).z - s.r.O(4).z));
+    },
     // Point 8 along z, from the top surface down to O4.
     SommitaAnima           = [](auto& s) { return Assoluto(TettoSinistro(s.p, s.r.O(4).z) - s.r.O(4).y); },
     // Point 10, the dimension as it is, signed.

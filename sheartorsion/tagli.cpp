@@ -13,7 +13,7 @@ struct MomentiStatici {
   Reale MomStaticoParteY;  // ∫ z dA
 };
 
-// Of a closed polygon, times the sign k.
+// The static moments of a closed polygon, times the sign k.
 MomentiStatici MomentiStaticiPoligono(std::span<const Estremo> vertici, int k) {
   MomentiStatici m;
   PerOgniSegmento(vertici, [&](const Segmento& s) {

@@ -1,5 +1,5 @@
-// Points first, then torsion with the labels, then the two shear directions: the order in which the
-// fields are written. One table for each, one row a point, in the order in which they are written too.
+// Points, torsion with the labels, shear along y and along z: the fields are written in this order, since a
+// fault leaves what was written before it. The rows of a table, one a point, are in that order too.
 #include "sheartorsion/tau_punti.h"
 
 #include <algorithm>
@@ -20,15 +20,15 @@ Reale Tensione(Reale flusso, Reale larghezza) {
   return larghezza > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
 }
 
-// For torsion a negative width counts by its magnitude and divides with its sign.
+// Torsion tests the magnitude of a width, and divides by the width with its sign.
 Reale TensioneConSegno(Reale flusso, Reale larghezza) {
   return Assoluto(larghezza) > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
 }
 
 struct RigaTorsione {
   int punto;
-  int tag;              // of the label; -1: none is written here
-  Larghezza larghezza;  // in the label, and of the wall
+  int tag;              // in the label; -1: the label is written with the shear along y
+  Larghezza larghezza;  // of the wall, also in the label
   Reale (*tensione)(const RecordSezione& r, Reale qT, Reale larghezza);
   int indicatore;
 };
@@ -38,7 +38,7 @@ struct RigaTaglio {
   Larghezza larghezza;
   double quota;  // of the flow: a half where it parts to both sides, 0 where there is none
   int indicatore;
-  int opposto = 0;  // the point whose stress this one has with the other sign
+  int opposto = 0;  // the point whose stress is taken, with the other sign
 };
 
 // clang-format off
@@ -52,7 +52,7 @@ constexpr auto MinoreDi9e10 = [](auto& r, Reale, Reale) {
   return -std::min(Assoluto(r.TauT[9]), Assoluto(r.TauT[10]));
 };
 
-// Of torsion and of shear along y point 14 is the last row: without it where the axis crosses no web.
+// Point 14 is the last row of torsion and of shear along y, which leave it out where the axis crosses no web.
 constexpr RigaTorsione kTorsione[] = {
     // point, TAG, width, stress, indicator
     { 1,  2, Nulla,                  Zero,         2},
@@ -139,14 +139,14 @@ void Torsione(RecordSezione& r, const SezioneInEsame& s, Reale qT) {
   r.NumPunti = s.asse.TrovatoAsse ? 14 : 13;
 }
 
-// `flusso`: of a unit shear, at a point.
+// `flusso` gives the flow of a unit shear at a point.
 void Taglio(RecordSezione& r, const SezioneInEsame& s, std::span<const RigaTaglio> righe, auto& tau,
             auto& indicatori, const auto& flusso) {
   for (const auto& [punto, larghezza, quota, indicatore, opposto] : righe) {
     const Reale w = larghezza(s);
     tau[punto] = opposto > 0 ? -tau[opposto] : quota != 0 ? Tensione(quota * flusso(punto), w) : Reale(0);
     indicatori[punto] = indicatore;
-    // Points 6 and 7 have no width of torsion to show.
+    // The labels of points 6 and 7, whose torsion has no width.
     if (larghezza == Piede) ScriviEtichetta(r, punto, 2, w);
   }
 }

@@ -107,8 +107,8 @@ TEST(Numeri, ConversioneRegionale) {
   }
 }
 
-// (m 2^e)^n lies within half a step of its double, and in the very middle of two only beside an even one:
-// counted in whole numbers modulo 2^64, as what is missing is less.
+// (m 2^e)^n lies within half a step of the double that is given for it; a power halfway between two doubles
+// must have been given the even one. The difference fits in whole numbers modulo 2^64.
 void ProvaPotenza(std::uint64_t m, int e, int n) {
   const double x = std::ldexp(static_cast<double>(m), e), y = Potenza(x, n);
   const int passo = std::max(std::ilogb(y), -1022) - 52, cifre = passo - n * e;
@@ -138,7 +138,7 @@ TEST(Numeri, PotenzeArrotondateUnaVolta) {
       ovunque(c.mezzana + 2 * d, c.n);
     }
   }
-  // Squares few units from the middle of two doubles, found bit by bit; products of 53 bits by 53.
+  // Squares that lie few units from the middle of two doubles, found bit by bit; products of 53 bits by 53.
   constexpr std::uint64_t kOpposto = std::uint64_t{3} << 52;
   for (int d = -63; d < 64; d += 8) {
     std::uint64_t m = 1;
@@ -159,8 +159,9 @@ TEST(Numeri, PotenzeArrotondateUnaVolta) {
   for (const auto& c : diDieci) EXPECT_EQ(Potenza(Reale(10), c.n), c.atteso) << c.n;
 }
 
-// The nearest double, also where it is hard to tell (C libraries give the other neighbour for the first of
-// each) and where digits cancel: near a multiple of pi, for a large angle, for the smallest number.
+// The nearest double is given also where it is hard to tell (for the first case of each function C libraries
+// give its neighbour) and where digits cancel: near a multiple of pi, for a large angle, for the smallest
+// number.
 TEST(Numeri, TrascendentiAlDoppioPiuVicino) {
   const struct {
     double (*funzione)(double);

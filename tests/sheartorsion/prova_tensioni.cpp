@@ -17,9 +17,9 @@ namespace {
 using prove::Costruita;
 using prove::Esempio;
 
-// Integrals over what lies between two broken lines that run to the right, slice by slice in long double:
-// nothing in common with the edge formulas but the vertices. Between the breaks all are cubics at most,
-// for which two points of Gauss are exact.
+// Integrals over what lies between two broken lines that run to the right, slice by slice in long double.
+// They share nothing with the edge formulas but the vertices. Between the breaks the integrands are cubics at
+// most, for which two points of Gauss are exact.
 using Spezzata = std::vector<Punto>;
 
 struct Fette {
@@ -33,7 +33,7 @@ struct Fette {
     return y1 + (s[i].y.Valore() - y1) / (z2 - z1) * (z - z1);
   }
 
-  /// Counts negative where `sopra` is the lower line. Of what is above `cima` nothing counts.
+  /// What lies between the lines counts negative where `sopra` is the lower one, and not at all above `cima`.
   Fette& Aggiungi(const Spezzata& sopra, const Spezzata& sotto, Reale da, Reale a, Reale cima = 1e9) {
     std::vector<long double> tagli = {da.Valore(), a.Valore()};
     const auto taglia = [&](double z) { tagli.push_back(std::clamp(z, da.Valore(), a.Valore())); };
@@ -206,7 +206,8 @@ TEST(Tensioni, SecondoMetodo) {
   EXPECT_GT(sulRaccordo, 20);
 }
 
-// The section file holds magnitudes only: the signs of what is negative or missing.
+// The signs of stresses on negative and missing widths, which the section file, with its magnitudes, does not
+// show.
 TEST(Tensioni, Segni) {
   const auto con = [](Dimensione quale, double misura) {
     VettoreParametri p = Esempio();
