@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdlib>
+#include <cmath>
 #include <limits>
 
 namespace tarvel {
@@ -15,43 +15,6 @@ constexpr double kMassimo = std::numeric_limits<double>::max();
 
 bool Cifra(char c) {
   return c >= '0' && c <= '9';
-}
-
-// The significant digits of a magnitude, without trailing zeros, and the exponent of the first. The
-// digits stand in the caller's buffer.
-struct Cifre {
-  std::string_view cifre;
-  int esponente = 0;
-};
-using BufferCifre = std::array<char, 32>;
-
-Cifre Scomponi(double grandezza, int quante, BufferCifre& buffer) {
-  char* const inizio = buffer.data();
-  char* const limite = inizio + buffer.size();
-  const char* fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific).ptr;
-  const char* e = std::find(inizio + 1, limite, 'e');
-  if (e - inizio > quante + 1) {
-    fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific, quante - 1).ptr;
-    e = std::find(inizio + 1, limite, 'e');
-  }
-  Cifre esito;
-  std::from_chars(e + (e[1] == '+' ? 2 : 1), fine, esito.esponente);
-  if (inizio[1] == '.') {
-    inizio[1] = inizio[0];  // over the point, next to the others
-    while (e[-1] == '0') --e;
-    esito.cifre = {inizio + 1, e};
-  } else {
-    esito.cifre = {inizio, e};
-  }
-  return esito;
-}
-
-void AccodaEsponente(Testo& testo, int esponente) {
-  testo += 'E';
-  testo += esponente < 0 ? '-' : '+';
-  const int grandezza = std::abs(esponente);
-  if (grandezza < 10) testo += '0';
-  testo += std::to_string(grandezza);
 }
 
 // Tells whether a number beyond the range of a double is too large or too small, by the place of its first
@@ -131,16 +94,32 @@ std::optional<Testo> Invariante(std::string_view testo, char decimale, char migl
   return esito;
 }
 
+// The shortest text that is read back as `v`, or that of its first digits where it has more than `quante`.
 void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroIniziale) {
+  std::array<char, 32> buffer;
+  const auto scritto = [&](auto... decimali) {  // d.ddde-dd
+    const auto fine = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(v),
+                                    std::chars_format::scientific, decimali...);
+    return std::string_view(buffer.data(), static_cast<std::size_t>(fine.ptr - buffer.data()));
+  };
+  std::string_view forma = scritto();
+  if (forma.find('e') > static_cast<std::size_t>(quante) + 1) forma = scritto(quante - 1);
+  const std::string_view potenza = forma.substr(forma.find('e') + 1);
+  int esponente = 0;
+  std::from_chars(potenza.data() + (potenza[0] == '+' ? 1 : 0), potenza.data() + potenza.size(), esponente);
+  Testo cifre(1, forma[0]);
+  if (forma[1] == '.') {
+    cifre += forma.substr(2, forma.find('e') - 2);
+    cifre.erase(cifre.find_last_not_of('0') + 1);
+  }
+
   if (v < 0) testo += '-';
-  BufferCifre buffer;
-  const auto [cifre, esponente] = Scomponi(std::fabs(v), quante, buffer);
   // From 1E+15 upwards a number has no decimals, and the shorter of both forms is written.
-  const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + (esponente < 100 ? 4 : 5));
+  const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + 1 + potenza.size());
   if (esponente < -4 || (esponente >= kCifre && conEsponente <= esponente + 1)) {
     testo += cifre[0];
-    if (cifre.size() > 1) (testo += separatore) += cifre.substr(1);
-    AccodaEsponente(testo, esponente);
+    if (cifre.size() > 1) (testo += separatore).append(cifre, 1);
+    (testo += 'E') += potenza;
   } else if (esponente < 0) {
     if (zeroIniziale) testo += '0';
     testo += separatore;
@@ -148,9 +127,9 @@ void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroI
     testo += cifre;
   } else {
     const auto intere = static_cast<std::size_t>(esponente) + 1;
-    testo += cifre.substr(0, intere);
+    testo.append(cifre, 0, intere);
     if (cifre.size() < intere) testo.append(intere - cifre.size(), '0');
-    if (cifre.size() > intere) (testo += separatore) += cifre.substr(intere);
+    if (cifre.size() > intere) (testo += separatore).append(cifre, intere);
   }
 }
 
