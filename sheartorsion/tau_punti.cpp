@@ -36,7 +36,7 @@ struct RigaTorsione {
 struct RigaTaglio {
   int punto;
   Larghezza larghezza;
-  double quota;  // of the flow: a half where it parts to both sides, 0 where there is none
+  double quota;  // of the flow, with its sign: a half where it parts to both sides, 0 where there is none
   int indicatore;
   int opposto = 0;  // the point whose stress is taken, with the other sign
 };

@@ -49,7 +49,6 @@ TEST(Numeri, FormaInvariante) {
   for (int n = -20000; n <= 20000; n += 7) {
     char atteso[32];
     std::snprintf(atteso, sizeof atteso, "%.15g", n / 100.);
-    EXPECT_EQ(ConvertiNumero(FormatoNumero(n / 100.)), n / 100.);
     Testo conZero;
     AccodaNumero(conZero, n / 100., '.', true);
     EXPECT_EQ(conZero, atteso);
