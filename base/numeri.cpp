@@ -94,31 +94,43 @@ std::optional<Testo> Invariante(std::string_view testo, char decimale, char migl
   return esito;
 }
 
+using Buffer = std::array<char, 32>;
+
+std::string_view Scritto(Buffer& buffer, auto... numero) {
+  const auto esito = std::to_chars(buffer.data(), buffer.data() + buffer.size(), numero...);
+  return {buffer.data(), static_cast<std::size_t>(esito.ptr - buffer.data())};
+}
+
 // The shortest text that is read back as `v`, or that of its first digits where it has more than `quante`.
 void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroIniziale) {
-  std::array<char, 32> buffer;
-  const auto scritto = [&](auto... decimali) {  // d.ddde-dd
-    const auto fine = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(v),
-                                    std::chars_format::scientific, decimali...);
-    return std::string_view(buffer.data(), static_cast<std::size_t>(fine.ptr - buffer.data()));
-  };
-  std::string_view forma = scritto();
-  if (forma.find('e') > static_cast<std::size_t>(quante) + 1) forma = scritto(quante - 1);
-  const std::string_view potenza = forma.substr(forma.find('e') + 1);
+  Buffer buffer;
+  const double grandezza = std::fabs(v), centesimi = std::nearbyint(grandezza * 100);
+  std::string_view cifre, potenza;
   int esponente = 0;
-  std::from_chars(potenza.data() + (potenza[0] == '+' ? 1 : 0), potenza.data() + potenza.size(), esponente);
-  Testo cifre(1, forma[0]);
-  if (forma[1] == '.') {
-    cifre += forma.substr(2, forma.find('e') - 2);
-    cifre.erase(cifre.find_last_not_of('0') + 1);
+  if (quante == kCifre && centesimi > 0 && centesimi < 1e15 && centesimi / 100 == grandezza) {
+    // Hundredths, nearly all that is written, have the digits of a whole number, which is quicker: of the
+    // decimals of at most 15 digits only one is read back as a given double.
+    cifre = Scritto(buffer, static_cast<long long>(centesimi));
+    esponente = static_cast<int>(cifre.size()) - 3;
+  } else {
+    cifre = Scritto(buffer, grandezza, std::chars_format::scientific);  // d.ddde-dd
+    if (cifre.find('e') > static_cast<std::size_t>(quante) + 1)
+      cifre = Scritto(buffer, grandezza, std::chars_format::scientific, quante - 1);
+    const auto e = cifre.find('e');
+    potenza = cifre.substr(e + 1);
+    const std::string_view senzaPiu = potenza.substr(potenza[0] == '+' ? 1 : 0);
+    std::from_chars(senzaPiu.data(), senzaPiu.data() + senzaPiu.size(), esponente);
+    if (e > 1) buffer[1] = buffer[0];  // over the point, next to the other digits
+    cifre = e > 1 ? cifre.substr(1, e - 1) : cifre.substr(0, 1);
   }
+  if (grandezza > 0) cifre = cifre.substr(0, cifre.find_last_not_of('0') + 1);
 
   if (v < 0) testo += '-';
   // From 1E+15 upwards a number has no decimals, and the shorter of both forms is written.
   const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + 1 + potenza.size());
   if (esponente < -4 || (esponente >= kCifre && conEsponente <= esponente + 1)) {
     testo += cifre[0];
-    if (cifre.size() > 1) (testo += separatore).append(cifre, 1);
+    if (cifre.size() > 1) (testo += separatore) += cifre.substr(1);
     (testo += 'E') += potenza;
   } else if (esponente < 0) {
     if (zeroIniziale) testo += '0';
@@ -127,9 +139,9 @@ void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroI
     testo += cifre;
   } else {
     const auto intere = static_cast<std::size_t>(esponente) + 1;
-    testo.append(cifre, 0, intere);
+    testo += cifre.substr(0, intere);
     if (cifre.size() < intere) testo.append(intere - cifre.size(), '0');
-    if (cifre.size() > intere) (testo += separatore).append(cifre, intere);
+    if (cifre.size() > intere) (testo += separatore) += cifre.substr(intere);
   }
 }
 
