@@ -52,9 +52,9 @@ tarvel1::tarvel1() {
   altezza = 4785;
   linee = LineeSchema();
 
-  for (int i = 0; i < kNumParametri; ++i) {
+  for (const CasellaSchema& voce : CaselleSchema()) {
+    const int i = voce.dimensione;
     Controllo& casella = Text1[static_cast<std::size_t>(i)];
-    const CasellaSchema& voce = CaselleSchema()[static_cast<std::size_t>(i)];
     casella = NuovoControllo(TipoControllo::Casella, "Text1(" + std::to_string(i) + ")",
                              {voce.sinistra, voce.alto, 396, 216}, "1234");
     casella.coloreTesto = voce.colore;
@@ -62,6 +62,7 @@ tarvel1::tarvel1() {
     casella.descrizione = DescrizioneDimensione(i);
     casella.tasto = [this, i](int codice) { Text1_KeyPress(i, codice); };
     casella.fuocoPerso = [this, i] { Text1_LostFocus(i); };
+    controlli.push_back(&casella);
   }
 
   nome = NuovoControllo(TipoControllo::Casella, "nome", {7320, 3960, 2004, 288});
@@ -74,7 +75,6 @@ tarvel1::tarvel1() {
   Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, DaUtf8(kNota));
   Label2 = NuovoControllo(TipoControllo::Etichetta, "Label2", {7296, 3768, 912, 156}, "Nome sezione:");
 
-  for (const int i : OrdineCaselle()) controlli.push_back(&Text1[static_cast<std::size_t>(i)]);
   controlli.push_back(&nome);
   const auto aggiungi = [this](Controllo& bottone, const char* chiamato, const char* testo, Rettangolo posto,
                                void (tarvel1::*click)()) {

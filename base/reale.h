@@ -34,7 +34,6 @@ class Reale {
     return Esito(a.valore_ / b.valore_);
   }
   constexpr Reale& operator+=(Reale b) { return *this = *this + b; }
-  constexpr Reale& operator-=(Reale b) { return *this = *this - b; }
 
   friend constexpr bool operator==(Reale, Reale) = default;
   friend constexpr auto operator<=>(Reale, Reale) = default;

@@ -13,7 +13,8 @@
 namespace tarvel::disegno {
 namespace {
 
-// With lines of a type, so that each is looked for inside the others: twice what the default costs.
+// The outline has a line type, so that compaction looks for each line inside the others: this costs twice
+// what the default does.
 void Prepara() {
   static const RecordSezione sezione = [] {
     RecordSezione r = prove::Costruita(prove::Esempio());

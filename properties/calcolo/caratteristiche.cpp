@@ -1,8 +1,9 @@
 // The driver accumulates every result in the record itself: a fault leaves the results before it.
 #include "properties/calcolo/caratteristiche.h"
 
+#include <algorithm>
+
 #include "base/errore.h"
-#include "base/tronca.h"
 #include "model/tabella_sezioni.h"
 #include "properties/aree_taglio.h"
 #include "properties/copia_lavoro.h"
@@ -20,22 +21,18 @@ struct Sommatori {
 // `segno`: -1 for the whole section (counter-clockwise outline), +1 for the clockwise parts.
 // Vertical edges contribute nothing, not even to the area.
 void SommaAreaStatici(const Poligono& poligono, int segno, Reale& An, Sommatori& somme) {
-  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    An += segno * AreaTrapezio(da, a);
-    somme.MomStaticoYTot += segno * MomStaticoY(*s);
-    somme.MomStaticoZTot += segno * MomStaticoZ(*s);
+  PerOgniSegmento(poligono, [&](const Segmento& s) {
+    An += segno * AreaTrapezio(s.da, s.a);
+    somme.MomStaticoYTot += segno * MomStaticoY(s);
+    somme.MomStaticoZTot += segno * MomStaticoZ(s);
   });
 }
 
 void SommaInerzie(const Poligono& poligono, int segno, Reale& Jyg, Reale& Jzg, Reale& Jyz) {
-  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    Jyg += segno * MomInerziaY(*s);
-    Jzg += segno * MomInerziaZ(*s);
-    Jyz += segno * MomCentrifugo(*s);
+  PerOgniSegmento(poligono, [&](const Segmento& s) {
+    Jyg += segno * MomInerziaY(s);
+    Jzg += segno * MomInerziaZ(s);
+    Jyz += segno * MomCentrifugo(s);
   });
 }
 
@@ -50,8 +47,8 @@ void ImpostaBaricentro(Record& r, const Sommatori& somme) {
 void Ingombri(RecordSezione& r) {
   const Reale yS = r.O(5).y;
   r.AltezzaTotale = Assoluto(r.O(1).y - yS);
-  for (const int v : {13, 12, 11, 10}) r.AltezzaTotale = Massimo(r.AltezzaTotale, Assoluto(r.O(v).y - yS));
-  r.BaseTotale = Massimo(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
+  for (const int v : {13, 12, 11, 10}) r.AltezzaTotale = std::max(r.AltezzaTotale, Assoluto(r.O(v).y - yS));
+  r.BaseTotale = std::max(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
 }
 
 void CopiaVertici(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {

@@ -194,8 +194,8 @@ TEST(Pittura, ArchiFitti) {
 }
 
 TEST(Colori, SiVedonoSulFondo) {
-  EXPECT_EQ(ColoreSu(kCarta, 99), tarvel::kNero) << "beyond the table is white";
-  EXPECT_NE(ColoreSu(kSchermo, 0), tarvel::kNero);
+  EXPECT_EQ(ColoreSu(kCarta, 99), tarvel::Colore()) << "beyond the table is white";
+  EXPECT_NE(ColoreSu(kSchermo, 0), tarvel::Colore());
   EXPECT_LT(ColoreSu(kCarta, tarvel::disegno::kGiallo).r, 200) << "yellow cannot be read on white";
 }
 

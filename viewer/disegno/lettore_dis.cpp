@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "base/numeri.h"
+#include "platform/file.h"
 #include "viewer/disegno/misure.h"
 
 namespace ostrel {
@@ -15,7 +16,6 @@ namespace {
 
 using tarvel::Testo;
 
-constexpr std::size_t kMassimaRiga = 1 << 20;
 constexpr std::size_t kMassimaCitazione = 40;
 
 constexpr int kMin16 = std::numeric_limits<std::int16_t>::min();
@@ -53,7 +53,7 @@ class Lettore {
     riga_ = resto_.substr(0, fine);
     resto_ = ultima_ ? std::string_view() : resto_.substr(fine + 1);
     if (!riga_.empty() && riga_.back() == '\r') riga_.remove_suffix(1);
-    if (riga_.size() > kMassimaRiga) Rifiuta(tarvel::DaUtf8("la riga è più lunga di 1 MB"));
+    if (riga_.size() > tarvel::kRigaMassima) Rifiuta(tarvel::DaUtf8("la riga è più lunga di 1 MB"));
     return riga_;
   }
 
