@@ -9,7 +9,7 @@
 #include "drawing/disegno.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
-#include "platform/headless/programmi.h"
+#include "platform/headless/ambiente.h"
 #include "platform/headless/verbale.h"
 #include "preview/anteprima.h"
 #include "tests/aiuti.h"
