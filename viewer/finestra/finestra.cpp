@@ -66,8 +66,7 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   statusBar()->addWidget(coordinate_, 1);
   statusBar()->addPermanentWidget(conteggio_);
   connect(tela_, &Tela::Puntato, this, [this](double x, double y) {
-    const double unita = tela_->Mostrato().unita;
-    coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x * unita), Lunghezza(y * unita)));
+    coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x), Lunghezza(y)));
   });
 
   connect(tela_, &Tela::Toccata, this, [this] { Conferma({}); });

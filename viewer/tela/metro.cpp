@@ -74,7 +74,7 @@ QString Misurata(double lunghezza) {
   return testo;
 }
 
-QString Risultato(const Metro& metro, double unita, const QString& nomeUnita) {
+QString Risultato(const Metro& metro, const QString& nomeUnita) {
   const auto fine = metro.a ? metro.a : metro.sotto;
   if (!metro.da || !fine || *metro.da == *fine) return {};
   const Coordinata &p = *metro.da, &q = *fine;
@@ -83,7 +83,7 @@ QString Risultato(const Metro& metro, double unita, const QString& nomeUnita) {
   const auto parte = [&](double da, double a) { return std::fabs(a - da) > rumore ? a - da : 0; };
   const double dx = parte(p.x, q.x), dy = parte(p.y, q.y);
   const auto riga = [&](const char* nome, double lunghezza) {
-    return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza * unita), nomeUnita).trimmed();
+    return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza), nomeUnita).trimmed();
   };
   constexpr double kGradi = 180 / std::numbers::pi;
   return QStringList{riga("Distanza", std::hypot(dx, dy)), riga("ΔX", dx), riga("ΔY", dy),

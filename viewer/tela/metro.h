@@ -30,7 +30,7 @@ QString Misurata(double lunghezza);
 
 /// Distance, its parts along the axes and the angle, one a line, in the drawing's numbers and with the name
 /// of their unit where it is known. Nothing before there are two places.
-QString Risultato(const Metro& metro, double unita, const QString& nomeUnita);
+QString Risultato(const Metro& metro, const QString& nomeUnita);
 
 /// What to do now, in a line.
 QString Istruzione(const Metro& metro);
