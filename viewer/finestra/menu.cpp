@@ -184,7 +184,7 @@ void Finestra::CopiaTabella() {
 }
 
 void Finestra::NominaUnita() {
-  tela_->NominaUnita(ostrel::Voce(ResaRicordata().resa.unita).nome);
+  tela_->NominaUnita(Nome(ResaRicordata().resa.unita));
 }
 
 void Finestra::Alterna(Strumento strumento) {

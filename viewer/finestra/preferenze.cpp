@@ -42,7 +42,7 @@ SceltaResa ResaRicordata() {
 
 void RicordaResa(const SceltaResa& scelta) {
   Ricorda(kChiaveGenere, scelta.genere);
-  Ricorda(kChiaveUnita, Voce(scelta.resa.unita).nome);
+  Ricorda(kChiaveUnita, Nome(scelta.resa.unita));
   Ricorda(kChiaveScala, InTesto(scelta.resa.rapporto));
   Ricorda(kChiaveCarta, Nome(scelta.resa.carta));
   Ricorda(kChiaveOrientamento, Nome(scelta.resa.orientamento));
