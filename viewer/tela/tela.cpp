@@ -53,8 +53,8 @@ void Tela::MettiSu(const tarvel::Colore& fondo) {
   Ridipingi();
 }
 
-void Tela::NominaUnita(const QString& nome) {
-  unita_ = nome;
+void Tela::Annota(const Notazione& notazione) {
+  notazione_ = notazione;
   update();
 }
 

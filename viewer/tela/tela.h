@@ -45,8 +45,8 @@ class Tela : public QWidget {
   void MostraLivelli(const Livelli& livelli);
   const Livelli& LivelliMostrati() const { return livelli_; }
   void MettiSu(const tarvel::Colore& fondo);
-  /// Of the drawing's lengths, shown beside what is measured; empty where nobody has said it.
-  void NominaUnita(const QString& nome);
+  /// How measures are written.
+  void Annota(const Notazione& notazione);
 
   /// The whole drawing, shown or not.
   const Disegno& Mostrato() const { return disegno_; }
@@ -54,7 +54,7 @@ class Tela : public QWidget {
   const Disegno& Visibile() const { return visibile_ ? *visibile_ : disegno_; }
   const Vista& VistaCorrente() const { return vista_; }
   /// What has been measured; empty before there are two points.
-  QString Misura() const { return Risultato(metro_, disegno_.unita, unita_); }
+  QString Misura() const { return Risultato(metro_, disegno_.unita, notazione_); }
   /// What is in the window, on paper and twice as fine.
   QImage Immagine() const;
 
@@ -104,7 +104,7 @@ class Tela : public QWidget {
 
   Livelli livelli_ = kTuttiLivelli;
   tarvel::Colore fondo_ = kSchermo;
-  QString unita_;
+  Notazione notazione_;
 
   // The drawing as painted, without tools, and where it is out of date.
   QPixmap quadro_;
