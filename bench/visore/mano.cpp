@@ -84,3 +84,10 @@ BENCHMARK(Misura)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace ostrel
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication applicazione(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}

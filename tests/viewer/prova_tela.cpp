@@ -181,27 +181,5 @@ TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
   EXPECT_EQ(tela.Misura(), "");
 }
 
-// Read again so large that its numbers are kept in another unit: a view or a place of before means nothing.
-TEST_F(ConFinestra, DiventatoSmisurato) {
-  finestra.resize(800, 500);
-  DiUnita(Unita::Centimetri);
-  QTest::keyClick(&tela, Qt::Key_M);
-  Indica(0, 0);
-  Indica(329.5, -185);
-  Rotella(5, {300, 200});
-  prove::Scrivi(
-      file, prove::ConRiga(prove::ConRiga(prove::kUnoPerGenere, 7, " 3E+150  0  0 "), 8, " 0  3E+150  0 "));
-  Comanda("ricarica");
-  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
-  EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
-  EXPECT_EQ(tela.Misura(), "");
-  const double tre = 3e150 / tela.Mostrato().unita;
-  Indica(0, 0);
-  Indica(tre, 0);
-  EXPECT_EQ(tela.Misura(), "Distanza = 3e+150 cm\nΔX = 3e+150 cm\nΔY = 0 cm\nAngolo = 0,00°");
-  Muovi(Sullo(tre, tre));
-  EXPECT_EQ(Detto("coordinate").count("e+150"), 2) << Detto("coordinate").toStdString();
-}
-
 }  // namespace
 }  // namespace ostrel

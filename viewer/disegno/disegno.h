@@ -49,9 +49,6 @@ struct Disegno {
   tarvel::Testo titolo;  // the first text, also where texts are taken out
   /// Lines and arcs one of whose points found no room in the table of the program that drew them.
   int saltati = 0;
-  /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers
-  /// would leave a double's range; then a power of two.
-  double unita = 1;
   /// The outline has been taken out: no line that is left belongs to one.
   bool senzaContorno = false;
 };

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
 #include "base/numeri.h"
-#include "viewer/disegno/misure.h"
 
 namespace ostrel {
 namespace {
@@ -17,6 +17,11 @@ using tarvel::Testo;
 
 constexpr std::size_t kMassimaRiga = 1 << 20;
 constexpr std::size_t kMassimaCitazione = 40;
+
+// In any unit a section is far smaller, and far larger than what counts as nothing. Between the two every
+// square, sum and quotient of the viewer is a number.
+constexpr double kMassimaLunghezza = 1e9;
+constexpr double kMinimaLunghezza = 1e-9;
 
 constexpr int kMin16 = std::numeric_limits<std::int16_t>::min();
 constexpr int kMax16 = std::numeric_limits<std::int16_t>::max();
@@ -70,15 +75,12 @@ class Lettore {
     return voci;
   }
 
-  double Numero(std::string_view voce) const {
-    if (const auto valore = tarvel::NumeroRegionale(voce, ',', ' ')) return valore->Valore();
-    // With 15 digits the largest double is printed as more than itself.
-    constexpr double kMassimo = std::numeric_limits<double>::max();
-    const bool negativo = voce.starts_with('-');
-    Testo cifre(voce.substr(negativo ? 1 : 0));
-    std::replace(cifre.begin(), cifre.end(), ',', '.');
-    if (cifre != tarvel::FormatoNumero(kMassimo)) Rifiuta();
-    return negativo ? -kMassimo : kMassimo;
+  double Lunghezza(std::string_view voce) const {
+    const auto valore = tarvel::NumeroRegionale(voce, ',', ' ');
+    if (!valore) Rifiuta();
+    const double lunga = std::fabs(valore->Valore());
+    if (lunga > kMassimaLunghezza) FuoriLimiti(voce, "-1E+9", "1E+9");
+    return lunga < kMinimaLunghezza ? 0 : valore->Valore();
   }
 
   int Intero(std::string_view voce, int minimo, int massimo) const {
@@ -86,8 +88,7 @@ class Lettore {
     const auto [fine, errore] = std::from_chars(voce.data(), voce.data() + voce.size(), valore);
     if (errore != std::errc() || fine != voce.data() + voce.size()) Rifiuta();
     if (valore < minimo || valore > massimo)
-      Rifiuta("trovato: " + std::to_string(valore) + ", fuori dei limiti da " + std::to_string(minimo) +
-              " a " + std::to_string(massimo));
+      FuoriLimiti(voce, std::to_string(minimo), std::to_string(massimo));
     return valore;
   }
   int Intero16(std::string_view voce) const { return Intero(voce, kMin16, kMax16); }
@@ -108,9 +109,9 @@ class Lettore {
     throw ErroreDis{
         numero_, "riga " + std::to_string(numero_) + ", atteso: " + Testo(attesa_) + "; " + trovato, ultima_};
   }
-  [[noreturn]] void Rifiuta() const {
-    const bool lunga = riga_.size() > kMassimaCitazione;
-    Rifiuta("trovato: \"" + Visibile(riga_.substr(0, kMassimaCitazione)) + (lunga ? "...\"" : "\""));
+  [[noreturn]] void Rifiuta() const { Rifiuta("trovato: \"" + Citazione(riga_) + '"'); }
+  [[noreturn]] void FuoriLimiti(std::string_view voce, const Testo& minimo, const Testo& massimo) const {
+    Rifiuta("trovato: " + Citazione(voce) + ", fuori dei limiti da " + minimo + " a " + massimo);
   }
 
   // What has no sign of its own: controls, holes of the code page, and the hyphen that only shows at
@@ -126,6 +127,10 @@ class Lettore {
   }
 
  private:
+  static Testo Citazione(std::string_view testo) {
+    return Visibile(testo.substr(0, kMassimaCitazione)) + (testo.size() > kMassimaCitazione ? "..." : "");
+  }
+
   std::string_view resto_;
   std::string_view riga_;
   std::string_view attesa_;
@@ -139,7 +144,7 @@ void LeggiIntestazione(Lettore& file) {
   // The extents are measured anew: those of the file leave the texts out.
   for (const std::string_view estremi :
        {"il minimo e il massimo di X", "il minimo e il massimo di Y", "il minimo e il massimo di Z"})
-    for (const auto voce : file.Voci<2>(estremi)) file.Numero(voce);
+    for (const auto voce : file.Voci<2>(estremi)) file.Lunghezza(voce);
 }
 
 template <class Voce, class Leggi>
@@ -157,8 +162,8 @@ Disegno LeggiTutto(Lettore& file) {
 
   d.coordinate = LeggiSezione<Coordinata>(file, kCoordinate, [&](auto& coordinate) {
     const auto [x, y, z] = file.Voci<3>("una coordinata (X, Y e Z)");
-    file.Numero(z);
-    coordinate.push_back({file.Numero(x), file.Numero(y)});
+    file.Lunghezza(z);
+    coordinate.push_back({file.Lunghezza(x), file.Lunghezza(y)});
   });
   const auto indice = [&, ultimo = static_cast<int>(d.coordinate.size()) - 1](std::string_view voce) {
     return file.Intero(voce, 0, ultimo);
@@ -192,8 +197,8 @@ Disegno LeggiTutto(Lettore& file) {
     file.Intero16(uno);
     scritta.angolo = file.Intero16(angolo);
     const auto [base, altezza, colore] = file.Voci<3>("base e altezza del testo e il suo colore");
-    scritta.base = file.Numero(base);
-    scritta.altezza = file.Numero(altezza);
+    scritta.base = file.Lunghezza(base);
+    scritta.altezza = file.Lunghezza(altezza);
     scritta.colore = file.Intero16(colore);
     scritta.testo = Lettore::Visibile(file.Riga("il testo"));
     if (scritta.base > 0 && scritta.altezza > 0) scritte.push_back(std::move(scritta));
@@ -215,7 +220,6 @@ Disegno LeggiTutto(Lettore& file) {
 
   while (!file.Finito())
     if (!tarvel::SenzaBlanchi(file.Riga("la fine del disegno")).empty()) file.Rifiuta();
-  Riduci(d);
   if (!d.scritte.empty()) d.titolo = d.scritte.front().testo;
   return d;
 }

@@ -19,9 +19,6 @@ struct Riquadro {
   void Comprendi(double x, double y);
 };
 
-/// Brings numbers whose squares or sums would leave a double's range well inside it, by `unita`.
-void Riduci(Disegno& disegno);
-
 /// Everything drawn, texts with all their cells.
 Riquadro Ingombro(const Disegno& disegno);
 

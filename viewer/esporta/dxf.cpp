@@ -109,7 +109,7 @@ void ScriviArco(Dxf& dxf, const Disegno& disegno, const Arco& arco) {
            LivelloArco(disegno, arco), {ColoreDxf(arco.colore), 0});
   GruppoPunto(dxf, 10, p.x, p.y);
   if (p.raggio <= 0) return;
-  GruppoLunghezza(dxf, 40, p.raggio);
+  GruppoReale(dxf, 40, p.raggio);
   if (p.cerchio) return;
   const auto gradi = [](double radianti) { return std::fmod(radianti * kGradi + 360, 360); };
   GruppoReale(dxf, 50, gradi(p.inizio));
@@ -139,7 +139,7 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
     }
     ElementoSenzaTipo(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
     GruppoPunto(dxf, 10, posto(inizio).x, posto(inizio).y);
-    GruppoLunghezza(dxf, 40, scritta.altezza);
+    GruppoReale(dxf, 40, scritta.altezza);
     Gruppo(dxf, 1, stringa);
     GruppoReale(dxf, 41, scritta.base / scritta.altezza);
     GruppoIntero(dxf, 50, scritta.angolo);
@@ -151,9 +151,9 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
 
 }  // namespace
 
-std::optional<Testo> ScriviDxf(const Disegno& disegno, Unita unita) {
+Testo ScriviDxf(const Disegno& disegno, Unita unita) {
   const auto livelli = LivelliLinee(disegno);
-  Dxf dxf{{}, disegno.unita, AspettiComuni(disegno, livelli)};
+  Dxf dxf{{}, AspettiComuni(disegno, livelli)};
   ScriviTesta(dxf, Ingombro(disegno), unita);
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "ENTITIES");
@@ -167,7 +167,6 @@ std::optional<Testo> ScriviDxf(const Disegno& disegno, Unita unita) {
   }
   Gruppo(dxf, 0, "ENDSEC");
   Gruppo(dxf, 0, "EOF");
-  if (!dxf.finito) return std::nullopt;
   return std::move(dxf.testo);
 }
 

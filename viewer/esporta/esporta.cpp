@@ -63,9 +63,7 @@ Motivo ScriviPdfSu(const Disegno& disegno, const Resa& resa, const Origine& orig
 }
 
 Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, const Origine&, QIODevice& uscita) {
-  const auto dxf = ScriviDxf(disegno, resa.unita);
-  if (!dxf) return "il disegno ha misure che superano il massimo numero rappresentabile";
-  return Copia(*dxf, uscita);
+  return Copia(ScriviDxf(disegno, resa.unita), uscita);
 }
 
 struct Genere {

@@ -22,15 +22,12 @@ using AspettiLivelli = std::array<Aspetto, kNomiLivelli.size()>;
 
 struct Dxf {
   tarvel::Testo testo;
-  double unita;  // of the drawing's lengths, in the file
   AspettiLivelli livelli;
-  bool finito = true;  // every number so far is one
 };
 
 void Gruppo(Dxf& dxf, int codice, std::string_view valore);
 void GruppoIntero(Dxf& dxf, int codice, int valore);
 void GruppoReale(Dxf& dxf, int codice, double valore);
-void GruppoLunghezza(Dxf& dxf, int codice, double valore);
 /// X, Y and Z, whose codes are ten apart.
 void GruppoPunto(Dxf& dxf, int codice, double x, double y);
 

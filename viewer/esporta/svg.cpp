@@ -19,9 +19,6 @@
 namespace ostrel {
 namespace {
 
-// Lengths within which single precision, all that readers of SVG have to have, is safe.
-constexpr double kMassimaLunghezza = 1e30, kMinimaLunghezza = 1e-30;
-constexpr double kLunghezzaRidotta = 100;
 constexpr double kMinimiPixel = 300;  // of the page's longer side, ten times as many at most
 // Lengths are written to this part of the page's longer side, nearly.
 constexpr double kFinezza = 1e8;
@@ -52,45 +49,26 @@ QString Misura(double valore) {
   return Numero(valore, PotenzaDiDieci(valore, 1e5));
 }
 
-struct Foglio {
-  Riquadro pagina;
-  double penna = 1;
-  double scala = 1;  // of the file's lengths to the drawing's
-  double cifre = 1;  // the power of ten to which they are rounded
-  double pixel = 1;  // of their unit
-};
-
-Foglio Misurato(const Disegno& disegno) {
-  const Riquadro tutto = Ingombro(disegno);
-  Foglio f{.pagina = Pagina(tutto)};
-  const double massimo = tutto.Massimo();
-  if (massimo > kMassimaLunghezza || (massimo > 0 && massimo < kMinimaLunghezza))
-    f.scala = PotenzaDiDieci(massimo, kLunghezzaRidotta);
-  const double lungo = std::max(f.pagina.Larghezza(), f.pagina.Altezza());
-  f.penna = lungo / kPenne;
-  f.cifre = PotenzaDiDieci(lungo * f.scala, kFinezza);
-  f.pixel = PotenzaDiDieci(lungo * f.scala, kMinimiPixel);
-  return f;
-}
-
-QString Lungo(const Foglio& foglio, double lunghezza) {
-  return Numero(lunghezza * foglio.scala, foglio.cifre);
-}
-
-QString Posto(const Foglio& foglio, const Coordinata& c) {
-  return Lungo(foglio, c.x) + ' ' + Lungo(foglio, -c.y);
-}
-
 struct Svg {
   QXmlStreamWriter xml;
   const Disegno& disegno;
-  Foglio foglio;
+  double penna;            // width of the lines
+  double cifre;            // the power of ten to whose inverse lengths are rounded
+  double pixel;            // of the nominal size, to a unit of the drawing
   std::size_t comune = 0;  // colour of the group being written
 };
 
+QString Lungo(const Svg& svg, double lunghezza) {
+  return Numero(lunghezza, svg.cifre);
+}
+
+QString Posto(const Svg& svg, const Coordinata& c) {
+  return Lungo(svg, c.x) + ' ' + Lungo(svg, -c.y);
+}
+
 void Attributi(Svg& svg, const char* nomeX, const char* nomeY, const Coordinata& c) {
-  svg.xml.writeAttribute(nomeX, Lungo(svg.foglio, c.x));
-  svg.xml.writeAttribute(nomeY, Lungo(svg.foglio, -c.y));
+  svg.xml.writeAttribute(nomeX, Lungo(svg, c.x));
+  svg.xml.writeAttribute(nomeY, Lungo(svg, -c.y));
 }
 
 // `tinta`: what the element is coloured by, "stroke" or "fill".
@@ -109,7 +87,7 @@ void Scrivi(Svg& svg, const Linea& linea, std::size_t colore) {
   Attributi(svg, "x2", "y2", Posto(svg.disegno, linea.fine));
   QStringList tratti;
   for (const double tratto : kTipiLinea[IndiceTipo(linea.tipo)].Tratti())
-    tratti << Lungo(svg.foglio, tratto * svg.foglio.penna);
+    tratti << Lungo(svg, tratto * svg.penna);
   if (!tratti.isEmpty()) svg.xml.writeAttribute("stroke-dasharray", tratti.join(' '));
   ColoraSeSuo(svg, "stroke", colore);
 }
@@ -117,14 +95,14 @@ void Scrivi(Svg& svg, const Linea& linea, std::size_t colore) {
 // An arc of more than half a circle as two: its ends, written down, might be one place.
 void Scrivi(Svg& svg, const Arco& arco, std::size_t colore) {
   const ArcoPolare p = Polare(svg.disegno, arco);
-  const QString raggio = Lungo(svg.foglio, p.raggio);
+  const QString raggio = Lungo(svg, p.raggio);
   if (p.cerchio) {
     svg.xml.writeEmptyElement("circle");
     Attributi(svg, "cx", "cy", {p.x, p.y});
     svg.xml.writeAttribute("r", raggio);
   } else {
     const auto posto = [&](double a) {
-      return Posto(svg.foglio, {p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a)});
+      return Posto(svg, {p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a)});
     };
     const int parti = p.ampiezza > std::numbers::pi ? 2 : 1;
     QString via = 'M' + posto(p.inizio);
@@ -137,9 +115,9 @@ void Scrivi(Svg& svg, const Arco& arco, std::size_t colore) {
 }
 
 void Scrivi(Svg& svg, const Punto& punto, std::size_t colore) {
-  const QString posto = Posto(svg.foglio, Posto(svg.disegno, punto.posizione));
-  const QString mezza = Lungo(svg.foglio, kMezzaCroce * svg.foglio.penna);
-  const QString intera = Lungo(svg.foglio, 2 * kMezzaCroce * svg.foglio.penna);
+  const QString posto = Posto(svg, Posto(svg.disegno, punto.posizione));
+  const QString mezza = Lungo(svg, kMezzaCroce * svg.penna);
+  const QString intera = Lungo(svg, 2 * kMezzaCroce * svg.penna);
   svg.xml.writeEmptyElement("path");
   svg.xml.writeAttribute("d", QString("M%1m-%2 -%2l%3 %3m0 -%3l-%3 %3").arg(posto, mezza, intera));
   ColoraSeSuo(svg, "stroke", colore);
@@ -149,10 +127,9 @@ void Scrivi(Svg& svg, const Punto& punto, std::size_t colore) {
 // The font's size is in nominal pixels: readers draw the outlines of very small fonts badly.
 // Blanks are kept by each text: browsers let none inherit that.
 void Scrivi(Svg& svg, const Scritta& scritta, std::size_t colore) {
-  const Foglio& f = svg.foglio;
   const auto quanti = static_cast<double>(scritta.testo.size());
   const double largo = scritta.base * quanti;
-  const double minimo = kMinimaScritta * f.penna;
+  const double minimo = kMinimaScritta * svg.penna;
   const auto angoli = Angoli(svg.disegno, scritta);
   if (scritta.altezza < minimo || largo < minimo) {
     svg.xml.writeEmptyElement("line");
@@ -161,11 +138,11 @@ void Scrivi(Svg& svg, const Scritta& scritta, std::size_t colore) {
     Colora(svg, "stroke", colore);
     return;
   }
-  const double corpo = scritta.altezza * f.scala / kMaiuscola * f.pixel;
+  const double corpo = scritta.altezza / kMaiuscola * svg.pixel;
   const double disteso = corpo * kAvanzamento * quanti;
-  QString posa = "translate(" + Posto(f, angoli[0]) + ')';
+  QString posa = "translate(" + Posto(svg, angoli[0]) + ')';
   if (scritta.angolo != 0) posa += " rotate(" + Numero(-scritta.angolo, 1) + ')';
-  posa += " scale(" + Misura(largo * f.scala / disteso) + ' ' + Misura(1 / f.pixel) + ')';
+  posa += " scale(" + Misura(largo / disteso) + ' ' + Misura(1 / svg.pixel) + ')';
   svg.xml.writeStartElement("text");
   svg.xml.writeAttribute("transform", posa);
   svg.xml.writeAttribute("font-size", Misura(corpo));
@@ -229,20 +206,22 @@ void Scrivi(Svg& svg, const Gruppo& gruppo) {
 
 QByteArray ScriviSvg(const Disegno& disegno) {
   QByteArray byte;
-  Svg svg{QXmlStreamWriter(&byte), disegno, Misurato(disegno)};
+  const Riquadro pagina = Pagina(Ingombro(disegno));
+  const double lungo = std::max(pagina.Larghezza(), pagina.Altezza());
+  Svg svg{QXmlStreamWriter(&byte), disegno, lungo / kPenne, PotenzaDiDieci(lungo, kFinezza),
+          PotenzaDiDieci(lungo, kMinimiPixel)};
   QXmlStreamWriter& xml = svg.xml;
-  const Foglio& f = svg.foglio;
-  const Coordinata angolo{f.pagina.x0, f.pagina.y1};
-  const QString larghezza = Lungo(f, f.pagina.Larghezza()), altezza = Lungo(f, f.pagina.Altezza());
+  const Coordinata angolo{pagina.x0, pagina.y1};
+  const QString larghezza = Lungo(svg, pagina.Larghezza()), altezza = Lungo(svg, pagina.Altezza());
   xml.setAutoFormatting(true);
   xml.setAutoFormattingIndent(0);
   xml.writeStartDocument();
   xml.writeStartElement("svg");
   xml.writeDefaultNamespace("http://www.w3.org/2000/svg");
-  xml.writeAttribute("width", Misura(f.pagina.Larghezza() * f.scala * f.pixel));
-  xml.writeAttribute("height", Misura(f.pagina.Altezza() * f.scala * f.pixel));
-  xml.writeAttribute("viewBox", Posto(f, angolo) + ' ' + larghezza + ' ' + altezza);
-  xml.writeAttribute("stroke-width", Lungo(f, f.penna));
+  xml.writeAttribute("width", Misura(pagina.Larghezza() * svg.pixel));
+  xml.writeAttribute("height", Misura(pagina.Altezza() * svg.pixel));
+  xml.writeAttribute("viewBox", Posto(svg, angolo) + ' ' + larghezza + ' ' + altezza);
+  xml.writeAttribute("stroke-width", Lungo(svg, svg.penna));
   xml.writeAttribute("font-family", kCarattere);
   if (!disegno.titolo.empty())
     xml.writeTextElement("title", QString::fromStdString(tarvel::InUtf8(disegno.titolo)));

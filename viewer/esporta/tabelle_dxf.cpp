@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -22,12 +21,6 @@ constexpr double kFormaVista = 4.0 / 3;
 // Of a layer without elements.
 constexpr AspettiLivelli kAspetti = {{{1, 0}, {7, 0}, {6, 0}}};
 
-// A measure of the view, which need not be exact but has to be a number above 0.
-void GruppoVista(Dxf& dxf, int codice, double valore) {
-  using Limiti = std::numeric_limits<double>;
-  GruppoReale(dxf, codice, std::clamp(valore * dxf.unita, Limiti::min(), Limiti::max()));
-}
-
 void ScriviTestata(Dxf& dxf, const Riquadro& tutto, const Riquadro& vista, Unita unita) {
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "HEADER");
@@ -41,7 +34,7 @@ void ScriviTestata(Dxf& dxf, const Riquadro& tutto, const Riquadro& vista, Unita
   Gruppo(dxf, 9, "$MEASUREMENT");
   GruppoIntero(dxf, 70, 1);
   Gruppo(dxf, 9, "$LTSCALE");
-  GruppoVista(dxf, 40, std::hypot(vista.Larghezza(), vista.Altezza()) * kTratto / kTrattoUnificato);
+  GruppoReale(dxf, 40, std::hypot(vista.Larghezza(), vista.Altezza()) * kTratto / kTrattoUnificato);
   if (!tutto.Vuoto()) {
     Gruppo(dxf, 9, "$EXTMIN");
     GruppoPunto(dxf, 10, tutto.x0, tutto.y0);
@@ -77,10 +70,10 @@ void ScriviVista(Dxf& dxf, const Riquadro& vista) {
   IniziaTabella(dxf, "VPORT", 1);
   VoceTabella(dxf, "VPORT", "*ACTIVE");
   for (const auto& [codice, valore] : kConsuete) GruppoIntero(dxf, codice, valore);
-  GruppoLunghezza(dxf, 12, centro.x);
-  GruppoLunghezza(dxf, 22, centro.y);
+  GruppoReale(dxf, 12, centro.x);
+  GruppoReale(dxf, 22, centro.y);
   GruppoPunto(dxf, 17, mezzo.x - centro.x, mezzo.y - centro.y);
-  GruppoVista(dxf, 40, alta);
+  GruppoReale(dxf, 40, alta);
   GruppoReale(dxf, 41, kFormaVista);
   Gruppo(dxf, 0, "ENDTAB");
 }

@@ -22,11 +22,10 @@ namespace {
 
 constexpr std::array kNomiLivelli = {"contorno", "quote", "testi"};
 
-// With two decimals, unless it is too long to be read at a glance. What rounds to zero has no sign.
+// With two decimals; what rounds to zero has no sign.
 QString Lunghezza(double v) {
-  constexpr double kMassimaDistesa = 1e10, kMezzoCentesimo = 0.005;
-  if (std::fabs(v) < kMezzoCentesimo) v = 0;
-  return std::fabs(v) < kMassimaDistesa ? QString::number(v, 'f', 2) : QString::number(v, 'g', 6);
+  constexpr double kMezzoCentesimo = 0.005;
+  return QString::number(std::fabs(v) < kMezzoCentesimo ? 0 : v, 'f', 2);
 }
 
 QLabel* Riga(const char* nome, const char* fondo, QWidget* padre) {
@@ -66,9 +65,7 @@ Finestra::Finestra(bool sorveglia, const QString& decimale)
   statusBar()->addWidget(coordinate_, 1);
   statusBar()->addPermanentWidget(conteggio_);
   connect(tela_, &Tela::Puntato, this, [this](double x, double y) {
-    const double unita = tela_->Mostrato().unita;
-    coordinate_->setText(
-        QString("X = %1   Y = %2").arg(Lunghezza(x * unita), Lunghezza(y * unita)).replace('.', decimale_));
+    coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x), Lunghezza(y)).replace('.', decimale_));
   });
   connect(tela_, &Tela::Toccata, this, [this] { Conferma({}); });
   setAcceptDrops(true);

@@ -4,21 +4,33 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
 #include <vector>
 
-#include "viewer/pittura/archi.h"
 #include "viewer/pittura/tratti.h"
 
 namespace ostrel {
 namespace {
 
 constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
-// With more lines than this on the screen smoothing would cost more than it shows.
+// With more lines on the screen, or more arcs anywhere, smoothing would cost more than it shows.
 constexpr std::size_t kMassimeLineeLisce = 20000;
+constexpr std::size_t kMassimiArchiLisci = 1000;
+// The radius, in painter units, up to which the painter's own arcs are no more than a pixel off.
+constexpr double kMassimoRaggio = 4000;
+
+// Whether a circle's line, not only its inside, meets a rectangle.
+bool Tocca(QPointF centro, double r, const QRectF& campo) {
+  const double sinistra = campo.left() - centro.x(), destra = campo.right() - centro.x();
+  const double sopra = campo.top() - centro.y(), sotto = campo.bottom() - centro.y();
+  const double vicino = std::hypot(std::max({sinistra, -destra, 0.0}), std::max({sopra, -sotto, 0.0}));
+  const double lontano = std::hypot(std::max(-sinistra, destra), std::max(-sopra, sotto));
+  return vicino <= r && r <= lontano;
+}
 
 class Pittura {
  public:
@@ -50,6 +62,23 @@ class Pittura {
     }
   }
 
+  void Archi() {
+    p_.setBrush(Qt::NoBrush);
+    for (const Arco& arco : d_.archi) {
+      const ArcoPolare polare = Polare(d_, arco);
+      const double r = polare.raggio * vista_.scala;
+      const QPointF centro = vista_.Verso(polare.x, polare.y);
+      if (!Tocca(centro, r, campo_)) continue;
+      p_.setPen(Penna(fondo_, arco.colore));
+      if (r > kMassimoRaggio * std::max(1.0, fondo_.spessore / 2))
+        p_.drawPath(Curva(polare));
+      else if (polare.cerchio)
+        p_.drawEllipse(centro, r, r);
+      else
+        p_.drawPath(Curva({centro.x() - r, centro.y() - r, 2 * r, 2 * r}, polare));
+    }
+  }
+
   void Scritte() {
     QFont carattere({"DejaVu Sans Mono", "Consolas"});
     carattere.setStyleHint(QFont::Monospace);
@@ -77,6 +106,32 @@ class Pittura {
   QPointF Verso(int indice) const {
     const Coordinata& c = Posto(d_, indice);
     return vista_.Verso(c.x, c.y);
+  }
+
+  static QPainterPath Curva(const QRectF& quadro, const ArcoPolare& polare) {
+    constexpr double kGradi = 180 / std::numbers::pi;
+    QPainterPath curva;
+    curva.arcMoveTo(quadro, polare.inizio * kGradi);
+    curva.arcTo(quadro, polare.inizio * kGradi, polare.ampiezza * kGradi);
+    return curva;
+  }
+
+  // By pieces so short that a cubic curve lies on each, however large the circle.
+  QPainterPath Curva(const ArcoPolare& polare) const {
+    constexpr double kMassimoPasso = 0.01;
+    const int parti = static_cast<int>(std::ceil(polare.ampiezza / kMassimoPasso));
+    const double passo = polare.ampiezza / parti, leva = std::tan(passo / 4) * 4 / 3;
+    // The point at an angle, moved along the tangent by a part of the radius.
+    const auto punto = [&](double a, double lungo) {
+      return vista_.Verso(polare.x + polare.raggio * (std::cos(a) - lungo * std::sin(a)),
+                          polare.y + polare.raggio * (std::sin(a) + lungo * std::cos(a)));
+    };
+    QPainterPath curva(punto(polare.inizio, 0));
+    for (int i = 0; i < parti; ++i) {
+      const double a = polare.inizio + i * passo;
+      curva.cubicTo(punto(a, leva), punto(a + passo, -leva), punto(a + passo, 0));
+    }
+    return curva;
   }
 
   // `saltato` is the length cut away before the segment: the dashes stay where they are.
@@ -157,12 +212,13 @@ Fondo FondoCarta(double spessore) {
 
 void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
              const Fondo& fondo) {
-  const bool liscia = fondo.pixel == 0 || disegno.linee.size() <= kMassimeLineeLisce;
   Pittura pittura(pittore, disegno, vista, visibile, fondo);
-  pittore.setRenderHint(QPainter::Antialiasing, liscia);
+  pittore.setRenderHint(QPainter::Antialiasing,
+                        fondo.pixel == 0 || disegno.linee.size() <= kMassimeLineeLisce);
   pittura.Linee();
+  pittore.setRenderHint(QPainter::Antialiasing, disegno.archi.size() <= kMassimiArchiLisci);
+  pittura.Archi();
   pittore.setRenderHint(QPainter::Antialiasing, true);
-  DipingiArchi(pittore, disegno, vista, visibile, fondo);
   pittura.Punti();
   pittura.Scritte();
 }

@@ -33,7 +33,7 @@ struct Notazione {
 
 /// Distance, its parts along the axes and the angle, one a line; a length has as many decimals as it needs,
 /// four at most. Nothing before there are two places.
-QString Risultato(const Metro& metro, double unita, const Notazione& notazione);
+QString Risultato(const Metro& metro, const Notazione& notazione);
 
 /// What to do now, in a line.
 QString Istruzione(const Metro& metro);

@@ -29,8 +29,7 @@ Tela::Tela(QWidget* padre) : QWidget(padre) {
 }
 
 void Tela::Mostra(Disegno nuovo, bool daCapo) {
-  // Whoever measures goes on when the file is read again, but no view or place outlives its numbers.
-  if (daCapo || nuovo.unita != disegno_.unita) {
+  if (daCapo) {
     metro_ = {};
     storia_ = {};
     adattata_ = true;

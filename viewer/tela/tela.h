@@ -25,8 +25,7 @@ class Tela : public QWidget {
   explicit Tela(QWidget* padre);
 
   /// Replaces the drawing. A fitted one stays fitted, whatever its extents have become; otherwise zoom
-  /// and place stay as they are. `daCapo`: another drawing, fitted, with no views before this one; so is one
-  /// in other numbers (Disegno::unita).
+  /// and place stay as they are. `daCapo`: another drawing, fitted, with no views before this one.
   void Mostra(Disegno nuovo, bool daCapo);
 
   /// Fits the whole drawing, and keeps it fitted until the user zooms or pans.
@@ -54,7 +53,7 @@ class Tela : public QWidget {
   const Disegno& Visibile() const { return visibile_ ? *visibile_ : disegno_; }
   const Vista& VistaCorrente() const { return vista_; }
   /// What has been measured; empty before there are two points.
-  QString Misura() const { return Risultato(metro_, disegno_.unita, notazione_); }
+  QString Misura() const { return Risultato(metro_, notazione_); }
   /// What is in the window, on paper and twice as fine.
   QImage Immagine() const;
 
