@@ -16,6 +16,7 @@ constexpr char kChiaveUnitaProposta[] = "esporta/unita";
 constexpr char kChiaveScala[] = "esporta/scala";
 constexpr char kChiaveCarta[] = "esporta/carta";
 constexpr char kChiaveOrientamento[] = "esporta/orientamento";
+constexpr char kNonDetta[] = "-";
 
 // Named by the organization alone, the file needs no folder of its own.
 QSettings Archivio() {
@@ -28,21 +29,23 @@ QString Chiave(const QString& file) {
   return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
 }
 
-// A unit and a file, as in "cm /lavori/ponte.dis"; the unit that is not to be said has no name.
-std::optional<UnitaDetta> LeggiUnitaDetta(const QString& riga) {
-  const QString nome = riga.section(' ', 0, 0);
-  const auto unita = nome.isEmpty() ? Unita::Ignota : LeggiUnita(nome);
-  if (!unita) return std::nullopt;
-  return UnitaDetta{riga.section(' ', 1), *unita};
+QString NomeUnita(const QString& riga) {
+  return riga.section(' ', 0, 0);
+}
+
+QString FileUnita(const QString& riga) {
+  return riga.section(' ', 1);
+}
+
+void TogliUnita(QStringList& unita, const QString& chiave) {
+  unita.removeIf([&](const QString& riga) { return FileUnita(riga) == chiave; });
 }
 
 void Scrivi(const Preferenze& preferenze) {
   QSettings archivio = Archivio();
   archivio.setValue(kChiaveFondoChiaro, preferenze.fondoChiaro);
   archivio.setValue(kChiaveRecenti, preferenze.recenti);
-  QStringList unita;
-  for (const UnitaDetta& u : preferenze.unita) unita << Voce(u.unita).nome + (' ' + u.file);
-  archivio.setValue(kChiaveUnitaDeiFile, unita);
+  archivio.setValue(kChiaveUnitaDeiFile, preferenze.unita);
   const auto& [genere, resa] = preferenze.scelta;
   archivio.setValue(kChiaveGenere, genere);
   archivio.setValue(kChiaveUnitaProposta, Voce(resa.unita).nome);
@@ -60,8 +63,7 @@ Preferenze LeggiPreferenze() {
   Preferenze lette;
   lette.fondoChiaro = archivio.value(kChiaveFondoChiaro).toBool();
   lette.recenti = elenco(kChiaveRecenti).mid(0, kMassimiRecenti);
-  for (const QString& riga : elenco(kChiaveUnitaDeiFile).mid(0, kMassimeUnita))
-    if (const auto unita = LeggiUnitaDetta(riga)) lette.unita << *unita;
+  lette.unita = elenco(kChiaveUnitaDeiFile).mid(0, kMassimeUnita);
   auto& [genere, resa] = lette.scelta;
   if (FinaliEsportazione().contains(testo(kChiaveGenere))) genere = testo(kChiaveGenere);
   resa.unita = LeggiUnita(testo(kChiaveUnitaProposta)).value_or(resa.unita);
@@ -86,23 +88,24 @@ void AggiungiRecente(Preferenze& preferenze, const QString& file) {
 }
 
 std::optional<Unita> UnitaDi(const Preferenze& preferenze, const QString& file) {
-  for (const QString chiave = Chiave(file); const UnitaDetta& u : preferenze.unita)
-    if (u.file == chiave) return u.unita;
+  for (const QString chiave = Chiave(file); const QString& riga : preferenze.unita)
+    if (FileUnita(riga) == chiave)
+      return NomeUnita(riga) == kNonDetta ? Unita::Ignota : LeggiUnita(NomeUnita(riga));
   return std::nullopt;
 }
 
 void RicordaUnita(Preferenze& preferenze, const QString& file, Unita unita) {
   preferenze.scelta.resa.unita = unita;
   if (file.isEmpty()) return;
-  const QString chiave = Chiave(file);
-  preferenze.unita.removeIf([&](const UnitaDetta& u) { return u.file == chiave; });
-  preferenze.unita.prepend({chiave, unita});
+  const QString nome = unita == Unita::Ignota ? kNonDetta : Voce(unita).nome, chiave = Chiave(file);
+  TogliUnita(preferenze.unita, chiave);
+  preferenze.unita.prepend(nome + ' ' + chiave);
   preferenze.unita = preferenze.unita.mid(0, kMassimeUnita);
 }
 
 void Dimentica(Preferenze& preferenze, const QString& file) {
   preferenze.recenti.removeAll(file);
-  preferenze.unita.removeIf([chiave = Chiave(file)](const UnitaDetta& u) { return u.file == chiave; });
+  TogliUnita(preferenze.unita, Chiave(file));
 }
 
 }  // namespace ostrel

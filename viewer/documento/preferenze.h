@@ -2,7 +2,6 @@
 // Where that file is missing, damaged or read-only, the viewer starts as it did the first time.
 #pragma once
 
-#include <QList>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -18,19 +17,14 @@ struct SceltaResa {
   Resa resa;               // its unit is only proposed for a drawing whose own has not been said
 };
 
-struct UnitaDetta {
-  QString file;  // canonical path
-  Unita unita = Unita::Ignota;
-};
-
 inline constexpr int kMassimiRecenti = 8;
 inline constexpr int kMassimeUnita = 100;
 
 struct Preferenze {
   bool fondoChiaro = false;
   SceltaResa scelta;
-  QStringList recenti;      // absolute paths of the drawings opened last, the latest first
-  QList<UnitaDetta> unita;  // one a file, the one said last first
+  QStringList recenti;  // absolute paths of the drawings opened last, the latest first
+  QStringList unita;    // the units said and their files, as in "cm /lavori/ponte.dis", the last said first
 };
 
 /// What is missing or makes no sense is as at the first start.

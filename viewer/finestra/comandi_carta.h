@@ -29,12 +29,15 @@ FileDisegno FileDi(const QString& percorso);
 /// Proposes the drawing's title: a preview's own file always has the same name.
 FileDisegno FileAnteprima(const Disegno& disegno, const QString& percorso);
 
-// Both open windows that let other things happen: the drawing has to stay as it is until they return.
+/// A command opens windows that let other things happen: the drawing has to stay as it is until it returns.
+/// `scelta` is what it proposes at first.
+using ComandoCarta = Esito (*)(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta,
+                               QWidget* finestra);
 
-/// Asks for the file and for what its kind needs, beginning with `scelta`, and writes it.
+/// Asks for the file and for what its kind needs, and writes it.
 Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra);
 
-/// Shows the sheet, asks for unit, scale and printer, beginning with `scelta`, and prints.
+/// Shows the sheet, asks for unit, scale and printer, and prints.
 Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra);
 
 /// A name with the ending `finale`, where it has none of `finali`: "ponte.1.pdf".

@@ -14,7 +14,6 @@
 #include <cmath>
 
 #include "viewer/carta/cartiglio.h"
-#include "viewer/finestra/comandi_carta.h"
 #include "viewer/tela/tela.h"
 
 namespace ostrel {
@@ -172,37 +171,21 @@ void Finestra::ScegliFile() {
   if (!scelto.isEmpty()) Apri(scelto);
 }
 
-FileDisegno Finestra::FileMostrato() const {
-  const QString& file = documento_.Mostrato();
-  return documento_.MostraAnteprima() ? FileAnteprima(tela_->Mostrato(), file) : FileDi(file);
-}
-
-// The last choices, with the unit of the drawing shown where it has been said.
-SceltaResa Finestra::Proposta() const {
+// What can be seen, without what is hidden; a copy, as the drawing may be read anew while the user is
+// choosing. The last choices are proposed, with the unit of this drawing where it has been said.
+void Finestra::MandaFuori(ComandoCarta comando) {
+  const Disegno visibile = tela_->Visibile();
+  const QString file = documento_.Mostrato();
   SceltaResa scelta = preferenze_.scelta;
   scelta.resa.unita = UnitaMostrata().value_or(scelta.resa.unita);
-  return scelta;
-}
-
-// Both commands take what can be seen, without what is hidden, as a copy: the drawing may be read anew while
-// the user is choosing.
-void Finestra::EsportaFile() {
-  const FileDisegno file = FileMostrato();
-  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), file, Proposta(), this), file.percorso);
-}
-
-void Finestra::StampaDisegno() {
-  const FileDisegno file = FileMostrato();
-  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), file, Proposta(), this), file.percorso);
-}
-
-// An order that the user took back leaves what was said before.
-void Finestra::Riferisci(const Esito& esito, const QString& file) {
+  const Esito esito = comando(
+      visibile, documento_.MostraAnteprima() ? FileAnteprima(visibile, file) : FileDi(file), scelta, this);
   if (esito.scelta)
     Ricorda([&](Preferenze& p) {
       p.scelta = *esito.scelta;
       if (esito.unitaDetta) RicordaUnita(p, file, p.scelta.resa.unita);
     });
+  // An order that the user took back leaves what was said before.
   if (esito.errore.isEmpty() && esito.conferma.isEmpty()) return;
   Avvisa(esito.errore);
   Conferma(esito.conferma);

@@ -5,6 +5,7 @@
 
 #include "viewer/documento/documento.h"
 #include "viewer/documento/preferenze.h"
+#include "viewer/finestra/comandi_carta.h"
 
 class QLabel;
 class QMenu;
@@ -13,8 +14,6 @@ namespace ostrel {
 
 class Tela;
 enum class Strumento;
-struct Esito;
-struct FileDisegno;
 
 class Finestra : public QMainWindow {
   Q_OBJECT
@@ -60,11 +59,7 @@ class Finestra : public QMainWindow {
   void Intitola();
   void Conta();
   void ScegliFile();
-  FileDisegno FileMostrato() const;
-  SceltaResa Proposta() const;
-  void EsportaFile();
-  void StampaDisegno();
-  void Riferisci(const Esito& esito, const QString& file);
+  void MandaFuori(ComandoCarta comando);
 
   Documento documento_;
   Preferenze preferenze_;

@@ -70,8 +70,9 @@ void Finestra::CreaMenuFile() {
   connect(file, &QMenu::aboutToShow, this, &Finestra::ElencaRecenti);
   ElencaRecenti();
   file->addSeparator();
-  Voce(this, file, "esporta", "&Esporta...", {QKeySequence("Ctrl+E")}, [this] { EsportaFile(); });
-  Voce(this, file, "stampa", "&Stampa...", {QKeySequence::Print}, [this] { StampaDisegno(); });
+  Voce(this, file, "esporta", "&Esporta...", {QKeySequence("Ctrl+E")},
+       [this] { MandaFuori(EsportaDaFinestra); });
+  Voce(this, file, "stampa", "&Stampa...", {QKeySequence::Print}, [this] { MandaFuori(StampaDaFinestra); });
   file->addSeparator();
   Voce(this, file, "chiudi", "&Chiudi", {QKeySequence("Alt+F4")}, [this] { close(); });
 }

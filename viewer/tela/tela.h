@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QImage>
-#include <QPixmap>
-#include <QRegion>
 #include <QWidget>
 #include <optional>
 
@@ -85,8 +83,7 @@ class Tela : public QWidget {
   void Trascina(QPoint passo, std::optional<Gesto> gesto);
   void ZoomSu(const QRectF& parte);
 
-  void Ridipingi();
-  void AggiornaQuadro();
+  void DipingiDisegno(QPaintDevice& dove, const tarvel::Colore& colore) const;
   void DipingiStrumento(QPainter& pittore);
   QString Istruzione() const;
 
@@ -104,10 +101,6 @@ class Tela : public QWidget {
   Livelli livelli_ = kTuttiLivelli;
   tarvel::Colore fondo_ = kSchermo;
   Notazione notazione_;
-
-  // The drawing as painted, without tools, and where it is out of date.
-  QPixmap quadro_;
-  QRegion vecchie_;
 
   Strumento strumento_ = Strumento::Mano;
   Metro metro_;
