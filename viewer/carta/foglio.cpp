@@ -14,7 +14,7 @@ namespace {
 constexpr double kLarghezzaCartiglio = 190;  // an upright A4 has room for it
 constexpr double kAltezzaCartiglio = 11;
 constexpr double kDistacco = 3;
-constexpr double kTolleranza = 1e-6;  // millimetres
+constexpr double kSbavatura = 1e-6;  // millimetres that come from rounding
 // Sizes on paper, in millimetres, beyond which a scale or a unit must be a mistake.
 constexpr double kMinimoSensato = 5;
 constexpr double kMinimoDipinto = 1e-3;
@@ -25,7 +25,7 @@ bool InScala(const Resa& resa) {
 }
 
 bool Contiene(const QSizeF& campo, const QSizeF& disegno) {
-  return disegno.width() <= campo.width() + kTolleranza && disegno.height() <= campo.height() + kTolleranza;
+  return disegno.width() <= campo.width() + kSbavatura && disegno.height() <= campo.height() + kSbavatura;
 }
 
 // A small sheet has a small title block.
@@ -50,7 +50,7 @@ QPageLayout ConCarta(const Resa& resa, QPageLayout::Orientation verso) {
 
 Foglio Disponi(const Riquadro& tutto, const Resa& resa, const QSizeF& stampabile) {
   Foglio foglio = Dividi(stampabile);
-  const double vero = Voce(resa.unita).millimetri;
+  const double vero = Millimetri(resa.unita);
   foglio.vista = VistaIntera(tutto, foglio.campo);
   if (InScala(resa)) {
     const QPointF centro = foglio.campo.center();
@@ -93,7 +93,7 @@ double ScalaCheCiSta(const Riquadro& tutto, Resa resa, const QPageLayout& pagina
   return 0;
 }
 
-// The smallest, turned as is best.
+// The smallest page on which the drawing fits, turned as the drawing has more room.
 std::optional<QPageLayout> PaginaCheBasta(const Riquadro& tutto, Resa resa) {
   resa.orientamento = Orientamento::Automatico;
   for (std::size_t i = 0; i < kCarte.size(); ++i) {
@@ -103,15 +103,15 @@ std::optional<QPageLayout> PaginaCheBasta(const Riquadro& tutto, Resa resa) {
   return std::nullopt;
 }
 
-// Whole millimetres are what can be read on a sheet.
-QString Lunghezza(double mm) {
+// Whole millimetres, as a ruler shows them on a sheet.
+QString Tonda(double mm) {
   constexpr double kPochi = 10;
   const QLocale italiano(QLocale::Italian);
   return mm < kPochi ? italiano.toString(mm, 'g', 2) : italiano.toString(mm, 'f', 0);
 }
 
 QString Lati(const QSizeF& mm) {
-  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
+  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Tonda(mm.width()), Tonda(mm.height()));
 }
 
 }  // namespace
@@ -151,13 +151,13 @@ std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const
     return Obiezione{
         QString("A %1 il disegno, in %2, misura %3: non si vedrebbe niente. L'unità o la scala non è "
                 "quella giusta.")
-            .arg(InTesto(resa.rapporto), Voce(resa.unita).nome, Lati(foglio.disegno)),
+            .arg(InTesto(resa.rapporto), Nome(resa.unita), Lati(foglio.disegno)),
         0, lungo < kMinimoDipinto};
   }
   const bool assurda = !(std::max(foglio.disegno.width(), foglio.disegno.height()) <= kMassimoDipinto);
   Obiezione obiezione{QString("A %1 il disegno, in %2, misura %3, e il foglio %4 ne ha liberi %5: una parte "
                               "ne resta fuori.")
-                          .arg(InTesto(resa.rapporto), Voce(resa.unita).nome,
+                          .arg(InTesto(resa.rapporto), Nome(resa.unita),
                                assurda ? "più di un chilometro" : Lati(foglio.disegno), InTesto(pagina),
                                Lati(foglio.campo.size())),
                       ScalaCheCiSta(tutto, resa, pagina), assurda};

@@ -1,4 +1,4 @@
-// The reader of drawing files ".dis": a pure function of the file's bytes.
+// Reads the bytes of a drawing file ".dis".
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@ namespace ostrel {
 struct ErroreDis {
   int riga = 0;  // from 1
   tarvel::Testo messaggio;
-  /// The bytes end where more was expected: the file may still be being written.
+  /// The bytes end where more was expected: perhaps the file is still being written.
   bool incompleto = false;
 };
 

@@ -9,7 +9,7 @@ namespace ostrel {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
-// Two points nearer than this are one, as for the program that drew them.
+// The program that draws takes two points nearer than this for one.
 constexpr double kTolleranza = 1e-4;
 constexpr double kMinimaForma = 0.2;  // of a page, shorter to longer side
 
@@ -36,8 +36,8 @@ ArcoPolare Polare(const Disegno& disegno, const Arco& arco) {
   const Coordinata a = Posto(disegno, arco.fine);
   ArcoPolare polare{centro.x, centro.y, std::hypot(da.x - centro.x, da.y - centro.y),
                     std::atan2(da.y - centro.y, da.x - centro.x)};
-  // The writer keeps the end point of a circle apart from its start point when the latter was
-  // merged with an earlier coordinate: the same place under two indices is still a full circle.
+  // The program that draws merges the start point of a circle, but not its end point, with an earlier
+  // coordinate at the same place: one place under two indices is still a full circle.
   polare.cerchio = std::fabs(da.x - a.x) < kTolleranza && std::fabs(da.y - a.y) < kTolleranza;
   polare.ampiezza = 2 * kPi;
   if (!polare.cerchio) {
@@ -83,7 +83,7 @@ Riquadro Ingombro(const Disegno& disegno) {
   return tutto;
 }
 
-Riquadro Pagina(const Riquadro& tutto) {
+Riquadro ConMargine(const Riquadro& tutto) {
   double lungo = std::max(tutto.Larghezza(), tutto.Altezza());
   if (lungo <= kArrotondamento * tutto.Massimo()) lungo = tutto.Massimo() > 0 ? tutto.Massimo() : 1;
   // The margin is a part of the page, not of the drawing.

@@ -41,6 +41,12 @@ void TogliUnita(QStringList& unita, const QString& chiave) {
   unita.removeIf([&](const QString& riga) { return FileUnita(riga) == chiave; });
 }
 
+void Premetti(const QString& riga, QStringList& elenco, qsizetype massime) {
+  elenco.removeAll(riga);
+  elenco.prepend(riga);
+  elenco = elenco.mid(0, massime);
+}
+
 void Scrivi(const Preferenze& preferenze) {
   QSettings archivio = Archivio();
   archivio.setValue(kChiaveFondoChiaro, preferenze.fondoChiaro);
@@ -48,7 +54,7 @@ void Scrivi(const Preferenze& preferenze) {
   archivio.setValue(kChiaveUnitaDeiFile, preferenze.unita);
   const auto& [genere, resa] = preferenze.scelta;
   archivio.setValue(kChiaveGenere, genere);
-  archivio.setValue(kChiaveUnitaProposta, Voce(resa.unita).nome);
+  archivio.setValue(kChiaveUnitaProposta, Nome(resa.unita));
   archivio.setValue(kChiaveScala, InTesto(resa.rapporto));
   archivio.setValue(kChiaveCarta, Nome(resa.carta));
   archivio.setValue(kChiaveOrientamento, Nome(resa.orientamento));
@@ -81,10 +87,7 @@ Preferenze CambiaPreferenze(const std::function<void(Preferenze&)>& cambia) {
 }
 
 void AggiungiRecente(Preferenze& preferenze, const QString& file) {
-  const QString assoluto = QFileInfo(file).absoluteFilePath();
-  preferenze.recenti.removeAll(assoluto);
-  preferenze.recenti.prepend(assoluto);
-  preferenze.recenti = preferenze.recenti.mid(0, kMassimiRecenti);
+  Premetti(QFileInfo(file).absoluteFilePath(), preferenze.recenti, kMassimiRecenti);
 }
 
 std::optional<Unita> UnitaDi(const Preferenze& preferenze, const QString& file) {
@@ -97,10 +100,9 @@ std::optional<Unita> UnitaDi(const Preferenze& preferenze, const QString& file) 
 void RicordaUnita(Preferenze& preferenze, const QString& file, Unita unita) {
   preferenze.scelta.resa.unita = unita;
   if (file.isEmpty()) return;
-  const QString nome = unita == Unita::Ignota ? kNonDetta : Voce(unita).nome, chiave = Chiave(file);
+  const QString nome = unita == Unita::Ignota ? kNonDetta : Nome(unita), chiave = Chiave(file);
   TogliUnita(preferenze.unita, chiave);
-  preferenze.unita.prepend(nome + ' ' + chiave);
-  preferenze.unita = preferenze.unita.mid(0, kMassimeUnita);
+  Premetti(nome + ' ' + chiave, preferenze.unita, kMassimeUnita);
 }
 
 void Dimentica(Preferenze& preferenze, const QString& file) {

@@ -1,4 +1,4 @@
-// The drawing for other CAD programs, in the plain R12 form of a DXF file.
+// Writes a drawing for other CAD programs, in the plain R12 form of a DXF file.
 #pragma once
 
 #include "base/testo.h"

@@ -1,4 +1,4 @@
-// Group by group: a code line and a value line.
+// A group is a line with the code and a line with the value.
 #include "viewer/esporta/gruppi_dxf.h"
 
 #include "base/numeri.h"

@@ -1,4 +1,4 @@
-// A DXF file while it is written: groups of a code and a value, and what an element leaves to its layer.
+// Writes a DXF file as groups of a code and a value.
 #pragma once
 
 #include <array>
@@ -9,20 +9,19 @@
 
 namespace ostrel {
 
-/// By Livello.
-inline constexpr std::array<const char*, 3> kNomiLivelli = {"CONTORNO", "QUOTE", "TESTI"};
+/// In the order of Livello.
+inline constexpr std::array<const char*, 3> kLivelliDxf = {"CONTORNO", "QUOTE", "TESTI"};
 
-/// Colour, of kColoriDxf, and place of the line type in kTipiLinea.
 struct Aspetto {
-  int colore;
-  std::size_t tipo;
+  int colore;        // of the 255 of the file
+  std::size_t tipo;  // the place of the line type in kTipiLinea
   bool operator==(const Aspetto&) const = default;
 };
-using AspettiLivelli = std::array<Aspetto, kNomiLivelli.size()>;
+using AspettiLivelli = std::array<Aspetto, kLivelliDxf.size()>;
 
 struct Dxf {
   tarvel::Testo testo;
-  AspettiLivelli livelli;
+  AspettiLivelli livelli;  // an element that looks like its layer does not say how it looks
 };
 
 void Gruppo(Dxf& dxf, int codice, std::string_view valore);

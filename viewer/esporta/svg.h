@@ -1,4 +1,4 @@
-// The drawing for browsers and drawing programs, as an SVG file.
+// Writes a drawing for browsers and drawing programs, as an SVG file.
 #pragma once
 
 #include <QByteArray>

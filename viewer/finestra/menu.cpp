@@ -120,8 +120,7 @@ void Finestra::CreaMenuVista() {
     successiva->setEnabled(tela_->Viste().HaSuccessiva());
     rettangolo->setChecked(tela_->InUso() == Strumento::Rettangolo);
   };
-  connect(tela_, &Tela::VistaCambiata, this, aggiorna);
-  connect(tela_, &Tela::StrumentoCambiato, this, aggiorna);
+  connect(tela_, &Tela::Cambiata, this, aggiorna);
   aggiorna();
   vista->addSeparator();
   CreaVociLivelli(*vista);
@@ -159,7 +158,7 @@ void Finestra::CreaMenuStrumenti() {
   auto* const misura = Segnabile(Voce(this, strumenti, "misura", "&Misura una distanza", {QKeySequence("M")},
                                       [this] { Alterna(Strumento::Metro); }),
                                  false);
-  connect(tela_, &Tela::StrumentoCambiato, misura,
+  connect(tela_, &Tela::Cambiata, misura,
           [=, this] { misura->setChecked(tela_->InUso() == Strumento::Metro); });
   QMenu* const unita = strumenti->addMenu("&Unità del disegno");
   auto* const scelte = new QActionGroup(this);
@@ -198,7 +197,7 @@ void Finestra::Ricorda(const std::function<void(Preferenze&)>& cambia) {
 
 void Finestra::Prendi(Preferenze preferenze) {
   preferenze_ = std::move(preferenze);
-  tela_->Annota({decimale_, ostrel::Voce(UnitaMostrata().value_or(Unita::Ignota)).nome});
+  tela_->Annota({decimale_, Nome(UnitaMostrata().value_or(Unita::Ignota))});
 }
 
 std::optional<Unita> Finestra::UnitaMostrata() const {

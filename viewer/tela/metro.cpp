@@ -7,7 +7,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "viewer/pittura/tratti.h"
+#include "viewer/pittura/ritaglio.h"
 
 namespace ostrel {
 namespace {
@@ -21,8 +21,8 @@ QColor Colore(const tarvel::Colore& fondo) {
 }
 
 void DipingiLinea(QPainter& pittore, QPointF p, QPointF q, const QRectF& area) {
-  if (Parte parte; Ritaglia(p, q, area, parte))
-    pittore.drawLine(p + (q - p) * parte.da, p + (q - p) * parte.a);
+  if (const auto parte = Ritaglia(p, q, area))
+    pittore.drawLine(p + (q - p) * parte->da, p + (q - p) * parte->a);
 }
 
 void DipingiSegno(QPainter& pittore, QPointF c, Appiglio genere) {

@@ -61,7 +61,7 @@ void Tela::Inquadra(const Inquadratura& nuova) {
   if (vista != std::exchange(vista_, vista)) angolo_.reset();
   update();
   if (underMouse()) Segui(puntatore_);
-  emit VistaCambiata();
+  emit Cambiata();
 }
 
 void Tela::Cambia(const Inquadratura& nuova, Gesto gesto) {

@@ -60,8 +60,8 @@ class Tela : public QWidget {
   void Puntato(double x, double y);
   /// The user has begun to act here.
   void Toccata();
-  void VistaCambiata();
-  void StrumentoCambiato();
+  /// The view or the tool is another.
+  void Cambiata();
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
