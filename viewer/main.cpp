@@ -1,6 +1,7 @@
 // The companion viewer: started beside the program it shows its drawings in a window; with
 // --esporta it converts drawings without a window.
 #include <QApplication>
+#include <QLocale>
 #include <QScreen>
 #include <algorithm>
 #include <cstdio>
@@ -40,7 +41,7 @@ void Disponi(QWidget& finestra, const tarvel::Rettangolo& posto) {
 
 int MostraInFinestra(const Richieste& richieste) {
   const auto avvio = CercaAvvio();
-  Finestra finestra(richieste.sorveglia);
+  Finestra finestra(richieste.sorveglia, QLocale::system().decimalPoint());
   Disponi(finestra, avvio.value_or(Avvio{}).posto);
   finestra.show();
   if (!richieste.disegni.isEmpty())

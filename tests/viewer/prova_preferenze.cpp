@@ -1,19 +1,21 @@
 // What is remembered from one run to the next, and the words it is written with.
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 
 #include "tests/viewer/aiuti_viewer.h"
-#include "viewer/finestra/preferenze.h"
+#include "viewer/documento/preferenze.h"
 
 namespace ostrel {
 namespace {
 
 // A folder of its own for the remembered choices, the tests' common one afterwards.
-struct Preferenze : testing::Test {
-  Preferenze() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, cartella.path()); }
-  ~Preferenze() override { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, prima); }
+struct ConPreferenze : testing::Test {
+  ConPreferenze() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, cartella.path()); }
+  ~ConPreferenze() override { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, prima); }
 
   const QString prima =
       QFileInfo(QSettings(QSettings::IniFormat, QSettings::UserScope, "ostrel").fileName()).path();
@@ -21,32 +23,89 @@ struct Preferenze : testing::Test {
   const std::string file = cartella.filePath("ostrel.ini").toStdString();
 };
 
-TEST_F(Preferenze, LaResaSiRicorda) {
-  EXPECT_EQ(ResaRicordata().genere, "pdf");
-  RicordaResa({"dxf", {Unita::Centimetri, 12.5, Carta::A3, Orientamento::Verticale}});
-  const SceltaResa scelta = ResaRicordata();
-  EXPECT_EQ(scelta.genere, "dxf");
-  EXPECT_EQ(scelta.resa.unita, Unita::Centimetri);
-  EXPECT_EQ(scelta.resa.rapporto, 12.5);
-  EXPECT_EQ(scelta.resa.carta, Carta::A3);
-  EXPECT_EQ(scelta.resa.orientamento, Orientamento::Verticale);
+TEST_F(ConPreferenze, TornanoComeSonoStateScritte) {
+  EXPECT_EQ(LeggiPreferenze().scelta.genere, "pdf");
+  const QString strano = "/città/a, b = \"c\";  .dis";
+  CambiaPreferenze([&](Preferenze& p) {
+    p.fondoChiaro = true;
+    p.scelta = {"dxf", {Unita::Centimetri, 12.5, Carta::A3, Orientamento::Verticale}};
+    AggiungiRecente(p, strano);
+    RicordaUnita(p, strano, Unita::Metri);
+    RicordaUnita(p, "/b.dis", Unita::Ignota);
+  });
+  const Preferenze p = CambiaPreferenze([](Preferenze& altre) { altre.scelta.genere = "svg"; });
+  EXPECT_TRUE(p.fondoChiaro);
+  EXPECT_EQ(p.scelta.genere, "svg");
+  EXPECT_EQ(p.scelta.resa.unita, Unita::Ignota) << "the one said last";
+  EXPECT_EQ(p.scelta.resa.rapporto, 12.5);
+  EXPECT_EQ(p.scelta.resa.carta, Carta::A3);
+  EXPECT_EQ(p.scelta.resa.orientamento, Orientamento::Verticale);
+  EXPECT_EQ(p.recenti, QStringList(strano));
+  EXPECT_EQ(UnitaDi(p, strano), Unita::Metri);
+  EXPECT_EQ(UnitaDi(p, "/b.dis"), Unita::Ignota);
+  EXPECT_EQ(UnitaDi(p, "/c.dis"), std::nullopt);
   EXPECT_NE(prove::Leggi(file).find("scala=\"1:12,5\""), std::string::npos) << prove::Leggi(file);
 }
 
-TEST_F(Preferenze, IlFileGuastoNonNuoce) {
-  const std::string guasti[] = {"[esporta]\nscala=molta\nunita=piedi\ncarta=A9\norientamento=7\ngenere=svg\n",
-                                "[esporta\n=\x01\xFF@@\n\n]]", std::string(9, '\0')};
+TEST_F(ConPreferenze, IlFileGuastoNonNuoce) {
+  const std::string guasti[] = {
+      "[esporta]\nscala=molta\nunita=piedi\ncarta=A9\norientamento=7\ngenere=svg\n"
+      "[file]\nunita=piedi /a.dis, , cm, m /b.dis\n",
+      "[esporta\n=\x01\xFF@@\n\n]]", std::string(9, '\0')};
   prove::Scrivi(file, guasti[0]);
-  EXPECT_EQ(ResaRicordata().genere, "svg") << "what makes sense is kept";
+  EXPECT_EQ(LeggiPreferenze().scelta.genere, "svg") << "what makes sense is kept";
+  EXPECT_EQ(UnitaDi(LeggiPreferenze(), "/b.dis"), Unita::Metri);
   prove::Scrivi(file, "[esporta]\ngenere=bmp\n");
-  EXPECT_EQ(ResaRicordata().genere, "pdf");
+  EXPECT_EQ(LeggiPreferenze().scelta.genere, "pdf");
   for (const std::string& byte : guasti) {
     prove::Scrivi(file, byte);
-    const Resa resa = ResaRicordata().resa;
-    EXPECT_EQ(resa.unita, Unita::Ignota) << byte;
-    EXPECT_EQ(resa.rapporto, 0) << byte;
-    EXPECT_EQ(resa.carta, Carta::A4) << byte;
+    const Preferenze p = LeggiPreferenze();
+    EXPECT_EQ(p.scelta.resa.unita, Unita::Ignota) << byte;
+    EXPECT_EQ(p.scelta.resa.rapporto, 0) << byte;
+    EXPECT_EQ(p.scelta.resa.carta, Carta::A4) << byte;
+    EXPECT_EQ(UnitaDi(p, "/a.dis"), std::nullopt) << byte;
   }
+}
+
+// Of one file under several names there is one unit, of a file that is gone none.
+TEST_F(ConPreferenze, LUnitaEDelFile) {
+  const QDir qui(cartella.path());
+  const QString vero = qui.filePath("ponte.dis"), legame = qui.filePath("legame.dis");
+  prove::Scrivi(vero.toStdString(), "");
+  ASSERT_TRUE(QFile::link(vero, legame));
+  Preferenze p;
+  RicordaUnita(p, qui.filePath("./x/../ponte.dis"), Unita::Metri);
+  EXPECT_EQ(UnitaDi(p, vero), Unita::Metri);
+  EXPECT_EQ(UnitaDi(p, legame), Unita::Metri);
+  RicordaUnita(p, legame, Unita::Centimetri);
+  EXPECT_EQ(UnitaDi(p, vero), Unita::Centimetri);
+  EXPECT_EQ(p.unita.size(), 1);
+  RicordaUnita(p, "", Unita::Millimetri);
+  EXPECT_EQ(UnitaDi(p, ""), std::nullopt);
+  EXPECT_EQ(p.scelta.resa.unita, Unita::Millimetri);
+  AggiungiRecente(p, vero);
+  QFile::remove(vero);
+  EXPECT_EQ(UnitaDi(p, vero), Unita::Centimetri) << "away for a while";
+  Dimentica(p, vero);
+  EXPECT_EQ(UnitaDi(p, vero), std::nullopt);
+  EXPECT_EQ(p.recenti, QStringList());
+}
+
+TEST_F(ConPreferenze, GliElenchiNonCresconoSenzaFine) {
+  const auto nome = [](int i) { return QString("/%1.dis").arg(i); };
+  const Preferenze p = CambiaPreferenze([&](Preferenze& nuove) {
+    for (int i = 0; i < 2 * kMassimeUnita; ++i) {
+      AggiungiRecente(nuove, nome(i));
+      RicordaUnita(nuove, nome(i), Unita::Metri);
+      RicordaUnita(nuove, nome(0), Unita::Millimetri);
+    }
+  });
+  EXPECT_EQ(p.recenti.size(), kMassimiRecenti);
+  EXPECT_EQ(p.recenti.front(), nome(2 * kMassimeUnita - 1));
+  EXPECT_EQ(p.unita.size(), kMassimeUnita);
+  EXPECT_EQ(UnitaDi(p, nome(0)), Unita::Millimetri) << "said again, it is not the oldest";
+  EXPECT_EQ(UnitaDi(p, nome(kMassimeUnita)), std::nullopt);
+  EXPECT_EQ(UnitaDi(p, nome(kMassimeUnita + 1)), Unita::Metri);
 }
 
 TEST(Scala, Figure) {

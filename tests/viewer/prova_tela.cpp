@@ -134,6 +134,7 @@ TEST_F(ConFinestra, LoStrumentoLasciatoSparisceDalloSchermo) {
     const QRect posto(tela.mapTo(&finestra, QPoint()), tela.size());
     return finestra.screen()->grabWindow(finestra.winId()).copy(posto).toImage();
   };
+  DiUnita(Unita::Ignota);
   for (const auto tasto : {Qt::Key_M, Qt::Key_Z}) {
     const QImage prima = fotografia();
     QTest::keyClick(&tela, tasto);
@@ -145,16 +146,19 @@ TEST_F(ConFinestra, LoStrumentoLasciatoSparisceDalloSchermo) {
 }
 
 TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
+  DiUnita(Unita::Ignota);
   QTest::keyClick(&tela, Qt::Key_M);
   Indica(1.5, 2);
   EXPECT_EQ(tela.Misura(), "") << "a place measured from itself";
 
-  tela.NominaUnita("cm");
+  DiUnita(Unita::Centimetri);
   Rotella(15, Sullo(328, -186));
   Muovi(Sullo(328, -186));
-  EXPECT_FALSE(tela.Misura().contains("ΔX = 329.5")) << "what is beside the vertex is told from it";
+  EXPECT_FALSE(tela.Misura().contains("ΔX = 329,5")) << "what is beside the vertex is told from it";
   Indica(329.5, -185);
-  const QString misura = "Distanza = 377.8826 cm\nΔX = 329.5 cm\nΔY = -185 cm\nAngolo = -29.31°";
+  const QString puntato = Detto("coordinate");
+  EXPECT_TRUE(puntato.startsWith("X = 329,5") && puntato.count(',') == 2) << puntato.toStdString();
+  const QString misura = "Distanza = 377,8826 cm\nΔX = 329,5 cm\nΔY = -185 cm\nAngolo = -29,31°";
   EXPECT_EQ(tela.Misura(), misura);
   Muovi({10, 10});
   Trascina({300, 300}, {350, 320});
@@ -170,7 +174,7 @@ TEST_F(ConFinestra, MisuraConAgganciAOgniZoom) {
   QTest::keyClick(&tela, Qt::Key_Return);
   QTest::keyClick(&tela, Qt::Key_Left, Qt::ShiftModifier);
   QTest::keyClick(&tela, Qt::Key_Enter);
-  EXPECT_TRUE(tela.Misura().endsWith("ΔY = 0 cm\nAngolo = 180.00°")) << tela.Misura().toStdString();
+  EXPECT_TRUE(tela.Misura().endsWith("ΔY = 0 cm\nAngolo = 180,00°")) << tela.Misura().toStdString();
   QTest::keyClick(&tela, Qt::Key_Escape);
   EXPECT_EQ(tela.InUso(), Strumento::Mano);
   EXPECT_FALSE(finestra.findChild<QAction*>("misura")->isChecked());

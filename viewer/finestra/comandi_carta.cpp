@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -17,7 +16,6 @@
 #include "viewer/disegno/misure.h"
 #include "viewer/esporta/esporta.h"
 #include "viewer/finestra/dialogo_carta.h"
-#include "viewer/finestra/preferenze.h"
 
 namespace ostrel {
 namespace {
@@ -59,18 +57,6 @@ QString ScegliUscita(const QString& titolo, const FileDisegno& da, const QString
     if (!QFileInfo(uscita).isFile() || Sostituire(uscita, finestra)) return uscita;
   }
   return {};
-}
-
-std::optional<Unita> ChiediUnita(Unita unita, QWidget* finestra) {
-  QInputDialog dialogo(finestra);
-  dialogo.setWindowTitle("Esporta in DXF");
-  dialogo.setLabelText("In che unità è il disegno? Gli altri programmi la leggono nel file DXF.");
-  dialogo.setComboBoxItems(NomiUnita());
-  dialogo.setTextValue(NomiUnita()[static_cast<int>(unita)]);
-  dialogo.setOkButtonText("&Esporta");
-  dialogo.setCancelButtonText("&Annulla");
-  if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
-  return static_cast<Unita>(NomiUnita().indexOf(dialogo.textValue()));
 }
 
 // One by one: all at once a printer refuses for a single figure it does not like. Its own least margins,
@@ -186,31 +172,36 @@ FileDisegno FileAnteprima(const Disegno& disegno, const QString& percorso) {
   return nome.isEmpty() ? FileDi(percorso) : FileDisegno{percorso, nome};
 }
 
-Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* finestra) {
+Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("esportare");
   const Origine origine{da.percorso};
-  SceltaResa scelta = ResaRicordata();
   const QString uscita = ScegliUscita("Esporta disegno", da, FinaliEsportazione(), scelta.genere, finestra);
   if (uscita.isEmpty()) return {};
   scelta.genere = FinaleDi(uscita);
-  if (scelta.genere == kPdf) {
+  const bool pdf = scelta.genere == kPdf, dxf = scelta.genere == "dxf";
+  if (pdf) {
     DialogoCarta dialogo(disegno, origine, scelta.resa, {"Esporta in PDF", "&Esporta", {}}, finestra);
     if (dialogo.exec() != QDialog::Accepted) return {};
     scelta.resa = dialogo.Scelta();
-  } else if (scelta.genere == "dxf") {
-    const auto unita = ChiediUnita(scelta.resa.unita, finestra);
+  } else if (dxf) {
+    const auto unita =
+        ChiediUnita(scelta.resa.unita,
+                    {"Esporta in DXF", "&Esporta",
+                     "In che unità è il disegno? Gli altri programmi la leggono nel file DXF."},
+                    finestra);
     if (!unita) return {};
     scelta.resa.unita = *unita;
   }
-  RicordaResa(scelta);
-  return EsportaIn(uscita, disegno, scelta.resa, origine);
+  Esito esito = EsportaIn(uscita, disegno, scelta.resa, origine);
+  esito.scelta = scelta;
+  esito.unitaDetta = pdf || dxf;
+  return esito;
 }
 
-Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* finestra) {
+Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("stampare");
   const Origine origine{da.percorso};
   const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();
-  SceltaResa scelta = ResaRicordata();
   DialogoCarta dialogo(
       disegno, origine, scelta.resa,
       {"Stampa", senza ? "&Stampa in PDF..." : "&Stampa...",
@@ -218,10 +209,15 @@ Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* f
       finestra);
   if (dialogo.exec() != QDialog::Accepted) return {};
   scelta.resa = dialogo.Scelta();
-  RicordaResa(scelta);
-  if (!senza) return MandaInStampa(disegno, scelta.resa, origine, finestra);
-  const QString uscita = ScegliUscita("Stampa in PDF", da, {kPdf}, kPdf, finestra);
-  return uscita.isEmpty() ? Esito{} : EsportaIn(uscita, disegno, scelta.resa, origine);
+  Esito esito;
+  if (!senza)
+    esito = MandaInStampa(disegno, scelta.resa, origine, finestra);
+  else if (const QString uscita = ScegliUscita("Stampa in PDF", da, {kPdf}, kPdf, finestra);
+           !uscita.isEmpty())
+    esito = EsportaIn(uscita, disegno, scelta.resa, origine);
+  esito.scelta = scelta;
+  esito.unitaDetta = true;
+  return esito;
 }
 
 }  // namespace ostrel

@@ -17,16 +17,19 @@ class AnteprimaFoglio;
 /// The units as a list offers them, in the order of Unita.
 QStringList NomiUnita();
 
-/// Whether to go on although the drawing does not fit: asked with what is wrong and the scale that would do.
-enum class Risposta { Annulla, Comunque, AltraScala };
-Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione);
-
-/// What the dialog says about itself.
+/// What a dialog says about itself.
 struct TestiDialogo {
   QString titolo;
   QString fai;         // on the button that goes on
   QString avvertenza;  // empty: none
 };
+
+/// Asks for the unit of a drawing; nothing where the user takes the order back.
+std::optional<Unita> ChiediUnita(Unita proposta, const TestiDialogo& testi, QWidget* genitore);
+
+/// Whether to go on although the drawing does not fit: asked with what is wrong and the scale that would do.
+enum class Risposta { Annulla, Comunque, AltraScala };
+Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione);
 
 class DialogoCarta : public QDialog {
   Q_OBJECT

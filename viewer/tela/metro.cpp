@@ -41,6 +41,15 @@ void DipingiSegno(QPainter& pittore, QPointF c, Appiglio genere) {
   }
 }
 
+QString Misurata(double lunghezza) {
+  constexpr double kMinimaDistesa = 1e-2;
+  if (lunghezza != 0 && std::fabs(lunghezza) < kMinimaDistesa) return QString::number(lunghezza, 'g', 6);
+  QString testo = QString::number(lunghezza, 'f', 4);
+  while (testo.endsWith('0')) testo.chop(1);
+  if (testo.endsWith('.')) testo.chop(1);
+  return testo;
+}
+
 }  // namespace
 
 void Prendi(Metro& metro) {
@@ -63,18 +72,7 @@ void Punta(Metro& metro, const Disegno& disegno, const Vista& vista, QPointF dov
   }
 }
 
-QString Misurata(double lunghezza) {
-  constexpr double kMassimaDistesa = 1e10, kMinimaDistesa = 1e-2;
-  const double grande = std::fabs(lunghezza);
-  if (grande != 0 && (grande >= kMassimaDistesa || grande < kMinimaDistesa))
-    return QString::number(lunghezza, 'g', 6);
-  QString testo = QString::number(lunghezza, 'f', 4);
-  while (testo.endsWith('0')) testo.chop(1);
-  if (testo.endsWith('.')) testo.chop(1);
-  return testo;
-}
-
-QString Risultato(const Metro& metro, const QString& nomeUnita) {
+QString Risultato(const Metro& metro, const Notazione& notazione) {
   const auto fine = metro.a ? metro.a : metro.sotto;
   if (!metro.da || !fine || *metro.da == *fine) return {};
   const Coordinata &p = *metro.da, &q = *fine;
@@ -83,12 +81,13 @@ QString Risultato(const Metro& metro, const QString& nomeUnita) {
   const auto parte = [&](double da, double a) { return std::fabs(a - da) > rumore ? a - da : 0; };
   const double dx = parte(p.x, q.x), dy = parte(p.y, q.y);
   const auto riga = [&](const char* nome, double lunghezza) {
-    return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza), nomeUnita).trimmed();
+    return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza), notazione.unita).trimmed();
   };
   constexpr double kGradi = 180 / std::numbers::pi;
   return QStringList{riga("Distanza", std::hypot(dx, dy)), riga("ΔX", dx), riga("ΔY", dy),
                      QString("Angolo = %1°").arg(QString::number(std::atan2(dy, dx) * kGradi, 'f', 2))}
-      .join('\n');
+      .join('\n')
+      .replace('.', notazione.decimale);
 }
 
 QString Istruzione(const Metro& metro) {

@@ -25,12 +25,15 @@ void Prendi(Metro& metro);
 /// The place under the pointer that lies at `dove` of the painter.
 void Punta(Metro& metro, const Disegno& disegno, const Vista& vista, QPointF dove);
 
-/// A length in the drawing's numbers, as many decimals as it needs, four at most; "1200", "28.75".
-QString Misurata(double lunghezza);
+/// How a measure is written.
+struct Notazione {
+  QString decimale = ".";
+  QString unita;  // of the drawing's lengths; empty where it is not known
+};
 
-/// Distance, its parts along the axes and the angle, one a line, in the drawing's numbers and with the name
-/// of their unit where it is known. Nothing before there are two places.
-QString Risultato(const Metro& metro, const QString& nomeUnita);
+/// Distance, its parts along the axes and the angle, one a line; a length has as many decimals as it needs,
+/// four at most. Nothing before there are two places.
+QString Risultato(const Metro& metro, const Notazione& notazione);
 
 /// What to do now, in a line.
 QString Istruzione(const Metro& metro);

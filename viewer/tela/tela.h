@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QImage>
-#include <QPixmap>
-#include <QRegion>
 #include <QWidget>
 #include <optional>
 
@@ -44,8 +42,8 @@ class Tela : public QWidget {
   void MostraLivelli(const Livelli& livelli);
   const Livelli& LivelliMostrati() const { return livelli_; }
   void MettiSu(const tarvel::Colore& fondo);
-  /// Of the drawing's lengths, shown beside what is measured; empty where nobody has said it.
-  void NominaUnita(const QString& nome);
+  /// How measures are written.
+  void Annota(const Notazione& notazione);
 
   /// The whole drawing, shown or not.
   const Disegno& Mostrato() const { return disegno_; }
@@ -53,7 +51,7 @@ class Tela : public QWidget {
   const Disegno& Visibile() const { return visibile_ ? *visibile_ : disegno_; }
   const Vista& VistaCorrente() const { return vista_; }
   /// What has been measured; empty before there are two points.
-  QString Misura() const { return Risultato(metro_, unita_); }
+  QString Misura() const { return Risultato(metro_, notazione_); }
   /// What is in the window, on paper and twice as fine.
   QImage Immagine() const;
 
@@ -62,8 +60,8 @@ class Tela : public QWidget {
   void Puntato(double x, double y);
   /// The user has begun to act here.
   void Toccata();
-  void VistaCambiata();
-  void StrumentoCambiato();
+  /// The view or the tool is another.
+  void Cambiata();
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
@@ -85,8 +83,7 @@ class Tela : public QWidget {
   void Trascina(QPoint passo, std::optional<Gesto> gesto);
   void ZoomSu(const QRectF& parte);
 
-  void Ridipingi();
-  void AggiornaQuadro();
+  void DipingiDisegno(QPaintDevice& dove, const tarvel::Colore& colore) const;
   void DipingiStrumento(QPainter& pittore);
   QString Istruzione() const;
 
@@ -103,11 +100,7 @@ class Tela : public QWidget {
 
   Livelli livelli_ = kTuttiLivelli;
   tarvel::Colore fondo_ = kSchermo;
-  QString unita_;
-
-  // The drawing as painted, without tools, and where it is out of date.
-  QPixmap quadro_;
-  QRegion vecchie_;
+  Notazione notazione_;
 
   Strumento strumento_ = Strumento::Mano;
   Metro metro_;

@@ -43,7 +43,7 @@ void Tela::Usa(Strumento strumento) {
   if (strumento_ != Strumento::Mano) setFocus();
   Segui(puntatore_);
   update();
-  emit StrumentoCambiato();
+  emit Cambiata();
 }
 
 void Tela::Segui(QPointF dove) {
