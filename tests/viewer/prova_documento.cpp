@@ -17,6 +17,12 @@ namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
 constexpr int kAttesaMassimaMs = 10000;
+const std::string kGuasto = "guasto\r\n";
+
+// The title of a drawing is its name here.
+std::string Titolato(const char* nome) {
+  return prove::ConRiga(prove::kEsempio, 388, nome);
+}
 
 struct ConDocumento : testing::Test {
   explicit ConDocumento(bool sorveglia = false)
@@ -24,39 +30,30 @@ struct ConDocumento : testing::Test {
           sentiti << QString::fromStdString(esito.disegno ? esito.disegno->titolo : esito.messaggio) +
                          (esito.disegno && nuovo ? ", nuovo" : "");
         }) {
-    Scrivi(file, 1);
-    guardia.addPath(cartella.path());
+    Scrivi(uno, Titolato("A"));
   }
 
-  // A drawing whose title ends with this figure.
-  static std::string Titolato(int cifra) {
-    return prove::ConRiga(prove::kEsempio, 388, std::to_string(cifra));
+  // Each time a second later: the clock of the files may be coarser than a scene is quick.
+  void Scrivi(const QString& dove, const std::string& byte) {
+    prove::Scrivi(dove.toStdString(), byte);
+    fs::last_write_time(dove.toStdString(), fs::file_time_type::clock::now() - 1h + ++scritture * 1s);
   }
-  // Written a second later each time: the clock of the files may be coarser than a scene is quick.
-  void Data(const std::string& dove) {
-    fs::last_write_time(dove, fs::file_time_type::clock::now() - 1h + ++scritture * 1s);
-  }
-  void ScriviByte(const std::string& dove, const std::string& byte) {
-    prove::Scrivi(dove, byte);
-    Data(dove);
-  }
-  void Scrivi(const std::string& dove, int cifra) { ScriviByte(dove, Titolato(cifra)); }
   QStringList Sentiti() { return std::exchange(sentiti, {}); }
-  bool Sente(const QString& atteso) {
-    return QTest::qWaitFor([&] { return sentiti.contains(atteso); }, kAttesaMassimaMs);
+  bool Sente(const QString& parola) {
+    const auto sentita = [&] { return !sentiti.filter(parola).isEmpty(); };
+    return QTest::qWaitFor(sentita, kAttesaMassimaMs);
   }
   // The folder changes, and whoever watches it has been told.
-  void AltroNellaCartella() {
+  void CambiaLaCartella() {
+    QFileSystemWatcher guardia({cartella.path()});
     QSignalSpy cambiata(&guardia, &QFileSystemWatcher::directoryChanged);
-    prove::Scrivi(cartella.filePath("altro" + QString::number(++scritture)).toStdString(), "");
+    Scrivi(cartella.filePath("altro" + QString::number(scritture)), "");
     EXPECT_TRUE(cambiata.wait(kAttesaMassimaMs));
     QCoreApplication::processEvents();
   }
 
   const QTemporaryDir cartella;
-  const QString percorso = cartella.filePath("sezione.dis"), altro = cartella.filePath("altro.dis");
-  const std::string file = percorso.toStdString();
-  QFileSystemWatcher guardia;
+  const QString uno = cartella.filePath("uno.dis"), due = cartella.filePath("due.dis");
   QStringList sentiti;
   int scritture = 0;
   Documento documento;
@@ -68,101 +65,82 @@ struct DocumentoSorvegliato : ConDocumento {
 
 TEST_F(ConDocumento, AOgniComandoSiLegge) {
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList()) << "before a file has been opened";
-  documento.Apri(percorso);
+  EXPECT_EQ(Sentiti(), QStringList()) << "no file has been opened";
+  documento.Apri(uno);
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList({"1, nuovo", "1"}));
-  documento.Apri(altro);
+  documento.Apri(due);
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList(2, "File " + altro + ": il disegno non esiste"));
-  EXPECT_EQ(documento.Mostrato(), percorso);
-  EXPECT_EQ(documento.Aperto(), altro);
-  Scrivi(altro.toStdString(), 2);
+  const QString manca = "File " + due + ": il disegno non esiste";
+  EXPECT_EQ(Sentiti(), QStringList({"A, nuovo", "A", manca, manca}));
+  EXPECT_EQ(documento.Mostrato(), uno);
+  EXPECT_EQ(documento.Aperto(), due);
+  Scrivi(due, Titolato("B"));
+  Scrivi(uno, Titolato("C"));
+  CambiaLaCartella();
+  EXPECT_EQ(Sentiti(), QStringList()) << "not watched";
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList("2, nuovo")) << "the first that could be read";
-  EXPECT_EQ(documento.Mostrato(), altro);
+  EXPECT_EQ(Sentiti(), QStringList("B, nuovo")) << "the first that could be read";
+  EXPECT_EQ(documento.Mostrato(), due);
 }
 
 TEST_F(ConDocumento, LAnteprimaRiscrittaTornaAlPostoDiUnAltroDisegno) {
-  Scrivi(altro.toStdString(), 2);
-  documento.ApriAnteprima(percorso);
+  Scrivi(due, Titolato("B"));
+  documento.ApriAnteprima(uno);
   EXPECT_TRUE(documento.MostraAnteprima());
-  documento.Apri(altro);
+  documento.Apri(due);
   EXPECT_FALSE(documento.MostraAnteprima());
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList({"1, nuovo", "2, nuovo", "2"}));
-  Scrivi(file, 3);
+  EXPECT_EQ(Sentiti(), QStringList({"A, nuovo", "B, nuovo", "B"}));
+  Scrivi(uno, Titolato("C"));
   documento.Ricarica();
   EXPECT_TRUE(documento.MostraAnteprima());
-  documento.Apri(altro);
+  documento.Apri(due);
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList({"3, nuovo", "2, nuovo", "2"})) << "shown once, it does not come back";
-  fs::remove(file);
+  EXPECT_EQ(Sentiti(), QStringList({"C, nuovo", "B, nuovo", "B"})) << "shown once, it does not come back";
+  fs::remove(uno.toStdString());
   documento.Ricarica();
-  EXPECT_EQ(Sentiti(), QStringList("2")) << "nor where it is no longer there";
+  EXPECT_EQ(Sentiti(), QStringList("B")) << "nor where it is no longer there";
 }
 
 TEST_F(ConDocumento, AttendeUnFileInScrittura) {
-  const std::string intero = Titolato(2), meta = intero.substr(0, intero.size() / 2);
-  prove::Scrivi(file, meta);
-  documento.Apri(percorso);
+  const std::string intero = Titolato("B"), meta = intero.substr(0, intero.size() / 2);
+  prove::Scrivi(uno.toStdString(), meta);
+  documento.Apri(uno);
   EXPECT_EQ(Sentiti(), QStringList()) << "neither shown nor refused yet";
-  prove::Scrivi(file, intero);
-  EXPECT_TRUE(Sente("2, nuovo"));
-  ScriviByte(file, meta);
-  Sentiti();
+  prove::Scrivi(uno.toStdString(), intero);
+  EXPECT_TRUE(Sente("B, nuovo"));
+  Scrivi(uno, meta);
   documento.Ricarica();
-  EXPECT_TRUE(Sentiti().join("").contains(", atteso: ")) << "left so for good";
-}
-
-TEST_F(ConDocumento, SenzaSorveglianzaSiLeggeSoloAComando) {
-  documento.Apri(percorso);
-  Scrivi(file, 2);
-  AltroNellaCartella();
-  EXPECT_EQ(Sentiti(), QStringList("1, nuovo"));
+  EXPECT_FALSE(sentiti.filter(", atteso: ").isEmpty()) << "left so for good";
 }
 
 TEST_F(DocumentoSorvegliato, SiRileggeDaSe) {
-  documento.Apri(percorso);
-  Scrivi(file, 2);
-  EXPECT_TRUE(Sente("2"));
+  documento.Apri(uno);
+  Scrivi(uno, Titolato("B"));
+  EXPECT_TRUE(Sente("B"));
   // Replaced twice: the watch outlives the file it began with.
-  for (const int cifra : {3, 4}) {
-    Scrivi(file + ".nuovo", cifra);
-    fs::rename(file + ".nuovo", file);
-    EXPECT_TRUE(Sente(QString::number(cifra)));
+  for (const char* nome : {"C", "D"}) {
+    Scrivi(uno + ".nuovo", Titolato(nome));
+    fs::rename((uno + ".nuovo").toStdString(), uno.toStdString());
+    EXPECT_TRUE(Sente(nome));
   }
-  fs::remove(file);
-  AltroNellaCartella();
-  EXPECT_FALSE(Sentiti().join("").contains("non esiste")) << "it may be on its way to be replaced";
-  // From here on another file is watched, and this one is not.
-  Scrivi(altro.toStdString(), 5);
-  documento.Apri(altro);
-  Scrivi(file, 6);
-  Scrivi(altro.toStdString(), 7);
-  EXPECT_TRUE(Sente("7"));
-  EXPECT_FALSE(sentiti.contains("6"));
+  fs::remove(uno.toStdString());
+  CambiaLaCartella();
+  EXPECT_FALSE(Sentiti().contains("File " + uno + ": il disegno non esiste")) << "it may be being replaced";
 }
 
 TEST_F(DocumentoSorvegliato, UnGuastoSiSenteUnaVoltaSola) {
-  documento.Apri(percorso);
-  const std::string guasto = "guasto\r\n";
-  ScriviByte(file, guasto);
-  const QString detto = "File " + percorso + ": riga 1, atteso: ";
-  const auto guasti = [&] { return sentiti.filter(detto).size(); };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return guasti() > 0; }, kAttesaMassimaMs))
-      << sentiti.join("\n").toStdString();
-  QCoreApplication::processEvents();
-  Sentiti();
-  AltroNellaCartella();
-  EXPECT_EQ(guasti(), 0) << "another file of the folder is no news of this one";
-  ScriviByte(file, guasto);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return guasti() > 0; }, kAttesaMassimaMs))
-      << "written anew, as bad as before";
-  QCoreApplication::processEvents();
-  Sentiti();
+  documento.Apri(uno);
+  for (const char* volta : {"the first time", "written anew, as bad as before"}) {
+    Scrivi(uno, kGuasto);
+    EXPECT_TRUE(Sente("riga 1, atteso: ")) << volta;
+    QCoreApplication::processEvents();
+    Sentiti();
+    CambiaLaCartella();
+    EXPECT_EQ(Sentiti(), QStringList()) << "another file of the folder is no news of this one";
+  }
   documento.Ricarica();
-  EXPECT_EQ(guasti(), 1) << "whoever asks is told";
+  EXPECT_EQ(Sentiti().size(), 1) << "whoever asks is told";
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // What is remembered from one run to the next, and the words it is written with.
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -24,9 +23,9 @@ struct ConPreferenze : testing::Test {
 };
 
 TEST_F(ConPreferenze, TornanoComeSonoStateScritte) {
-  EXPECT_EQ(LeggiPreferenze().scelta.genere, "pdf");
   const QString strano = "/città/a, b = \"c\";  .dis";
   CambiaPreferenze([&](Preferenze& p) {
+    EXPECT_EQ(p.scelta.genere, "pdf");
     p.fondoChiaro = true;
     p.scelta = {"dxf", {Unita::Centimetri, 12.5, Carta::A3, Orientamento::Verticale}};
     AggiungiRecente(p, strano);
@@ -42,7 +41,7 @@ TEST_F(ConPreferenze, TornanoComeSonoStateScritte) {
   EXPECT_EQ(p.scelta.resa.orientamento, Orientamento::Verticale);
   EXPECT_EQ(p.recenti, QStringList(strano));
   EXPECT_EQ(UnitaDi(p, strano), Unita::Metri);
-  EXPECT_EQ(UnitaDi(p, "/b.dis"), Unita::Ignota);
+  EXPECT_EQ(UnitaDi(p, "/b.dis"), Unita::Ignota) << "asked for, and not to be said";
   EXPECT_EQ(UnitaDi(p, "/c.dis"), std::nullopt);
   EXPECT_NE(prove::Leggi(file).find("scala=\"1:12,5\""), std::string::npos) << prove::Leggi(file);
 }
@@ -67,45 +66,37 @@ TEST_F(ConPreferenze, IlFileGuastoNonNuoce) {
   }
 }
 
-// Of one file under several names there is one unit, of a file that is gone none.
+// One unit for one file, by whatever name; none for a file that the user has seen go. Neither list grows
+// without end.
 TEST_F(ConPreferenze, LUnitaEDelFile) {
-  const QDir qui(cartella.path());
-  const QString vero = qui.filePath("ponte.dis"), legame = qui.filePath("legame.dis");
+  const QString vero = cartella.filePath("ponte.dis"), legame = cartella.filePath("legame.dis");
   prove::Scrivi(vero.toStdString(), "");
   ASSERT_TRUE(QFile::link(vero, legame));
   Preferenze p;
-  RicordaUnita(p, qui.filePath("./x/../ponte.dis"), Unita::Metri);
-  EXPECT_EQ(UnitaDi(p, vero), Unita::Metri);
+  RicordaUnita(p, cartella.filePath("./x/../ponte.dis"), Unita::Metri);
   EXPECT_EQ(UnitaDi(p, legame), Unita::Metri);
   RicordaUnita(p, legame, Unita::Centimetri);
   EXPECT_EQ(UnitaDi(p, vero), Unita::Centimetri);
-  EXPECT_EQ(p.unita.size(), 1);
   RicordaUnita(p, "", Unita::Millimetri);
-  EXPECT_EQ(UnitaDi(p, ""), std::nullopt);
-  EXPECT_EQ(p.scelta.resa.unita, Unita::Millimetri);
+  EXPECT_EQ(p.unita.size(), 1);
   AggiungiRecente(p, vero);
   QFile::remove(vero);
   EXPECT_EQ(UnitaDi(p, vero), Unita::Centimetri) << "away for a while";
   Dimentica(p, vero);
   EXPECT_EQ(UnitaDi(p, vero), std::nullopt);
   EXPECT_EQ(p.recenti, QStringList());
-}
 
-TEST_F(ConPreferenze, GliElenchiNonCresconoSenzaFine) {
-  const auto nome = [](int i) { return QString("/%1.dis").arg(i); };
-  const Preferenze p = CambiaPreferenze([&](Preferenze& nuove) {
-    for (int i = 0; i < 2 * kMassimeUnita; ++i) {
-      AggiungiRecente(nuove, nome(i));
-      RicordaUnita(nuove, nome(i), Unita::Metri);
-      RicordaUnita(nuove, nome(0), Unita::Millimetri);
-    }
-  });
+  for (int i = 0; i <= kMassimeUnita; ++i) {
+    AggiungiRecente(p, QString("/%1.dis").arg(i));
+    RicordaUnita(p, QString("/%1.dis").arg(i), Unita::Metri);
+    RicordaUnita(p, "/0.dis", Unita::Millimetri);
+  }
   EXPECT_EQ(p.recenti.size(), kMassimiRecenti);
-  EXPECT_EQ(p.recenti.front(), nome(2 * kMassimeUnita - 1));
+  EXPECT_EQ(p.recenti.front(), QString("/%1.dis").arg(kMassimeUnita));
   EXPECT_EQ(p.unita.size(), kMassimeUnita);
-  EXPECT_EQ(UnitaDi(p, nome(0)), Unita::Millimetri) << "said again, it is not the oldest";
-  EXPECT_EQ(UnitaDi(p, nome(kMassimeUnita)), std::nullopt);
-  EXPECT_EQ(UnitaDi(p, nome(kMassimeUnita + 1)), Unita::Metri);
+  EXPECT_EQ(UnitaDi(p, "/0.dis"), Unita::Millimetri) << "said again, it is not the oldest";
+  EXPECT_EQ(UnitaDi(p, "/1.dis"), std::nullopt);
+  EXPECT_EQ(UnitaDi(p, "/2.dis"), Unita::Metri);
 }
 
 TEST(Scala, Figure) {

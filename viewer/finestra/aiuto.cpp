@@ -1,4 +1,4 @@
-// The commands are read from the menus: what is said is what there is.
+// The list of commands is read from the menus, so that it cannot differ from them.
 #include "viewer/finestra/aiuto.h"
 
 #include <QApplication>
@@ -14,7 +14,7 @@
 namespace ostrel {
 namespace {
 
-// Without an effect: the title of the rows that follow.
+// A row without an effect is the title of those that follow.
 struct RigaTasti {
   QString tasti, effetto = {};
 };
@@ -37,8 +37,8 @@ QString SenzaMnemonico(const QString& testo) {
   return testo.section('\t', 0, 0).remove('&');
 }
 
-// An arrow's key stands in the text of its entry. Not every keyboard shows Home as the toolkit's Italian
-// does.
+// The arrows' keys are in the texts of their entries. The toolkit's Italian shows Home as a sign that not
+// every keyboard bears.
 QString Tasti(const QAction& azione) {
   QStringList tasti;
   for (const QKeySequence& sequenza : azione.shortcuts())
@@ -47,7 +47,7 @@ QString Tasti(const QAction& azione) {
   return tasti.join("   ").replace("↖", "Home (↖)");
 }
 
-// An entry of a submenu follows the submenu's name; one that has none of its own is no command but a file.
+// An entry of a submenu is listed after the submenu's name. An entry without an object name is a recent file.
 void Elenca(const QMenu& menu, const QString& prima, QList<RigaTasti>& righe) {
   for (const QAction* voce : menu.actions()) {
     if (voce->isSeparator()) continue;

@@ -14,8 +14,8 @@ namespace ostrel {
 struct Esito {
   QString errore;
   QString conferma;
-  std::optional<SceltaResa> scelta = std::nullopt;  // what he chose, as far as he came
-  bool unitaDetta = false;                          // he has said the drawing's unit, too
+  std::optional<SceltaResa> scelta = std::nullopt;  // what he chose, to be remembered
+  bool unitaDetta = false;                          // the drawing's unit was among it
 };
 
 /// A drawing's own file, and the name, without ending, proposed for a file made of it.
@@ -40,7 +40,7 @@ Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaRes
 /// Shows the sheet, asks for unit, scale and printer, and prints.
 Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra);
 
-/// A name with the ending `finale`, where it has none of `finali`: "ponte.1.pdf".
+/// Adds the ending `finale` to a name that has none of `finali`: "ponte.1.pdf".
 QString ConFinale(const QString& percorso, const QStringList& finali, const QString& finale);
 
 }  // namespace ostrel

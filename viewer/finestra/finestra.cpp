@@ -99,7 +99,7 @@ void Finestra::dragEnterEvent(QDragEnterEvent* evento) {
   if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
 }
 
-// The window opens one file; of several dropped by a slip of the hand it says what became of the others.
+// The window opens the first of several files, and says so: more than one is a slip of the hand.
 void Finestra::dropEvent(QDropEvent* evento) {
   evento->acceptProposedAction();
   Conferma({});
@@ -126,8 +126,8 @@ void Finestra::Ricevi(Caricato letto, bool nuovo) {
     if (nuovo) Ricorda([&](Preferenze& p) { AggiungiRecente(p, documento_.Mostrato()); });
     Intitola();
   }
-  // A drawing that is sound again takes its own notice away; one about something else, such as an export that
-  // failed, stays.
+  // A drawing that is sound again takes its own notice away, but no other one, as that of an export that
+  // failed.
   const QString guasto = QString::fromStdString(letto.messaggio);
   if (!guasto.isEmpty() || avviso_->text() == guasto_) Avvisa(guasto);
   guasto_ = guasto;
@@ -171,8 +171,8 @@ void Finestra::ScegliFile() {
   if (!scelto.isEmpty()) Apri(scelto);
 }
 
-// What can be seen, without what is hidden; a copy, as the drawing may be read anew while the user is
-// choosing. The last choices are proposed, with the unit of this drawing where it has been said.
+// The command gets a copy of what can be seen, as the drawing may be read anew while the user is choosing. It
+// proposes the last choices, but the unit of this drawing where it has been said.
 void Finestra::MandaFuori(ComandoCarta comando) {
   const Disegno visibile = tela_->Visibile();
   const QString file = documento_.Mostrato();

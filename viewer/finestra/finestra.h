@@ -28,7 +28,7 @@ class Finestra : public QMainWindow {
   void Apri(const QString& percorso);
   /// As Apri, with a drawing that a reload comes back to (Documento::ApriAnteprima).
   void ApriAnteprima(const QString& percorso);
-  /// As Apri; a file that is no longer there leaves the list of the recent ones, and the window as it is.
+  /// As Apri, but takes a file that is no longer there off the list of the recent ones, and says so.
   void ApriRecente(const QString& percorso);
   /// Reads the file anew. A fitted drawing stays fitted, otherwise zoom and place stay.
   void Ricarica();

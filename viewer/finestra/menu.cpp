@@ -37,7 +37,7 @@ QAction* Segnabile(QAction* azione, bool segnata) {
   return azione;
 }
 
-// The place as the key, the file and its folder, of which the end is shown where it is long.
+// An entry's place is its key; of a long folder only the end is shown.
 QString VoceRecente(int posto, const QString& percorso) {
   constexpr int kMassimaCartella = 60;
   const QFileInfo file(percorso);
@@ -99,7 +99,7 @@ void Finestra::CreaMenuVista() {
   auto* const rettangolo = Segnabile(Voce(this, vista, "rettangolo", "Ingrandisci un rettan&golo",
                                           {QKeySequence("Z")}, [this] { Alterna(Strumento::Rettangolo); }),
                                      false);
-  // The arrows belong to the drawing alone: in the menu bar they go from menu to menu.
+  // These entries have no shortcuts: the arrows move the drawing only while it has the focus.
   QMenu* const sposta = vista->addMenu("&Sposta");
   struct Lato {
     const char *nome, *testo;
@@ -160,7 +160,7 @@ void Finestra::CreaMenuStrumenti() {
           [=, this] { misura->setChecked(tela_->InUso() == Strumento::Metro); });
   QMenu* const unita = strumenti->addMenu("&Unità del disegno");
   auto* const scelte = new QActionGroup(this);
-  // The last begins as the second one does.
+  // The key of the last unit is its second letter: its first is that of the second unit.
   QStringList nomi = NomiUnita();
   for (QString& nome : nomi) nome.insert(&nome == &nomi.back() ? 1 : 0, '&');
   for (const QString& nome : nomi) scelte->addAction(unita->addAction(nome))->setCheckable(true);
@@ -202,7 +202,8 @@ std::optional<Unita> Finestra::UnitaMostrata() const {
   return UnitaDi(preferenze_, documento_.Mostrato());
 }
 
-// False where the user takes the order back. Without a drawing there is nothing to ask.
+// Asks for the unit of the drawing shown where it has not been said; false where the user takes the order
+// back.
 bool Finestra::ChiediUnitaMostrata() {
   const QString file = documento_.Mostrato();
   if (file.isEmpty() || UnitaMostrata()) return true;

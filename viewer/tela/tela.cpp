@@ -102,7 +102,7 @@ void Tela::Scorri(int destra, int basso) {
 void Tela::Trascina(QPoint passo, std::optional<Gesto> gesto) {
   if (gesto) storia_.Lascia({vista_, adattata_}, *gesto);
   auto angolo = angolo_;
-  if (angolo) *angolo += passo;  // the corner goes with the drawing
+  if (angolo) *angolo += passo;  // the rectangle's corner stays on its point of the drawing
   Inquadra({{vista_.scala, vista_.x - passo.x() / vista_.scala, vista_.y + passo.y() / vista_.scala}, false});
   angolo_ = angolo;
 }
