@@ -178,9 +178,9 @@ TEST(Pittura, LArcoPassaPerISuoiPuntiAOgniZoom) {
 }
 
 TEST(Colori, SiVedonoSulFondo) {
-  constexpr tarvel::Colore kNero{0, 0, 0};
-  EXPECT_EQ(ColoreSu(kCarta, 99), kNero) << "beyond the table is white";
-  EXPECT_NE(ColoreSu(kSchermo, 0), kNero);
+  constexpr tarvel::Colore nero{0, 0, 0};
+  EXPECT_EQ(ColoreSu(kCarta, 99), nero) << "beyond the table is white";
+  EXPECT_NE(ColoreSu(kSchermo, 0), nero);
   EXPECT_LT(ColoreSu(kCarta, tarvel::disegno::kGiallo).r, 200) << "yellow cannot be read on white";
 }
 
