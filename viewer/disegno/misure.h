@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <numbers>
 
 #include "viewer/disegno/disegno.h"
 
@@ -34,6 +35,8 @@ Riquadro ConMargine(const Riquadro& tutto);
 
 /// The four corners of a text's cells, counter-clockwise from the start of the baseline.
 std::array<Coordinata, 4> Angoli(const Disegno& disegno, const Scritta& scritta);
+
+inline constexpr double kGradi = 180 / std::numbers::pi;  // degrees in a radian
 
 /// Angles in radians from the X axis; `ampiezza` runs counter-clockwise, from above 0 to 2 pi.
 struct ArcoPolare {

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -20,8 +19,6 @@ namespace ostrel {
 namespace {
 
 using tarvel::Testo;
-
-constexpr double kGradi = 180 / std::numbers::pi;
 
 void IniziaElemento(Dxf& dxf, std::string_view genere, Livello livello, const Aspetto& aspetto) {
   const auto indice = static_cast<std::size_t>(livello);

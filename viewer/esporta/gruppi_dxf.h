@@ -21,7 +21,7 @@ using AspettiLivelli = std::array<Aspetto, kLivelliDxf.size()>;
 
 struct Dxf {
   tarvel::Testo testo;
-  AspettiLivelli livelli;  // an element that looks like its layer does not say how it looks
+  AspettiLivelli livelli;  // an element says how it looks only where it differs from its layer
 };
 
 void Gruppo(Dxf& dxf, int codice, std::string_view valore);

@@ -19,11 +19,11 @@
 namespace ostrel {
 namespace {
 
-// How many nominal pixels, steps of rounding (at least, at most ten times as many) and pen widths the page's
-// longer side has.
-constexpr double kMinimiPixel = 300;
-constexpr double kFinezza = 1e8;
-constexpr double kPenne = 1000;
+// How many of each the page's longer side has. The first two are the least: powers of ten are taken to the
+// unit.
+constexpr double kMinimiPixel = 300;  // of the nominal size
+constexpr double kFinezza = 1e8;      // steps of rounding
+constexpr double kPenne = 1000;       // pen widths
 // A text whose cells are narrower or lower than this many pen widths is written as a line.
 constexpr double kMinimaScritta = 1e-3;
 // The height of the font's capitals and the width of its characters, as parts of its size.
@@ -53,8 +53,8 @@ struct Svg {
   QXmlStreamWriter xml;
   const Disegno& disegno;
   double penna;            // width of the lines
-  double cifre;            // the power of ten to whose inverse lengths are rounded
-  double pixel;            // of the nominal size, to a unit of the drawing
+  double cifre;            // steps of rounding to a unit of the drawing
+  double pixel;            // nominal pixels to a unit of the drawing
   std::size_t comune = 0;  // colour of the layer being written
 };
 

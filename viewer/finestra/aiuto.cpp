@@ -59,7 +59,7 @@ void Elenca(const QMenu& menu, const QString& prima, QList<RigaTasti>& righe) {
   }
 }
 
-QTableWidget* Tabella(const QList<RigaTasti>& righe, QWidget* padre) {
+QTableWidget* TabellaTasti(const QList<RigaTasti>& righe, QWidget* padre) {
   auto* const tabella = new QTableWidget(static_cast<int>(righe.size()), 2, padre);
   tabella->setHorizontalHeaderLabels({"Tasti", "Che cosa fanno"});
   tabella->verticalHeader()->hide();
@@ -94,7 +94,7 @@ void MostraTasti(QWidget* padre, const QMenuBar& menu) {
     righe << RigaTasti{"Menu " + SenzaMnemonico(voce->text())};
     Elenca(*voce->menu(), {}, righe);
   }
-  auto* const tabella = Tabella(righe + kSulDisegno, finestra);
+  auto* const tabella = TabellaTasti(righe + kSulDisegno, finestra);
   auto* const pulsanti = new QDialogButtonBox(QDialogButtonBox::Close, finestra);
   QObject::connect(pulsanti, &QDialogButtonBox::rejected, finestra, &QDialog::close);
   auto* const posto = new QVBoxLayout(finestra);

@@ -17,12 +17,10 @@
 namespace ostrel {
 namespace {
 
-using Tasti = QList<QKeySequence>;
-
 // Every entry takes away what was confirmed before.
 template <class Comando>
-QAction* Voce(Finestra* finestra, QMenu* menu, const char* nome, const QString& testo, const Tasti& tasti,
-              Comando comando) {
+QAction* Voce(Finestra* finestra, QMenu* menu, const char* nome, const QString& testo,
+              const QList<QKeySequence>& tasti, Comando comando) {
   QAction* const azione = menu->addAction(testo);
   azione->setObjectName(nome);
   azione->setShortcuts(tasti);

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <vector>
 
 #include "viewer/pittura/ritaglio.h"
@@ -105,7 +104,6 @@ class Pittura {
   }
 
   static QPainterPath Curva(const QRectF& quadro, const ArcoPolare& polare) {
-    constexpr double kGradi = 180 / std::numbers::pi;
     QPainterPath curva;
     curva.arcMoveTo(quadro, polare.inizio * kGradi);
     curva.arcTo(quadro, polare.inizio * kGradi, polare.ampiezza * kGradi);

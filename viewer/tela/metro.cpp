@@ -5,7 +5,6 @@
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "viewer/pittura/ritaglio.h"
 
@@ -16,7 +15,7 @@ constexpr double kRaggioAggancio = 10;  // painter units
 constexpr double kMezzoSegno = 5;
 constexpr double kStacco = 16;  // of a label from its place
 
-QColor Colore(const tarvel::Colore& fondo) {
+QColor Inchiostro(const tarvel::Colore& fondo) {
   return InQt(ColoreSu(fondo, tarvel::disegno::kArancio));
 }
 
@@ -83,7 +82,6 @@ QString Risultato(const Metro& metro, const Notazione& notazione) {
   const auto riga = [&](const char* nome, double lunghezza) {
     return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza), notazione.unita).trimmed();
   };
-  constexpr double kGradi = 180 / std::numbers::pi;
   return QStringList{riga("Distanza", std::hypot(dx, dy)), riga("ΔX", dx), riga("ΔY", dy),
                      QString("Angolo = %1°").arg(QString::number(std::atan2(dy, dx) * kGradi, 'f', 2))}
       .join('\n')
@@ -107,7 +105,7 @@ void Cartellino(QPainter& pittore, const QString& testo, QPointF dove, const QRe
       std::clamp(riquadro.left(), area.left(), std::max(area.left(), area.right() - riquadro.width())));
   riquadro.moveTop(
       std::clamp(riquadro.top(), area.top(), std::max(area.top(), area.bottom() - riquadro.height())));
-  pittore.setPen(Colore(fondo));
+  pittore.setPen(Inchiostro(fondo));
   pittore.setBrush(InQt(fondo));
   pittore.drawRect(riquadro);
   pittore.setPen(InQt(ColoreSu(fondo, tarvel::disegno::kBianco)));
@@ -117,7 +115,7 @@ void Cartellino(QPainter& pittore, const QString& testo, QPointF dove, const QRe
 void Dipingi(QPainter& pittore, const Metro& metro, const Vista& vista, const QRectF& area,
              const tarvel::Colore& fondo, const QString& risultato) {
   const auto posto = [&](const Coordinata& c) { return vista.Verso(c.x, c.y); };
-  const QColor colore = Colore(fondo);
+  const QColor colore = Inchiostro(fondo);
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.setBrush(Qt::NoBrush);
   const auto fine = metro.a ? metro.a : metro.sotto;
