@@ -127,6 +127,8 @@ TEST_F(DocumentoSorvegliato, SiRileggeDaSe) {
   fs::remove(uno.toStdString());
   CambiaLaCartella();
   EXPECT_FALSE(Sentiti().contains("File " + uno + ": il disegno non esiste")) << "it may be being replaced";
+  Scrivi(uno, Titolato("E"));
+  EXPECT_TRUE(Sente("E"));
 }
 
 TEST_F(DocumentoSorvegliato, UnGuastoSiSenteUnaVoltaSola) {
