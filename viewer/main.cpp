@@ -1,6 +1,7 @@
-// The companion viewer: started beside the program it shows its drawings in a window; with
-// --esporta it converts drawings without a window.
+// The companion viewer shows the program's drawings in a window; with --esporta it converts drawings without
+// one.
 #include <QApplication>
+#include <QLocale>
 #include <QScreen>
 #include <algorithm>
 #include <cstdio>
@@ -20,7 +21,7 @@ namespace {
 
 constexpr char kFileAvvio[] = "ostrel.inp";
 
-// The working folder is the program's own where the preview starts it.
+// The preview starts the viewer with the viewer's own folder as the working folder; others may not.
 std::optional<Avvio> CercaAvvio() {
   if (auto avvio = LeggiAvvio(kFileAvvio)) return avvio;
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
@@ -40,7 +41,7 @@ void Disponi(QWidget& finestra, const tarvel::Rettangolo& posto) {
 
 int MostraInFinestra(const Richieste& richieste) {
   const auto avvio = CercaAvvio();
-  Finestra finestra(richieste.sorveglia);
+  Finestra finestra(richieste.sorveglia, QLocale::system().decimalPoint());
   Disponi(finestra, avvio.value_or(Avvio{}).posto);
   finestra.show();
   if (!richieste.disegni.isEmpty())
@@ -69,8 +70,7 @@ int Esegui(int argc, char** argv) {
   }
   const bool esporta = !richieste->esporta.isEmpty();
   if (esporta) {
-    // An export needs no display, nor does it look for one. Where the toolkit came without its plugin for
-    // that, the host's own will do.
+    // An export needs no display. A toolkit without the plugin for that uses its host's own.
     qputenv("QT_QPA_PLATFORM", "offscreen;windows");
     tarvel::PreparaFlussi();
   }

@@ -175,7 +175,7 @@ def messaggi():
                        if n.endswith((".cpp", ".h")))
     sorgenti = re.sub(r'"_t\b', '"', sorgenti)
     sorgenti = re.sub(r'"\s*\n\s*"', "", sorgenti)
-    menu = leggi(os.path.join(QUI, "..", "..", "viewer", "menu.cpp"))
+    menu = leggi(os.path.join(QUI, "..", "..", "viewer", "finestra", "menu.cpp"))
     tasti = re.findall(r"`(.)`", leggi(os.path.join(DOCS, "guida-disegno.md")).split("| per | si fa |")[1].split("\n\n")[0])
     controlla("tasti", "del visualizzatore", [t for t in tasti if f'"{t}"' not in menu] or len(tasti) > 8, True)
     livelli = re.search(r"`1`.*", leggi(os.path.join(DOCS, "guida-disegno.md")))[0]

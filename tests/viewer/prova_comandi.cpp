@@ -1,6 +1,7 @@
 // The commands of the menus: their keys, what is shown and copied, the drawings that come to the window.
 #include <QClipboard>
 #include <QDialog>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -12,7 +13,6 @@
 #include <set>
 
 #include "tests/viewer/con_finestra.h"
-#include "viewer/finestra/recenti.h"
 #include "viewer/finestra/tabella.h"
 
 namespace ostrel {
@@ -93,7 +93,7 @@ TEST_F(ConFinestra, FondoRicordatoECopiaSuBianco) {
   EXPECT_EQ(copia.pixelColor(3, 3), QColor(Qt::white));
   QTest::keyClick(&tela, Qt::Key_B);
   EXPECT_EQ(tela.grab().toImage().pixelColor(3, 3), QColor(Qt::white));
-  const Finestra altra(false);
+  const Finestra altra(false, ",");
   EXPECT_TRUE(altra.findChild<QAction*>("fondo")->isChecked());
   QTest::keyClick(&tela, Qt::Key_B);
 }
@@ -101,7 +101,7 @@ TEST_F(ConFinestra, FondoRicordatoECopiaSuBianco) {
 TEST_F(ConFinestra, TabellaCopiata) {
   Comanda("tabella");
   EXPECT_EQ(QApplication::clipboard()->text(),
-            "ZG\t600\nYG\t-61."
+            "ZG\t600\nYG\t-61,"
             "27\nAn\t60917\nAtz\t52633\nAty\t26402\nJzg\t307923297\nJyg\t5212229845\nJt\t700779138\n");
   EXPECT_EQ(Detto("conferma"), "Copiate 8 righe di tabella.");
   Rotella(1, {100, 100});
@@ -144,7 +144,7 @@ TEST_F(ConFinestra, Recenti) {
   finestra.Apri(cartella.filePath("3.dis"));
   finestra.Apri(cartella.filePath("manca.dis"));
   QStringList nomi;
-  for (const QString& percorso : ostrel::Recenti()) nomi << percorso.section('/', -1).chopped(4);
+  for (const QString& percorso : LeggiPreferenze().recenti) nomi << percorso.section('/', -1).chopped(4);
   EXPECT_EQ(nomi.join(""), "38765421");
 
   std::filesystem::remove(cartella.filePath("8.dis").toStdString());
@@ -152,11 +152,17 @@ TEST_F(ConFinestra, Recenti) {
   finestra.ApriRecente(cartella.filePath("8.dis"));
   EXPECT_TRUE(Avviso().endsWith("8.dis: il disegno non esiste più; tolto dai recenti"));
   EXPECT_TRUE(Mostra("SEZIONE U_PO_002 - 7.dis"));
-  EXPECT_EQ(ostrel::Recenti().size(), 7);
+  EXPECT_EQ(LeggiPreferenze().recenti.size(), 7);
   QTest::keyClick(&tela, Qt::Key_Escape);
   EXPECT_EQ(Avviso(), "");
-  EXPECT_EQ(VoceRecente(2, "/a&b/c&d.dis"), "&2  c&&d.dis (/a&&b)");
-  EXPECT_TRUE(VoceRecente(3, "/" + QString(99, 'x') + "/fine/s.dis").endsWith("x/fine)"));
+
+  const QString lunga = cartella.filePath(QString(99, 'x') + "/a&b");
+  ASSERT_TRUE(QDir().mkpath(lunga));
+  prove::Scrivi((lunga + "/c&d.dis").toStdString(), prove::kEsempio);
+  finestra.Apri(lunga + "/c&d.dis");
+  QMenu& menu = *finestra.menuBar()->actions()[0]->menu();
+  emit menu.aboutToShow();
+  EXPECT_EQ(menu.findChild<QMenu*>()->actions()[0]->text(), "&1  c&&d.dis (…" + QString(56, 'x') + "/a&&b)");
 }
 
 }  // namespace

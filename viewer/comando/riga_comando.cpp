@@ -3,7 +3,6 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 #include "viewer/esporta/esporta.h"
 
@@ -49,27 +48,18 @@ esempi:
 
 namespace {
 
-struct Lettura {
-  Richieste richieste;
-  QStringList dette;  // the options met, in the order of the line
-  bool opzioni = true;
-};
-
-// What is wrong; nothing where all is well.
-using Errore = std::optional<QString>;
-
 template <class Valore>
-Errore Prendi(std::optional<Valore> letto, Valore& dove, const char* atteso) {
+Errore Accogli(std::optional<Valore> letto, Valore& dove, const char* atteso) {
   if (!letto) return atteso;
   dove = *letto;
   return std::nullopt;
 }
 
-struct Opzione {
+struct OpzioneConValore {
   const char* nome;
   Errore (*prendi)(Richieste&, const QString&);
 };
-const Opzione kConValore[] = {
+const OpzioneConValore kConValore[] = {
     {"--esporta",
      [](Richieste& r, const QString& v) -> Errore {
        r.esporta = v;
@@ -81,24 +71,24 @@ const Opzione kConValore[] = {
        return FinaliEsportazione().contains(r.tipo) ? std::nullopt : Errore("png, svg, pdf o dxf");
      }},
     {"--unita",
-     [](Richieste& r, const QString& v) { return Prendi(LeggiUnita(v), r.resa.unita, "mm, cm o m"); }},
+     [](Richieste& r, const QString& v) { return Accogli(LeggiUnita(v), r.resa.unita, "mm, cm o m"); }},
     {"--scala",
      [](Richieste& r, const QString& v) {
-       return Prendi(LeggiScala(v), r.resa.rapporto, "una scala, come 1:50, o \"adatta\"");
+       return Accogli(LeggiScala(v), r.resa.rapporto, "una scala, come 1:50, o \"adatta\"");
      }},
     {"--carta", [](Richieste& r,
-                   const QString& v) { return Prendi(LeggiCarta(v), r.resa.carta, "A4, A3, A2, A1 o A0"); }},
+                   const QString& v) { return Accogli(LeggiCarta(v), r.resa.carta, "A4, A3, A2, A1 o A0"); }},
     {"--orientamento",
      [](Richieste& r, const QString& v) {
-       return Prendi(LeggiOrientamento(v), r.resa.orientamento, "verticale, orizzontale o automatico");
+       return Accogli(LeggiOrientamento(v), r.resa.orientamento, "verticale, orizzontale o automatico");
      }},
 };
 
-struct Segno {
+struct OpzioneSola {
   const char* nome;
   void (*prendi)(Richieste&);
 };
-const Segno kSegni[] = {
+const OpzioneSola kSole[] = {
     {"--comunque", [](Richieste& r) { r.comunque = true; }},
     {"--senza-sorveglianza", [](Richieste& r) { r.sorveglia = false; }},
     {"--aiuto", [](Richieste& r) { r.aiuto = true; }},
@@ -113,23 +103,16 @@ auto Trova(const Voci& voci, const QString& nome) {
                       [&](const auto& voce) { return nome == QLatin1StringView(voce.nome); });
 }
 
-Errore FuoriPosto(const QStringList& dette, const char* const (&nomi)[4], const char* dove) {
-  for (const QString& nome : dette)
-    if (std::find(std::begin(nomi), std::end(nomi), nome) != std::end(nomi))
-      return QString("%1 vale soltanto %2").arg(nome, QString(dove));
-  return std::nullopt;
-}
-
-Errore Controlla(const Lettura& l) {
-  const Richieste& r = l.richieste;
-  constexpr const char* kDellaCarta[] = {"--scala", "--carta", "--orientamento", "--comunque"};
+// `dette` are the options of the command line.
+Errore Controlla(const Richieste& r, const QStringList& dette) {
+  static const QStringList kDellaCarta = {"--scala", "--carta", "--orientamento", "--comunque"};
   if (r.esporta.isEmpty()) {
-    for (const QString& nome : l.dette)
+    for (const QString& nome : dette)
       if (nome != "--senza-sorveglianza") return nome + " vale soltanto con --esporta";
     if (r.disegni.size() > 1) return "troppi argomenti: si mostra un disegno alla volta";
     return std::nullopt;
   }
-  if (l.dette.contains("--senza-sorveglianza"))
+  if (dette.contains("--senza-sorveglianza"))
     return "--senza-sorveglianza vale soltanto per la finestra, senza --esporta";
   if (r.disegni.isEmpty()) return "manca il disegno da esportare";
   const bool cartella = QFileInfo(r.esporta).isDir();
@@ -141,9 +124,9 @@ Errore Controlla(const Lettura& l) {
   if (finale.isEmpty()) return QString("file %1: si esporta in .png, .svg, .pdf o .dxf").arg(r.esporta);
   if (r.tipo.isEmpty() && finale != "pdf" && r.disegni.size() > 1)
     return "più disegni si esportano in un PDF, o in una cartella con --esporta CARTELLA --tipo TIPO";
-  if (finale != "pdf")
-    if (auto errore = FuoriPosto(l.dette, kDellaCarta, "per il PDF")) return errore;
-  if (finale != "pdf" && finale != "dxf" && l.dette.contains("--unita"))
+  for (const QString& nome : dette)
+    if (finale != "pdf" && kDellaCarta.contains(nome)) return nome + " vale soltanto per il PDF";
+  if (finale != "pdf" && finale != "dxf" && dette.contains("--unita"))
     return "--unita vale soltanto per PDF e DXF";
   if (r.resa.rapporto > 0 && r.resa.unita == Unita::Ignota)
     return "--scala vuole anche --unita: in che unità è il disegno, mm, cm o m";
@@ -153,20 +136,22 @@ Errore Controlla(const Lettura& l) {
 }  // namespace
 
 std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> argomenti) {
-  Lettura l;
+  Richieste richieste;
+  QStringList dette;
+  bool opzioni = true;
   for (auto a = argomenti.begin(); a != argomenti.end(); ++a) {
     const QString argomento = QString::fromStdString(*a);
-    if (!l.opzioni || !argomento.startsWith('-') || argomento == "-") {
-      l.richieste.disegni << argomento;
+    if (!opzioni || !argomento.startsWith('-') || argomento == "-") {
+      richieste.disegni << argomento;
       continue;
     }
     if (argomento == "--") {
-      l.opzioni = false;
+      opzioni = false;
       continue;
     }
-    if (const auto* s = Trova(kSegni, argomento); s != std::end(kSegni)) {
-      s->prendi(l.richieste);
-      l.dette << argomento;
+    if (const auto* s = Trova(kSole, argomento); s != std::end(kSole)) {
+      s->prendi(richieste);
+      dette << argomento;
       continue;
     }
     const auto uguale = argomento.indexOf('=');
@@ -175,13 +160,13 @@ std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> arg
     if (p == std::end(kConValore)) return "opzione sconosciuta: " + argomento;
     if (uguale < 0 && ++a == argomenti.end()) return QString("dopo %1 manca il valore").arg(nome);
     const QString valore = uguale < 0 ? QString::fromStdString(*a) : argomento.mid(uguale + 1);
-    if (const auto atteso = p->prendi(l.richieste, valore))
+    if (const auto atteso = p->prendi(richieste, valore))
       return QString("%1: %2, non \"%3\"").arg(nome, *atteso, valore);
-    l.dette << nome;
+    dette << nome;
   }
-  if (l.richieste.aiuto || l.richieste.versione) return l.richieste;
-  if (const auto errore = Controlla(l)) return *errore;
-  return l.richieste;
+  if (richieste.aiuto || richieste.versione) return richieste;
+  if (const auto errore = Controlla(richieste, dette)) return *errore;
+  return richieste;
 }
 
 }  // namespace ostrel

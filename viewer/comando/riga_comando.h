@@ -1,4 +1,4 @@
-// What the user asks for on the command line.
+// Reads what the user asks for on the command line.
 #pragma once
 
 #include <QString>
@@ -14,17 +14,16 @@ namespace ostrel {
 struct Richieste {
   QStringList disegni;
   bool sorveglia = true;
-  /// A file, or with `tipo` a folder; empty: the drawing is shown in the window.
+  /// A file, or with `tipo` a folder; where it is empty the window shows the drawing.
   QString esporta;
   QString tipo;
   Resa resa;
-  bool comunque = false;  // also what does not fit on its sheet
+  bool comunque = false;  // export also what does not fit on its sheet
   bool aiuto = false;
   bool versione = false;
 };
 
-/// `argomenti` in UTF-8, without the program's name. The alternative is an Italian message on what is
-/// wrong with them.
+/// `argomenti` are in UTF-8, without the program's name. Returns an Italian message where they are wrong.
 std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> argomenti);
 
 extern const char* const kAiuto;
