@@ -12,9 +12,10 @@
 namespace tarvel::lotto {
 namespace {
 
-constexpr char kAmbigua[] = "raccordo inferiore";  // in the guide a height and a base
+constexpr char kAmbigua[] = "raccordo inferiore";  // the guide calls so a height and a base
 
-// Letters and digits alone, small and without accents; a blank for whatever stands between them.
+// A name for comparisons: its letters and digits, small and without accents, and one blank in place of what
+// stands between them.
 Testo Chiave(const Testo& nome) {
   static const Testo kAccentate = "àáâèéêìíîòóôùúû"_t;
   constexpr std::string_view kSemplici = "aaaeeeiiiooouuu";
@@ -28,7 +29,7 @@ Testo Chiave(const Testo& nome) {
   return Testo(SenzaBlanchi(chiave));
 }
 
-// A column's meaning by its key.
+// What the column of this key holds.
 int Significato(const Testo& chiave) {
   if (chiave == "nome") return kNome;
   for (int i = 0; i < kNumParametri; ++i) {
@@ -91,6 +92,7 @@ Colonne SenzaIntestazione() {
 }
 
 std::optional<Reale> NumeroCella(std::string_view cella, bool virgola) {
+  if (cella.ends_with('%')) cella = SenzaBlanchi(cella.substr(0, cella.size() - 1));
   if (!virgola) return NumeroInvariante(cella);
   if (cella.find('.') != std::string_view::npos) return std::nullopt;
   Testo numero(cella);

@@ -1,5 +1,5 @@
 // The seam as a filter has it: no windows, nobody to answer. What a message box would have said is kept
-// until somebody asks. Of the main thread alone.
+// until somebody asks.
 #pragma once
 
 #include "base/testo.h"

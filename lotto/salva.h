@@ -1,5 +1,4 @@
-// What Salva would write of the rows: the section file and the drawings. Of the main thread alone: drawings
-// are made in the program's own tables.
+// Saving the rows: the section file and the drawings. Drawings are made in the program's own tables.
 #pragma once
 
 #include <span>

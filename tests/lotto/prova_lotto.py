@@ -226,7 +226,7 @@ def sbagliate(base):
         (["--da", "x", "y"], "", 2, "l'uno o l'altro"),
         (["--boh"], "", 2, "opzione sconosciuta: --boh"),
         (["--sezio"], "", 2, "dopo --sezio manca il valore"),
-        (["--processi", "0"], "", 2, "un numero da 1 a 256"),
+        (["--sezio="], "", 2, "--sezio: un nome"),
         (["--sezio", __file__], "", 2, "non viene sostituito"),
         (["--sezio", os.path.join(base, "manca", "x")], "", 2, "la cartella"),
         (["--disegni", os.path.join(base, "manca")], "", 2, "non esiste"),
