@@ -77,7 +77,7 @@ Comando ComandoLotto(Richieste& r) {
 }
 
 // What is wrong with the whole; "" when nothing is.
-Testo Obiezione(const Richieste& r) {
+Testo Controlla(const Richieste& r) {
   if (!r.da.empty() && !r.ingressi.empty()) return "--da e un CSV insieme: l'uno o l'altro";
   if (r.da.empty() && !r.senza.empty()) return "--senza senza --da";
   if (r.da.empty() && r.finDoveSiLegge) return "--fin-dove-si-legge senza --da";
@@ -108,7 +108,7 @@ std::variant<Richieste, Congedo> LeggiRichieste(std::span<const std::string> arg
   if (letto.congedo) return *letto.congedo;
   r.ingressi = std::move(letto.argomenti);
   if (r.da.empty() && r.ingressi.empty()) r.ingressi.emplace_back("-");
-  if (const Testo errore = Obiezione(r); !errore.empty()) return Sbagliato(kProgramma, InUtf8(errore));
+  if (const Testo errore = Controlla(r); !errore.empty()) return Sbagliato(kProgramma, InUtf8(errore));
   return r;
 }
 

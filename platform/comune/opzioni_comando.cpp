@@ -65,7 +65,7 @@ ComandoLetto LeggiComando(const Comando& comando, std::span<const std::string> a
       const std::string valore = unito ? a->substr(uguale + 1) : *a;
       if (const std::string atteso = o->prendi(valore); !atteso.empty())
         return sbagliato(nome + ": " + atteso + ", non \"" + valore + '"');
-      letto.dette.push_back(o->nome);
+      letto.dette.push_back(nome);
     }
   }
   if (aiuto)

@@ -44,8 +44,8 @@ struct Congedo {
 };
 
 struct ComandoLetto {
-  std::vector<std::string> argomenti;   // without the options
-  std::vector<std::string_view> dette;  // the options met, in the line's order
+  std::vector<std::string> argomenti;  // without the options
+  std::vector<std::string> dette;      // the options met, in the line's order
   std::optional<Congedo> congedo;
 };
 

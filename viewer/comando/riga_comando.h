@@ -7,6 +7,7 @@
 #include <string>
 #include <variant>
 
+#include "platform/comune/opzioni_comando.h"
 #include "viewer/disegno/scala.h"
 
 namespace ostrel {
@@ -19,14 +20,8 @@ struct Richieste {
   QString tipo;
   Resa resa;
   bool comunque = false;  // also what does not fit on its sheet
-  bool aiuto = false;
-  bool versione = false;
 };
 
-/// `argomenti` in UTF-8, without the program's name. The alternative is an Italian message on what is
-/// wrong with them.
-std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> argomenti);
-
-extern const char* const kAiuto;
+std::variant<Richieste, tarvel::Congedo> LeggiRichieste(std::span<const std::string> argomenti);
 
 }  // namespace ostrel
