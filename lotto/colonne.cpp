@@ -40,10 +40,8 @@ int Significato(const Testo& chiave) {
   return kAltra;
 }
 
-Testo Elenco(const std::vector<Testo>& nomi) {
-  Testo elenco;
-  for (const Testo& nome : nomi) elenco += (elenco.empty() ? "" : ", ") + nome;
-  return elenco;
+void Elenca(Testo& elenco, const Testo& nome) {
+  elenco += (elenco.empty() ? "" : ", ") + nome;
 }
 
 [[noreturn]] void Rifiuta(const Testo& cosa) {
@@ -69,24 +67,24 @@ std::optional<Colonne> LeggiIntestazione(const std::vector<std::string>& celle) 
     const int significato = Significato(chiave);
     colonne.significato.push_back(significato);
     if (significato == kAltra) {
-      if (!nome.empty()) colonne.altre.push_back("\"" + nome + "\"");
+      if (!nome.empty()) Elenca(colonne.altre, '"' + nome + '"');
     } else if (++volte[static_cast<std::size_t>(significato)] > 1) {
       Rifiuta("\"" + nome + "\" ripete una colonna");
+    } else if (significato < kNumParametri) {
+      colonne.servono = colonne.significato.size();
     }
   }
-  std::vector<Testo> mancanti;
+  Testo mancanti;
   for (int i = 0; i < kNumParametri; ++i)
     if (volte[static_cast<std::size_t>(i)] == 0)
-      mancanti.push_back(NomeDimensione(i) + " (p" + std::to_string(i) + ")");
+      Elenca(mancanti, NomeDimensione(i) + " (p" + std::to_string(i) + ")");
   if (!mancanti.empty())
-    Rifiuta("manca " + Elenco(mancanti) +
-            (colonne.altre.empty() ? "" : "; nomi non riconosciuti: " + Elenco(colonne.altre)));
+    Rifiuta("manca " + mancanti + (colonne.altre.empty() ? "" : "; nomi non riconosciuti: " + colonne.altre));
   return colonne;
 }
 
 Colonne SenzaIntestazione() {
-  Colonne colonne;
-  colonne.significato.resize(kNumParametri);
+  Colonne colonne{.significato = std::vector<int>(kNumParametri), .servono = kNumParametri, .altre = {}};
   std::iota(colonne.significato.begin(), colonne.significato.end(), 0);
   return colonne;
 }

@@ -17,7 +17,8 @@ constexpr int kAltra = -1;
 
 struct Colonne {
   std::vector<int> significato;  // of each column: a dimension, kNome or kAltra
-  std::vector<Testo> altre;      // names of the columns that are not used
+  std::size_t servono = 0;       // columns up to the last dimension
+  Testo altre;                   // names of the columns that are not used
 };
 
 /// The name of a dimension's column, for messages.

@@ -66,15 +66,24 @@ std::size_t FineRiga(const LettoreCsv& lettore) {
   return fine == npos && lettore.finito ? lettore.blocco.size() : fine;
 }
 
+// The end of the record with quotes at the reader's place; npos when they are not closed near enough.
+std::size_t FineTraVirgolette(LettoreCsv& lettore) {
+  for (;;) {
+    const auto resto = std::string_view(lettore.blocco).substr(lettore.posto, kVirgoletteMassime);
+    std::size_t aCapo = npos;
+    const bool chiuse = PerOgniFuori(resto, lettore.separatore, [&](std::size_t i) {
+      if (resto[i] == '\n') aCapo = i;
+      return aCapo == npos;
+    });
+    if (aCapo != npos) return lettore.posto + aCapo;
+    if (resto.size() == kVirgoletteMassime) return npos;
+    if (!Riempi(lettore)) return chiuse ? lettore.posto + resto.size() : npos;
+  }
+}
+
 // Takes the line at the reader's place and, where a quoted cell goes on after it, the lines of that cell.
 RecordCsv Estrai(LettoreCsv& lettore) {
   RecordCsv record{.testo = {}, .riga = lettore.riga};
-  const auto prendi = [&](std::size_t fine) {
-    record.testo.assign(lettore.blocco, lettore.posto, fine - lettore.posto);
-    lettore.posto = std::min(fine + 1, lettore.blocco.size());
-    lettore.riga += 1 + std::count(record.testo.begin(), record.testo.end(), '\n');
-    if (record.testo.ends_with('\r')) record.testo.pop_back();
-  };
   std::size_t fine = FineRiga(lettore);
   for (; fine == npos; fine = FineRiga(lettore)) {
     if (lettore.blocco.size() - lettore.posto > kRigaMassima) {
@@ -84,35 +93,20 @@ RecordCsv Estrai(LettoreCsv& lettore) {
     }
     Riempi(lettore);
   }
-  if (record.guasto != nullptr) {
-    prendi(fine);
-    record.testo.clear();
-    return record;
-  }
-  if (std::string_view(lettore.blocco).substr(lettore.posto, fine - lettore.posto).find('"') == npos ||
-      lettore.blocco[lettore.posto] == '#') {
-    prendi(fine);
-    return record;
-  }
-  for (;;) {
-    const auto resto = std::string_view(lettore.blocco).substr(lettore.posto, kVirgoletteMassime);
-    std::size_t aCapo = npos;
-    const bool chiuse = PerOgniFuori(resto, lettore.separatore, [&](std::size_t i) {
-      if (resto[i] == '\n') aCapo = i;
-      return aCapo == npos;
-    });
-    if (aCapo == npos && resto.size() < kVirgoletteMassime && Riempi(lettore)) continue;
-    if (aCapo != npos) {
-      fine = lettore.posto + aCapo;
-    } else if (chiuse && resto.size() < kVirgoletteMassime) {
-      fine = lettore.posto + resto.size();
-    } else {
+  if (record.guasto != nullptr) lettore.posto = fine;
+  const auto riga = std::string_view(lettore.blocco).substr(lettore.posto, fine - lettore.posto);
+  if (!riga.starts_with('#') && riga.find('"') != npos) {
+    fine = FineTraVirgolette(lettore);
+    if (fine == npos) {
       record.guasto = "virgolette aperte e mai chiuse";
-      fine = FineRiga(lettore);  // again, because Riempi moves the block
+      fine = FineRiga(lettore);
     }
-    prendi(fine);
-    return record;
   }
+  record.testo.assign(lettore.blocco, lettore.posto, fine - lettore.posto);
+  lettore.posto = std::min(fine + 1, lettore.blocco.size());
+  lettore.riga += 1 + std::count(record.testo.begin(), record.testo.end(), '\n');
+  if (record.testo.ends_with('\r')) record.testo.pop_back();
+  return record;
 }
 
 bool Utf8(std::string_view testo) {

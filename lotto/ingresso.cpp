@@ -38,13 +38,6 @@ void ControllaDecimali(const std::vector<std::string>& celle, bool virgola) {
                              : "\"" + TestoCella(*altro) + "\": la virgola decimale vuole --virgola");
 }
 
-void DiceNonUsate(const Testo& file, const Colonne& colonne) {
-  if (colonne.altre.empty()) return;
-  Testo elenco;
-  for (const Testo& nome : colonne.altre) elenco += (elenco.empty() ? "" : ", ") + nome;
-  std::cerr << InUtf8("tarvel1-lotto: " + file + ": colonne non usate: " + elenco + "\n");
-}
-
 // Opens the next file. Returns its first row of values; nothing where there is none.
 std::optional<RecordCsv> Comincia(Ingresso& ingresso, const std::string& file) {
   Tracciato& tracciato = ingresso.tracciato = {};
@@ -70,7 +63,9 @@ std::optional<RecordCsv> Comincia(Ingresso& ingresso, const std::string& file) {
   const auto colonne = Durante(dove, [&] { return LeggiIntestazione(celle); });
   if (colonne) {
     tracciato.colonne = *colonne;
-    DiceNonUsate(NomeIngresso(file), *colonne);
+    if (!colonne->altre.empty())
+      std::cerr << InUtf8("tarvel1-lotto: " + NomeIngresso(file) + ": colonne non usate: " + colonne->altre +
+                          "\n");
     primo = ProssimoRecord(lettore);
     if (!primo) return primo;
     Celle(primo->testo, lettore.separatore, celle);

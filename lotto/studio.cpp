@@ -40,16 +40,13 @@ void LeggiNome(Riga& riga, const std::vector<std::string>& celle) {
 }
 
 void ControllaQuante(const Riga& riga, const std::vector<std::string>& celle) {
-  const auto& significato = riga.tracciato->colonne.significato;
-  const auto ultima = std::find_if(significato.rbegin(), significato.rend(),
-                                   [](int s) { return s >= 0 && s < kNumParametri; });
-  const auto servono = static_cast<std::size_t>(significato.rend() - ultima);
+  const Colonne& colonne = riga.tracciato->colonne;
+  const std::size_t quante = colonne.significato.size();
   const bool troppe =
-      std::any_of(celle.begin() + static_cast<std::ptrdiff_t>(std::min(significato.size(), celle.size())),
-                  celle.end(), [](const std::string& cella) { return !cella.empty(); });
-  if (celle.size() >= servono && !troppe) return;
-  Testo cosa =
-      "colonne: " + std::to_string(celle.size()) + " invece di " + std::to_string(significato.size());
+      celle.size() > quante && std::any_of(celle.begin() + static_cast<std::ptrdiff_t>(quante), celle.end(),
+                                           [](const std::string& cella) { return !cella.empty(); });
+  if (celle.size() >= colonne.servono && !troppe) return;
+  Testo cosa = "colonne: " + std::to_string(celle.size()) + " invece di " + std::to_string(quante);
   if (troppe && riga.tracciato->formato.separatore == ',')
     cosa += ". Con la virgola decimale le colonne si separano con ; o tabulazione";
   Rifiuta(riga, cosa);
