@@ -1,4 +1,5 @@
 """What the tests of the filter share: the programs under trial, the worked example as a row, what went wrong."""
+import csv
 import os
 import shlex
 import subprocess
@@ -36,7 +37,8 @@ def lotto(argomenti, ingresso=b"", **altro):
 
 
 def tabella(esito, separatore=";"):
-    return [riga.split(separatore) for riga in esito.stdout.decode().splitlines()]
+    """The cells of each row that was written."""
+    return [*csv.reader(esito.stdout.decode().splitlines(), delimiter=separatore)]
 
 
 def byte(percorso):

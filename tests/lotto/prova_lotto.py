@@ -3,7 +3,6 @@
 
     prova_lotto.py LOTTO HEADLESS
 """
-import csv
 import os
 import random
 import re
@@ -16,7 +15,8 @@ import copia  # noqa: E402
 import fine  # noqa: E402
 from banco import (EMULATORE, INTESTAZIONE, LOTTO, QUI, RIGA, VALORI, byte, cambiata, controlla, desktop,  # noqa: E402
                    errori, lotto, tabella)
-from installazione import ESEMPIO, dimensioni, installa  # noqa: E402
+import formati  # noqa: E402
+from installazione import dimensioni, installa  # noqa: E402
 
 
 def come_il_desktop(base):
@@ -47,32 +47,16 @@ def come_il_desktop(base):
     controlla("stato", (esito.returncode, esito.stderr), (0, b""))
     uguali("punto", disegni["punto"], sezio)
 
-    # Row by row: cut to the file's decimals, the numbers are the file's.
+    # Row by row: cut to the file's decimals, the numbers are the file's, which has stresses without their sign.
     testa, *righe = tabella(esito)
-    file = iter(byte(sezio).decode("cp1252").split("\r\n"))
-    next(file)
-    for riga in righe:
-        avuti = dict(zip(testa, riga))
-        numeri = [next(file)]
-        for nome in ("larghezza", "altezza", "ZG", "YG"):
-            numeri.append(avuti[nome])
-        controlla("nome", riga[0], numeri[0])
-        letti = next(file).split()
-        for _ in range(int(next(file))):
-            for _ in range(int(next(file))):
-                next(file)
-        letti += next(file).split() + next(file).split()[:3]
-        numeri += [avuti[nome] for nome in ("An", "Aty", "Atz", "Jt", "Jyg", "Jzg")]
-        punti = int(next(file))
-        controlla(f"{riga[0]}: punti", [bool(avuti[f"P{k} tauVz"]) for k in range(1, 15)], [k <= punti for k in range(1, 15)])
-        for k in range(1, punti + 1):
-            letti += next(file).split()[:2] + [next(file).split()[0] for _ in range(3)]
-            numeri += [avuti[f"P{k} {nome}"].lstrip("-" if nome.startswith("tau") else "") for nome in
-                       ("z", "y", "tauT", "tauVy", "tauVz")]
-        next(file), next(file)
-        diversi = [(n, l) for n, l in zip(numeri[1:], letti) if not 0 <= float(n) - float(l) < .01 + abs(float(n)) * 1e-14]
-        controlla(f"{riga[0]}: valori", (diversi, len(numeri) - 1), ([], len(letti)))
-        controlla("cifre", all(len(re.sub(r"\D", "", n.split("E")[0]).lstrip("0")) <= 15 for n in numeri[1:]), True)
+    for riga, (nome, voci) in zip(righe, formati.sezioni(sezio)):
+        avuti = {colonna.replace(" ", "."): cella for colonna, cella in zip(testa, riga) if cella}
+        controlla("nome", avuti.pop("nome"), nome)
+        controlla(f"{nome}: colonne", sorted(avuti), sorted(v for v in voci if v[0] not in "OC" and v != "punti"))
+        for colonna, cella in avuti.items():
+            numero = abs(float(cella)) if "tau" in colonna else float(cella)
+            controlla(f"{nome}: {colonna} {cella}", 0 <= numero - float(voci[colonna]) < .01 + abs(numero) * 1e-14, True)
+            controlla("cifre", len(re.sub(r"\D", "", cella.split("E")[0]).lstrip("0")) <= 15, True)
 
     # The desktop of a region with the comma, with options of its own.
     with open(opzioni, "w", newline="") as scritte:
@@ -101,56 +85,54 @@ def come_il_desktop(base):
     controlla("--da: un'altra forma", (guasta.returncode, [bool(r[1]) for r in tabella(guasta)[1:4]], tabella(guasta)[1][-1]),
               (3, [False, True, True], "Sezione non valida"))
     controlla("--da: nomi", [r[0] for r in tabella(esito)[1:]], [f"U_PO_{n:03}" for n in range(1, 21)])
-    return righe
 
 
 def forme(base):
     """The same section in whatever way a spreadsheet writes it."""
-    atteso = lotto([], RIGA).stdout.decode().splitlines()[1].split(";")[1:]
-    with open(os.path.join(QUI, "..", "..", "docs", "guida.md"), encoding="utf-8") as guida:
-        celle = re.findall(r"\| (\d+) \| ([^|]+?) (?=\|)", guida.read())
+    atteso = tabella(lotto([], RIGA))[1][1:]
+    docs = os.path.join(QUI, "..", "..", "docs")
     nomi = [""] * 21
-    for n, nome in celle:
+    for n, nome in re.findall(r"\| (\d+) \| ([^|]+?) (?=\|)", byte(os.path.join(docs, "guida.md")).decode()):
         nomi[int(n)] = {8: "altezza ", 14: "base "}.get(int(n), "") + nome if "raccordo inferiore" == nome else nome
     controlla("nomi della guida", all(nomi), True)
-    with open(os.path.join(QUI, "..", "..", "docs", "lotto.md"), encoding="utf-8") as pagina:
-        brevi = dict(re.findall(r"\| (p\d+) \| ([^|]+?) (?=\|)", pagina.read()))
-    virgolette = ",".join(f'"{n}"' for n in nomi)
+    brevi = dict(re.findall(r"\| (p\d+) \| ([^|]+?) (?=\|)", byte(os.path.join(docs, "lotto.md")).decode()))
     giro = random.Random(3).sample(range(21), 21)
-    misto = ";".join(f"P{i}" if i % 2 else nomi[i].upper() for i in giro) + ";Nome;note"
-    riga_mista = ";".join(VALORI[i] for i in giro)
-    senza_accenti = ";".join(nomi).translate(str.maketrans("àèéìòù", "aeeiou"))
+    misto = ";".join(f"P{i}" if i % 2 else nomi[i].upper() for i in giro) + ";Nome;note\n" + ";".join(VALORI[i] for i in giro)
+    virgola = RIGA.replace(".", ",")
+    percento = cambiata(p16="2.5%", p18="-2.5 %", p20="20%")
     righe = [  # arguments, input, name, separator, encoding of the output, line end
         ([], RIGA + "\r\n", "U_PO_001", ";", "utf-8", "\r\n"),
         ([], "\n# nota\n;;;\n \n" + RIGA.replace(";", "\t"), "U_PO_001", "\t", "utf-8", "\n"),
-        ([], virgolette + "\n" + ",".join(VALORI), "U_PO_001", ",", "utf-8", "\n"),
-        ([], "\ufeff" + misto + "\n" + riga_mista + ';"è ""A"""; a;\n', 'è "A"', ";", "utf-8-sig", "\n"),
-        ([], (misto + "\n" + riga_mista + ";perché;\n").encode("cp1252"), "perché", ";", "cp1252", "\n"),
-        ([], misto + "\n" + riga_mista + ';perché;"due\nrighe"\n', "perché", ";", "utf-8", "\n"),
-        ([], senza_accenti + "\n" + RIGA, "U_PO_001", ";", "utf-8", "\n"),
+        ([], ",".join(f'"{n}"' for n in nomi) + "\n" + ",".join(VALORI), "U_PO_001", ",", "utf-8", "\n"),
+        ([], "\ufeff" + misto + ';"è ""A"""; a;\n', 'è "A"', ";", "utf-8-sig", "\n"),
+        ([], (misto + ";perché;\n").encode("cp1252"), "perché", ";", "cp1252", "\n"),
+        ([], misto + ';perché;"due\nrighe"\n', "perché", ";", "utf-8", "\n"),
+        ([], ";".join(nomi).translate(str.maketrans("àèéìòù", "aeeiou")) + "\n" + RIGA, "U_PO_001", ";", "utf-8", "\n"),
         ([], ";".join(nomi).replace(" ", "_") + ";;\n" + RIGA + ";;", "U_PO_001", ";", "utf-8", "\n"),
         ([], ";".join(brevi[f"p{i}"] for i in range(21)) + "\n" + RIGA, "U_PO_001", ";", "utf-8", "\n"),
-        ([], misto + "\n" + riga_mista, "U_PO_001", ";", "utf-8", "\n"),
-        ([], misto + "\n" + riga_mista + ';  "a;b"c;', "a;bc", ";", "utf-8", "\n"),
-        ([], misto + "\n" + riga_mista + ";# 1", "# 1", ";", "utf-8", "\n"),
-        (["--virgola"], ",".join(f'"{v}"'.replace(".", ",") for v in VALORI), "U_PO_001", ",", "utf-8", "\n"),
-        (["--virgola"], RIGA.replace(".", ","), "U_PO_001", ";", "utf-8", "\n"),
+        ([], misto, "U_PO_001", ";", "utf-8", "\n"),
+        ([], misto + ';  "a;b"c;', "a;bc", ";", "utf-8", "\n"),
+        ([], misto + ";# 1", "# 1", ";", "utf-8", "\n"),
+        ([], "sep=;\r\n" + misto.replace("\n", "\r\n"), "U_PO_001", ";", "utf-8", "\r\n"),
+        (["--virgola"], '\ufeff"SEP=;"\n' + virgola, "U_PO_001", ";", "utf-8-sig", "\n"),
+        ([], 'sep=,\n' + INTESTAZIONE.replace(";", ",") + ",una;nota\n" + RIGA.replace(";", ","), "U_PO_001", ",", "utf-8", "\n"),
+        ([], percento, "U_PO_001", ";", "utf-8", "\n"),
+        (["--virgola"], percento.replace(".", ","), "U_PO_001", ";", "utf-8", "\n"),
+        (["--virgola"], ",".join(f'"{v}"' for v in virgola.split(";")), "U_PO_001", ",", "utf-8", "\n"),
+        (["--virgola", "--processi=7"], virgola, "U_PO_001", ";", "utf-8", "\n"),
         (["-", "-"], RIGA, "U_PO_001", ";", "utf-8", "\n"),
     ]
     for argomenti, testo, nome, separatore, codice, fine in righe:
-        ingresso = testo if isinstance(testo, bytes) else testo.encode()
-        esito = lotto(argomenti, ingresso)
+        esito = lotto(argomenti, testo)
         uscita = esito.stdout.decode(codice)
         controlla(f"{testo!r}: stato", esito.returncode, 0)
         controlla(f"{testo!r}: fine riga", uscita.count(fine), uscita.count("\n"))
         controlla(f"{testo!r}: segno", esito.stdout.startswith(b"\xef\xbb\xbf"), codice == "utf-8-sig")
         scritto = nome if not re.search('^#|[";]', nome) else '"' + nome.replace('"', '""') + '"'
-        righe_uscita = uscita.splitlines()
-        trovato = righe_uscita[1] if len(righe_uscita) == 2 else uscita
         numeri = [v.replace(".", ",") for v in atteso] if "--virgola" in argomenti else atteso
         if "--virgola" in argomenti and separatore == ",":
             numeri = [f'"{v}"' if v else "" for v in numeri]
-        controlla(f"{testo!r}", trovato, separatore.join([scritto, *numeri]))
+        controlla(f"{testo!r}", uscita.splitlines()[1:], [separatore.join([scritto, *numeri])])
     # A letter of two bytes where one block ends and the next begins.
     for nome in ("è" * 3000, "a" + "è" * 3000):
         esito = lotto([], f"nome;{INTESTAZIONE}\n" + f"{nome};{RIGA}\n" * 20)
@@ -175,7 +157,7 @@ def forme(base):
     controlla("due file: virgole", ("colonne: 25 invece di 21. Con la virgola decimale" in esito.stdout.decode(),
                                     "(standard input, riga 1)" in esito.stdout.decode(), esito.stderr),
               (True, True, b"tarvel1-lotto: 1 riga su 2 con errore\n"))
-    controlla("non usate", b'colonne non usate: "note"' in lotto([], misto + "\n" + riga_mista).stderr, True)
+    controlla("non usate", b'colonne non usate: "note"' in lotto([], misto).stderr, True)
 
 
 def sbagliate(base):
@@ -189,6 +171,9 @@ def sbagliate(base):
         (cambiata(p1=""), "manca il valore (riga 2, soletta inferiore)"),
         (cambiata(p1="25cm"), '"25cm" non è un numero (riga 2, soletta inferiore)'),
         (cambiata(p1="25,5"), '"25,5" non è un numero: la virgola decimale vuole --virgola (riga 2, soletta inferiore)'),
+        (cambiata(p1="25%"), '"25%" non è una lunghezza: in percento sono soltanto le pendenze (riga 2, soletta inferiore)'),
+        (cambiata(p16="2,5%"), '"2,5%" non è un numero: la virgola decimale vuole --virgola (riga 2, pendenza sinistra)'),
+        (cambiata(p16="%"), '"%" non è un numero (riga 2, pendenza sinistra)'),
         (cambiata(p20="1e999"), '"1e999" non è un numero (riga 2, inclinazione anime)'),
         (cambiata(p20="nan"), '"nan" non è un numero (riga 2, inclinazione anime)'),
         (cambiata(p1="2\0005"), "un carattere nullo (riga 2)"),
@@ -202,10 +187,9 @@ def sbagliate(base):
     for riga, motivo in righe:
         esito = lotto([], f"{RIGA}\n{riga}\n{RIGA}\n")
         avute = tabella(esito)
-        cella = [*csv.reader(esito.stdout.decode().splitlines()[2:3], delimiter=";")][0]
         controlla(f"{riga[:60]}: stato", (esito.returncode, len(avute)), (3, 4))
         controlla(f"{riga[:60]}: le altre", avute[1][1:], avute[-1][1:])
-        controlla(f"{riga[:60]}: motivo", (cella[1:11], cella[-1]), ([""] * 10, motivo))
+        controlla(f"{riga[:60]}: motivo", avute[2][1:], [""] * 10 + [motivo])
     intere = [  # arguments, input: status, message
         ([], RIGA.replace(".", ","), 1, '"2,5": la virgola decimale vuole --virgola (riga 1; standard input)'),
         (["--virgola"], RIGA, 1, 'con --virgola i decimali hanno la virgola, non "2.5"'),
@@ -213,6 +197,9 @@ def sbagliate(base):
         ([], INTESTAZIONE.replace("p7", "spessore") + "\n", 1,
          'manca soletta mezzeria (p7); nomi non riconosciuti: "spessore"'),
         ([], INTESTAZIONE.replace("p8", "raccordo inferiore") + "\n", 1, "ambiguo"),
+        ([], "sep=|\n" + RIGA, 1, 'nomi non riconosciuti: "sep=|"'),
+        ([], "", 1, "nessuna riga da calcolare"),
+        ([], "sep=;\n# nota\n" + INTESTAZIONE, 1, "nessuna riga da calcolare"),
         ([], "PK\x03\x04", 1, "cartella di lavoro"),
         ([], b"\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1" + bytes(500), 1, "cartella di lavoro"),
         ([], RIGA.encode("utf-16"), 1, "UTF-16"),
@@ -226,6 +213,8 @@ def sbagliate(base):
         (["--da", "x", "y"], "", 2, "l'uno o l'altro"),
         (["--boh"], "", 2, "opzione sconosciuta: --boh"),
         (["--sezio"], "", 2, "dopo --sezio manca il valore"),
+        (["--punti=1"], "", 2, "--punti non vuole un valore"),
+        (["--da=manca", "--senza=x"], "", 1, "File manca non trovato"),
         (["--sezio="], "", 2, "--sezio: un nome"),
         (["--sezio", __file__], "", 2, "non viene sostituito"),
         (["--sezio", os.path.join(base, "manca", "x")], "", 2, "la cartella"),
@@ -259,7 +248,7 @@ def sbagliate(base):
         f"{n};{RIGA}\n" for n in ("variante_1", "variante_1", "variante_2", '"a,b"', "", '"""q"', '"x\ny"')) + "1;2\n")
     controlla("nomi", [(r[0], bool(r[1]), r[-1].split(" ")[:2]) for r in tabella(esito)[1:]],
               [("variante_1", True, [""]), ("variante_1", True, ["il", "nome"]), ("variante_2", True, ["il", "disegno"]),
-               ("a,b", True, ["un", "file"]), ("U_PO_005", True, [""]), ('"""q"', True, ["un", "file"]),
+               ("a,b", True, ["un", "file"]), ("U_PO_005", True, [""]), ('"q', True, ["un", "file"]),
                ("x y", False, ["il", "nome"]), ("1", False, ["colonne:", "2"])])
     controlla("nomi: righe", re.findall(r"\(riga \d+\)", esito.stdout.decode()), ["(riga 8)", "(riga 10)"])
     controlla("nomi: sezio_ut", byte(os.path.join(base, "nomi"))[:1], b"3")
