@@ -10,7 +10,7 @@ namespace tarvel::lotto {
 namespace {
 
 constexpr std::size_t kBlocco = 1 << 16;
-/// How far the end of a quoted cell is looked for.
+// The reader looks so far for the end of a quoted cell.
 constexpr std::size_t kVirgoletteMassime = 1 << 16;
 constexpr std::string_view kSeparatori = "\t;,";
 constexpr auto npos = std::string::npos;

@@ -31,7 +31,7 @@ enum Stato {
   kTuboChiuso = 141,  // and by a pipe that nobody reads
 };
 
-constexpr std::size_t kTestoMassimo = 1 << 16;  // of rows before they are written
+constexpr std::size_t kTestoMassimo = 1 << 16;  // rows are written in pieces of this size
 
 std::atomic<bool> gInterrotto{false};
 std::atomic<bool> gInAttesa{false};  // the program waits for its input, and every row is written

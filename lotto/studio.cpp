@@ -31,7 +31,7 @@ void LeggiNome(Riga& riga, const std::vector<std::string>& celle) {
   if (riga.nome.empty()) riga.nome = NomeProposto(riga.numero);
 }
 
-// The place is the row's for its user: "varianti.csv, riga 12, sbalzo".
+// The message ends with the place: "(varianti.csv, riga 12, sbalzo)".
 [[noreturn]] void Rifiuta(const Riga& riga, const Testo& cosa, const Testo& colonna = {}) {
   const Testo& file = riga.tracciato->file;
   throw ErroreFatale(TipoErrore::Formato, cosa,
@@ -97,7 +97,7 @@ void Calcola(Riga& riga, Calcolata& c, bool conserva) {
   }
   const auto contorno = [&] { RifaiContorno(c.record, c.p); };
   const auto calcola = [&] {
-    // A section of a file keeps the outline that it has there.
+    // A section read from a section file keeps the outline it has there.
     if (riga.riletta == nullptr) contorno();
     CalcolaCaratteristiche(c.record, c.p, VerticiPoligono);
   };
