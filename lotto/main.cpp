@@ -131,7 +131,7 @@ bool Prossima(Lotto& l, Riga& riga) {
 }
 
 void Lavora(Lotto& l, Riga& riga) {
-  const bool conserva = l.salvataggi.sezioni || l.salvataggi.disegni;
+  const bool conserva = l.salvataggi.sezioni || !l.richieste.disegni.empty();
   Calcolata sezione;
   const bool calcolata = CalcolaRiga(riga, sezione, conserva);
   if (calcolata && conserva) riga.motivo = Salva(l.salvataggi, sezione);

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/testo.h"
-#include "platform/comune/opzioni_comando.h"
+#include "base/opzioni_comando.h"
 
 namespace tarvel::lotto {
 

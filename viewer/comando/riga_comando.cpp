@@ -43,36 +43,27 @@ esempi:
 
 using tarvel::Imposta;
 
-// Keeps what was read of a value; otherwise tells what is wanted.
+// For the table: keeps what `leggi` makes of a value; where it makes nothing, `atteso` is what the option
+// wants.
 template <class Valore>
-std::string Prendi(const std::optional<Valore>& letto, Valore& dove, const char* atteso) {
-  if (!letto) return atteso;
-  dove = *letto;
-  return {};
+auto Accogli(Valore& dove, std::optional<Valore> (*leggi)(const QString&), const char* atteso) {
+  return [&dove, leggi, atteso](const std::string& valore) -> std::string {
+    const auto letto = leggi(QString::fromStdString(valore));
+    dove = letto.value_or(dove);
+    return letto ? "" : atteso;
+  };
+}
+
+std::optional<QString> LeggiDestinazione(const QString& testo) {
+  return testo.isEmpty() ? std::nullopt : std::optional(testo);
+}
+
+std::optional<QString> LeggiTipo(const QString& testo) {
+  return FinaliEsportazione().contains(testo.toLower()) ? std::optional(testo.toLower()) : std::nullopt;
 }
 
 tarvel::Comando ComandoOstrel(Richieste& r) {
-  const auto testo = [](const std::string& v) { return QString::fromStdString(v); };
-  const auto esporta = [&r, testo](const std::string& v) {
-    r.esporta = testo(v);
-    return std::string(v.empty() ? "il nome di un file o di una cartella" : "");
-  };
-  const auto tipo = [&r, testo](const std::string& v) {
-    r.tipo = testo(v).toLower();
-    return std::string(FinaliEsportazione().contains(r.tipo) ? "" : "png, svg, pdf o dxf");
-  };
-  const auto unita = [&r, testo](const std::string& v) {
-    return Prendi(LeggiUnita(testo(v)), r.resa.unita, "mm, cm o m");
-  };
-  const auto scala = [&r, testo](const std::string& v) {
-    return Prendi(LeggiScala(testo(v)), r.resa.rapporto, "una scala, come 1:50, o \"adatta\"");
-  };
-  const auto carta = [&r, testo](const std::string& v) {
-    return Prendi(LeggiCarta(testo(v)), r.resa.carta, "A4, A3, A2, A1 o A0");
-  };
-  const auto verso = [&r, testo](const std::string& v) {
-    return Prendi(LeggiOrientamento(testo(v)), r.resa.orientamento, "verticale, orizzontale o automatico");
-  };
+  const auto esporta = Accogli(r.esporta, LeggiDestinazione, "il nome di un file o di una cartella");
   return {
       kProgramma,
       VERSIONE,
@@ -83,14 +74,18 @@ tarvel::Comando ComandoOstrel(Richieste& r) {
        {"--esporta", "FILE.pdf", "con più disegni: un solo documento, una pagina per disegno", esporta},
        {"--esporta", "CARTELLA",
         "scrive ogni disegno nella cartella, che c'è già, col nome del disegno e il tipo chiesto", esporta},
-       {"--tipo", "TIPO", "png, svg, pdf o dxf", tipo},
+       {"--tipo", "TIPO", "png, svg, pdf o dxf", Accogli(r.tipo, LeggiTipo, "png, svg, pdf o dxf")},
        {"--unita", "UNITÀ",
-        "mm, cm o m: in che unità è il disegno (PDF e DXF); il file del disegno non lo dice", unita},
+        "mm, cm o m: in che unità è il disegno (PDF e DXF); il file del disegno non lo dice",
+        Accogli(r.resa.unita, LeggiUnita, "mm, cm o m")},
        {"--scala", "SCALA",
-        "1:50, 50, 1:12,5... o adatta, quanto basta il foglio (PDF); una scala vuole --unita", scala},
-       {"--carta", "FOGLIO", "A4, A3, A2, A1 o A0 (PDF); senza, A4", carta},
+        "1:50, 50, 1:12,5... o adatta, quanto basta il foglio (PDF); una scala vuole --unita",
+        Accogli(r.resa.rapporto, LeggiScala, "una scala, come 1:50, o \"adatta\"")},
+       {"--carta", "FOGLIO", "A4, A3, A2, A1 o A0 (PDF); senza, A4",
+        Accogli(r.resa.carta, LeggiCarta, "A4, A3, A2, A1 o A0")},
        {"--orientamento", "VERSO",
-        "verticale, orizzontale o automatico, quello in cui il disegno ha più posto (PDF)", verso},
+        "verticale, orizzontale o automatico, quello in cui il disegno ha più posto (PDF)",
+        Accogli(r.resa.orientamento, LeggiOrientamento, "verticale, orizzontale o automatico")},
        {"--comunque", "",
         "scrive anche il disegno che a quella scala non sta nel foglio: il resto è tagliato",
         Imposta(r.comunque)},

@@ -7,7 +7,7 @@
 #include <string>
 #include <variant>
 
-#include "platform/comune/opzioni_comando.h"
+#include "base/opzioni_comando.h"
 #include "viewer/disegno/scala.h"
 
 namespace ostrel {

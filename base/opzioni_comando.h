@@ -6,7 +6,6 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tarvel {
@@ -14,9 +13,9 @@ namespace tarvel {
 // All texts are in UTF-8.
 
 struct OpzioneComando {
-  std::string_view nome;    // "--sezio"
-  std::string_view valore;  // as the help calls the value; "" where the option has none
-  std::string_view aiuto;   // the option's lines in the help; "" where the help leaves it out
+  std::string nome;    // "--sezio"
+  std::string valore;  // as the help calls the value; "" where the option has none
+  std::string aiuto;   // the option's line in the help; "" where the help leaves it out
   /// Takes the value and returns ""; or returns which value the option wants, when it is not this one.
   std::function<std::string(const std::string&)> prendi;
 };
@@ -29,11 +28,12 @@ inline auto Imposta(bool& segno, bool come = true) {
   };
 }
 
-/// A program's table. --aiuto, --help, -h and --version are every program's, and stand in no table. Of two
-/// options with one name the first is read, and the help shows both.
+/// A program's table. --aiuto, --help, -h and --version are every program's, and stand in no table. The help
+/// shows all rows; the reader takes the first of a name, so that others, and rows without a name, only
+/// explain.
 struct Comando {
-  std::string_view nome, versione;
-  std::string_view prima, dopo;  // the help's lines around those of the options
+  std::string nome, versione;
+  std::string prima, dopo;  // the help's lines around those of the options
   std::vector<OpzioneComando> opzioni;
 };
 
@@ -54,7 +54,7 @@ struct ComandoLetto {
 ComandoLetto LeggiComando(const Comando& comando, std::span<const std::string> argomenti);
 
 /// Of a mistake in the command line.
-Congedo Sbagliato(std::string_view programma, const std::string& errore);
+Congedo Sbagliato(const std::string& programma, const std::string& errore);
 
 /// Says it, a mistake on the standard error. Returns the exit status: 1 when the help cannot be written.
 int Congeda(const Congedo& congedo);
