@@ -198,6 +198,7 @@ int main(int argc, char** argv) {
     lotto.richieste = *std::get_if<Richieste>(&lette);
     return Esegui(lotto);
   } catch (const UscitaPersa& persa) {
+    std::cerr << lotto.avanzamento.Cancellazione();
     if (persa.tubo) return kTuboChiuso;
     Dice(lotto, "l'uscita non si scrive");
   } catch (const ErroreFatale& errore) {

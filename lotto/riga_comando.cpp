@@ -65,9 +65,9 @@ Comando ComandoLotto(Richieste& r) {
         "di un file di --da rovinato prende le sezioni prima della riga guasta, e dice quante",
         Imposta(r.finDoveSiLegge)},
        {"--sezio", "FILE",
-        "scrive un nuovo file sezio_ut, al massimo 500 sezioni: quelle calcolate; con --da, quelle\n"
-        "del file come sono, anche se non si possono ricalcolare",
+        "scrive un nuovo file sezio_ut, al massimo 500 sezioni: quelle calcolate; con --da, quelle",
         Percorso(r.sezio)},
+       {"", "", "del file come sono, anche se non si possono ricalcolare", {}},
        {"--disegni", "CARTELLA", "scrive il disegno di ogni sezione in una cartella che c'è già",
         Percorso(r.disegni)},
        {"--opzioni", "FILE", "opzioni dei disegni (CapOpSez.txt); senza, quelle predefinite",

@@ -6,8 +6,8 @@
 #include <variant>
 #include <vector>
 
-#include "base/testo.h"
 #include "base/opzioni_comando.h"
+#include "base/testo.h"
 
 namespace tarvel::lotto {
 
