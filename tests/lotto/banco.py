@@ -46,9 +46,13 @@ def byte(percorso):
         return file.read()
 
 
+def scrivi(percorso, testo):
+    with open(percorso, "wb") as file:
+        file.write(testo if isinstance(testo, bytes) else testo.encode())
+
+
 def desktop(radice, copione, *opzioni):
-    with open(os.path.join(radice, "copione"), "w") as file:
-        file.write(copione)
+    scrivi(os.path.join(radice, "copione"), copione)
     esito = subprocess.run([*EMULATORE, HEADLESS, "--script", os.path.join(radice, "copione"), *opzioni, "--",
                             f"|diroot={radice}|"], stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
     controlla("desktop", (esito.returncode, esito.stderr), (0, b""))

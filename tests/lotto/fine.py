@@ -33,7 +33,7 @@ def righe_di(file):
     return os.pread(file.fileno(), 1 << 24, 0).count(b"\n")
 
 
-def fine(base):
+def fine():
     """Memory, Ctrl+C, a full disk, a watcher's line."""
     poche, molte = memoria(5000), memoria(100000)
     # The sanitizer keeps what is freed.
@@ -43,7 +43,7 @@ def fine(base):
     for segnale, sorgente in ((signal.SIGINT, ["yes", RIGA]), (signal.SIGTERM, ["sh", "-c", f"yes '{RIGA}' | head -3000; sleep 60"])):
         with tempfile.TemporaryFile() as file, \
                 subprocess.Popen(sorgente, stdout=subprocess.PIPE, start_new_session=True) as righe, subprocess.Popen(
-                    [LOTTO, "--sezio", os.path.join(base, "interrotto")], stdin=righe.stdout, stdout=file,
+                    [LOTTO, "--sezio", "interrotto"], stdin=righe.stdout, stdout=file,
                     stderr=subprocess.PIPE) as processo:
             scadenza = time.monotonic() + 60
             while righe_di(file) <= 1001 and time.monotonic() < scadenza:
@@ -58,17 +58,16 @@ def fine(base):
                   (130, f"tarvel1-lotto: interrotto dopo {len(scritte) - 1} righe\n"))
         controlla(f"{sorgente[0]}: righe intere", ({r.count(b";") for r in scritte}, uscita[-1:], len(scritte) > 1000),
                   ({11}, b"\n", True))
-    controlla("interrotto: sezio_ut", os.path.exists(os.path.join(base, "interrotto")), False)
+    controlla("interrotto: sezio_ut", os.path.exists("interrotto"), False)
     with open("/dev/full", "w") as pieno:
         esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
         controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
     # A drawing that has no room is not there, and the next run writes it.
-    disegni = os.path.join(base, "disegni senza posto")
-    os.mkdir(disegni)
+    os.mkdir("senza posto")
     for posto, atteso in ((1000, (3, [])), (-1, (0, ["U_PO_001.dis"]))):
-        esito = lotto(["--disegni", disegni], RIGA,
+        esito = lotto(["--disegni", "senza posto"], RIGA,
                       preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (posto, -1)))
-        controlla("disegno senza posto", (esito.returncode, os.listdir(disegni)), atteso)
+        controlla("disegno senza posto", (esito.returncode, os.listdir("senza posto")), atteso)
     padrone, terminale = os.openpty()
     subprocess.run([LOTTO], input=f"{RIGA}\n".encode() * 100000, stdout=subprocess.DEVNULL, stderr=terminale)
     controlla("avanzamento", b" righe, 0 con errore" in os.read(padrone, 1 << 16), True)
