@@ -39,25 +39,25 @@ def fine():
     # The sanitizer keeps what is freed.
     custodita = b"__asan_init" in byte(LOTTO)
     controlla(f"memoria costante ({poche} e {molte} kB)", custodita or molte < poche + 2000, True)
-    # Ctrl+C while the rows go on coming, and while the program waits for the next ones.
-    for segnale, sorgente in ((signal.SIGINT, ["yes", RIGA]), (signal.SIGTERM, ["sh", "-c", f"yes '{RIGA}' | head -3000; sleep 60"])):
+    # Ctrl+C while the rows go on coming; and while the program, which reads blocks of 64 KiB, waits for the fourth.
+    attese = 3 * 65536 // len(RIGA + "\n")
+    for segnale, sorgente, scritte in ((signal.SIGINT, ["yes", RIGA], 1000),
+                                       (signal.SIGTERM, ["sh", "-c", f"yes '{RIGA}' | head -3000; sleep 60"], attese)):
         with tempfile.TemporaryFile() as file, \
                 subprocess.Popen(sorgente, stdout=subprocess.PIPE, start_new_session=True) as righe, subprocess.Popen(
-                    [LOTTO, "--sezio", "interrotto"], stdin=righe.stdout, stdout=file,
-                    stderr=subprocess.PIPE) as processo:
-            scadenza = time.monotonic() + 60
-            while righe_di(file) <= 1001 and time.monotonic() < scadenza:
+                    [LOTTO, "--sezio", "interrotto"], stdin=righe.stdout, stdout=file, stderr=subprocess.PIPE) as processo:
+            scadenza = time.monotonic() + 20
+            while righe_di(file) <= scritte and time.monotonic() < scadenza:
                 time.sleep(.01)
             processo.send_signal(segnale)
             detto = processo.communicate(timeout=10)[1].decode()
             os.killpg(righe.pid, signal.SIGKILL)
             file.seek(0)
             uscita = file.read()
-        scritte = uscita.splitlines()
-        controlla(f"{sorgente[0]}: interrotto", (processo.returncode, detto),
-                  (130, f"tarvel1-lotto: interrotto dopo {len(scritte) - 1} righe\n"))
-        controlla(f"{sorgente[0]}: righe intere", ({r.count(b";") for r in scritte}, uscita[-1:], len(scritte) > 1000),
-                  ({11}, b"\n", True))
+        avute = uscita.splitlines()
+        controlla(f"{sorgente[0]}: interrotto", (processo.returncode, detto, len(avute) > scritte),
+                  (130, f"tarvel1-lotto: interrotto dopo {len(avute) - 1} righe\n", True))
+        controlla(f"{sorgente[0]}: righe intere", ({r.count(b";") for r in avute}, uscita[-1:]), ({11}, b"\n"))
     controlla("interrotto: sezio_ut", os.path.exists("interrotto"), False)
     with open("/dev/full", "w") as pieno:
         esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
