@@ -7,8 +7,8 @@
 #include <string>
 
 #include "app/tarvel1.h"
-#include "platform/comune/argomenti.h"
 #include "base/opzioni_comando.h"
+#include "platform/comune/argomenti.h"
 #include "platform/headless/avvio.h"
 #include "platform/headless/regione.h"
 
