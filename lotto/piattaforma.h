@@ -1,4 +1,4 @@
-// The seam as a filter has it: the regional format of its drawings. Of the main thread alone.
+// The seam as a filter has it: the regional format of its drawings.
 #pragma once
 
 namespace tarvel::lotto {

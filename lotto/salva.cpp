@@ -12,7 +12,7 @@
 namespace tarvel::lotto {
 namespace {
 
-// What the reader of the section file would make another name of.
+// Whether a section file gives the name back: its reader drops quotes and stops at a comma.
 bool SiRilegge(const Testo& nome) {
   return !nome.starts_with('"') && nome.find(',') == Testo::npos;
 }

@@ -4,7 +4,6 @@
 #include <QLocale>
 #include <QScreen>
 #include <algorithm>
-#include <cstdio>
 #include <variant>
 
 #include "platform/comune/argomenti.h"
@@ -56,19 +55,12 @@ int MostraInFinestra(const Richieste& richieste) {
 
 int Esegui(int argc, char** argv) {
   const auto lette = LeggiRichieste(tarvel::Argomenti(argc, argv));
-  const auto* const richieste = std::get_if<Richieste>(&lette);
-  if (!richieste) {
+  if (const auto* const congedo = std::get_if<tarvel::Congedo>(&lette)) {
     tarvel::PreparaFlussi();
-    Dice(*std::get_if<QString>(&lette));
-    std::fputs("Come si usa: ostrel --aiuto\n", stderr);
-    return 2;
+    return tarvel::Congeda(*congedo);
   }
-  if (richieste->aiuto || richieste->versione) {
-    tarvel::PreparaFlussi();
-    const char* const testo = richieste->aiuto ? kAiuto : "ostrel " VERSIONE "\n";
-    return std::fputs(testo, stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
-  }
-  const bool esporta = !richieste->esporta.isEmpty();
+  const auto& richieste = *std::get_if<Richieste>(&lette);
+  const bool esporta = !richieste.esporta.isEmpty();
   if (esporta) {
     // An export needs no display. A toolkit without the plugin for that uses its host's own.
     qputenv("QT_QPA_PLATFORM", "offscreen;windows");
@@ -76,7 +68,7 @@ int Esegui(int argc, char** argv) {
   }
   const auto applicazione = tarvel::ApreSchermo(argc, argv);
   ParlaItaliano(*applicazione);
-  return esporta ? EsportaTutti(*richieste) : MostraInFinestra(*richieste);
+  return esporta ? EsportaTutti(richieste) : MostraInFinestra(richieste);
 }
 
 }  // namespace

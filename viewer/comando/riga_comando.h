@@ -7,6 +7,7 @@
 #include <string>
 #include <variant>
 
+#include "base/opzioni_comando.h"
 #include "viewer/disegno/scala.h"
 
 namespace ostrel {
@@ -18,14 +19,9 @@ struct Richieste {
   QString esporta;
   QString tipo;
   Resa resa;
-  bool comunque = false;  // export also what does not fit on its sheet
-  bool aiuto = false;
-  bool versione = false;
+  bool comunque = false;  // also what does not fit on its sheet
 };
 
-/// `argomenti` are in UTF-8, without the program's name. Returns an Italian message where they are wrong.
-std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> argomenti);
-
-extern const char* const kAiuto;
+std::variant<Richieste, tarvel::Congedo> LeggiRichieste(std::span<const std::string> argomenti);
 
 }  // namespace ostrel
