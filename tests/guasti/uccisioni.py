@@ -14,23 +14,21 @@ import tempfile
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
-from installazione import ESEMPIO, installa, nomi  # noqa: E402
+from formati import nomi  # noqa: E402
+from installazione import ESEMPIO, installa, recita  # noqa: E402
 
 programma = sys.argv[1]
 volte, coppie = (int(v) for v in (sys.argv[2:] + ["200", "60"][len(sys.argv) - 2:])[:2])
 with tempfile.TemporaryDirectory(prefix="Uccisioni_") as radice:
-    lavoro = installa(radice)
+    lavoro = installa(radice, ESEMPIO)
     file = os.path.join(lavoro, "sezio_ut")
     argomenti = [programma, "--", f"|diroot={radice}|"]
-    with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as d:
-        d.write(ESEMPIO)
     tutte = [f"S{n}" for n in range(1, 501)]
-    subprocess.run(argomenti, input="".join(f"type nome {s}\nclick Calcolo\n" for s in tutte) + "click Command2\n",
-                   encoding="utf-8", stdout=subprocess.DEVNULL, check=True)
+    recita(programma, radice, "".join(f"type nome {s}\nclick Calcolo\n" for s in tutte) + "click Command2\n")
     assert nomi(file) == tutte
     salva = "type nome S7\nclick Calcolo\n" + "answer yes\nclick Command2\n" * 30
     inizio = time.monotonic()
-    subprocess.run(argomenti, input=salva, encoding="utf-8", stdout=subprocess.DEVNULL, check=True)
+    recita(programma, radice, salva)
     durata = time.monotonic() - inizio
     rovinati = perduti = 0
     for volta in range(volte + coppie):
