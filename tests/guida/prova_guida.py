@@ -99,14 +99,15 @@ def comandi():
 def rimandi():
     """Every link leads to a page, a heading or a picture; every picture is shown somewhere."""
     mostrate = set()
-    pagine = [n for n in os.listdir(DOCS) if n.endswith(".md")]
+    pagine = ["../README.md", *(n for n in os.listdir(DOCS) if n.endswith(".md"))]
     ancore = {n: {re.sub(r"[^\w\- ]", "", t.lower()).replace(" ", "-")
                   for t in re.findall(r"^#+ (.*)$", leggi(os.path.join(DOCS, n)), re.M)} for n in pagine}
     for nome in pagine:
         for meta in re.findall(r"\]\(([^)]+)\)", leggi(os.path.join(DOCS, nome))):
             file, _, ancora = meta.partition("#")
             mostrate.add(os.path.basename(file))
-            controlla(nome, meta, (os.path.exists(os.path.join(DOCS, file)), not ancora or ancora in ancore.get(file or nome, ())),
+            posto = os.path.join(DOCS, os.path.dirname(nome), file)
+            controlla(nome, meta, (os.path.exists(posto), not ancora or ancora in ancore.get(file or nome, ())),
                       (True, True))
     immagini = {n for n in os.listdir(os.path.join(DOCS, "immagini")) if n.endswith((".png", ".svg"))}
     controlla("immagini", "mostrate", sorted(immagini - mostrate), [])
