@@ -30,7 +30,7 @@ def dimensioni(caso):
     return [f"{v:.2f}" for v in alte + basi + pendenze]
 
 
-def recita(programma, radice, copione, **altro):
-    """The scripted desktop on this installation: what has become of it."""
-    return subprocess.run([programma, f"|diroot={radice}|"], input=copione, capture_output=True, encoding="utf-8",
+def recita(comando, radice, copione, **altro):
+    """The scripted desktop, started by these words, on this installation: what has become of it."""
+    return subprocess.run([*comando, f"|diroot={radice}|"], input=copione, capture_output=True, encoding="utf-8",
                           timeout=120, **altro)

@@ -64,7 +64,7 @@ def cartella():
 
 
 def gioca(radice, copione, guasto):
-    return recita(PROGRAMMA, radice, copione, env={**os.environ, "TARVEL_GUASTO": guasto})
+    return recita([PROGRAMMA], radice, copione, env={**os.environ, "TARVEL_GUASTO": guasto})
 
 
 def diario_di(esito):

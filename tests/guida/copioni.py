@@ -106,7 +106,7 @@ class Prova:
             file.write(os.path.join(self.radice, "Lavori") + "\r\n")
         for fine in ([], ["answer no", "close"]):
             testo = "\n".join([*self.copione, *altre, *fine]) + "\n"
-            esito = recita(HEADLESS, self.radice, testo)
+            esito = recita([HEADLESS], self.radice, testo)
             if DOMANDA_FINALE not in esito.stdout + esito.stderr:
                 break
         self.detto = esito.stdout

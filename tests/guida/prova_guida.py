@@ -44,7 +44,7 @@ def detto_da(copione, valori=None):
     """What the program answers to a script on a new installation."""
     with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
         installa(radice, valori)
-        return recita(HEADLESS, radice, copione).stdout
+        return recita([HEADLESS], radice, copione).stdout
 
 
 def ingombro(inizio, angolo, base, alta, testo):
@@ -69,7 +69,7 @@ def opzioni():
             copione += "click Command6\n" + "".join(
                 f"type TextOpt({numeri[riga[0]]}) {riga[colonna].strip('*')}\n" for riga in tabella)
             copione += "click FormOpt.Applica\nclick FormOpt.Chiudi\ntype nome S\nclick Calcolo\nclick Command2\n"
-            recita(HEADLESS, radice, copione)
+            recita([HEADLESS], radice, copione)
             testi = [(testo[-1], ingombro(*testo)) for testo in disegno(os.path.join(lavoro, "S.dis"))[1]]
         coppie = [(a, b) for n, (a, r) in enumerate(testi) for b, s in testi[:n]
                   if r[0] < s[2] and s[0] < r[2] and r[1] < s[3] and s[1] < r[3]]
@@ -84,7 +84,7 @@ def comandi():
     controlla("comandi", "righe", len(righe) > 3, True)
     with tempfile.TemporaryDirectory(prefix="Guida_") as cartella:
         lavoro = installa(os.path.join(cartella, "inst"), ESEMPIO)
-        recita(HEADLESS, f"{cartella}/inst", "".join(
+        recita([HEADLESS], f"{cartella}/inst", "".join(
             f"type nome {nome}\nclick Calcolo\nclick Command2\n" for nome in ("PONTE", "ALTRA")))
         os.mkdir(os.path.join(lavoro, "tavole"))
         for riga in righe:
