@@ -33,4 +33,4 @@ def dimensioni(caso):
 def recita(comando, radice, copione, **altro):
     """The scripted desktop, started by these words, on this installation: what has become of it."""
     return subprocess.run([*comando, f"|diroot={radice}|"], input=copione, capture_output=True, encoding="utf-8",
-                          timeout=120, **altro)
+                          errors="replace", timeout=120, **altro)

@@ -13,7 +13,7 @@ dove="$base/CITTÀ €, nuova b"
 mie=esempio/Lavori/PR0001/sezio_ut
 mkdir -p "$dove/${mie%/*}"
 echo mie >"$dove/$mie"
-for volta in prima seconda; do # the second on what the first has left
+for volta in prima seconda; do # the second time finds what the first has left
   "$avvia" "$1" "$dove" >"$base/uscita" || { cat "$base/uscita"; echo "non riuscita la $volta volta"; exit 1; }
 done
 for file in sezio_ut U_PO_001.dis SezTmpPO.dis; do

@@ -59,7 +59,7 @@ def in_ordine(diario):
 
 
 def cartella():
-    """In memory where there is such a folder: what the program asks of the disk is seen in its calls."""
+    """In memory, where the host has such a folder: the calls show what the program asks of the disk."""
     return tempfile.TemporaryDirectory(prefix="Guasti_", dir="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
 
 
@@ -107,7 +107,7 @@ def esamina(guasto, solo):
         for nome in (".bak", ".salvataggio"):
             esige(stato[nome] is not None or file[nome] not in os.listdir(lavoro), nome + " non intero")
         esige(stato[""] is not None or "sezio_ut.bak" in fatale, "un file rovinato senza dire della copia")
-        # "File salvato" follows also the message of a file that could not be written.
+        # The program says "File salvato" also after the message of a file that it could not write.
         salvato = ["File salvato" == m and not messaggi[i - 1].startswith("Problemi nella")
                    for i, m in enumerate(messaggi)]
         esige(salvato.count(True) < 1 or any({"A", "B", "C"} <= n for n in intere), "salvato, e non lo era")
@@ -140,8 +140,8 @@ non_letti = [testo for male, testo in (iniziali(str(n)) for n in range(1, 60)) i
 assert non_letti and set(non_letti) == {ESEMPIO}, non_letti
 chiamate, diario = esamina("", True)
 assert chiamate > 100
-# From the disk's side: the start waits for who writes the file. At Salva the old file is read while it is held, its
-# copy is whole, then it is emptied.
+# What the disk sees of the section file: the start opens it and waits for another program that is writing. Salva holds
+# the file, reads it, writes its copy to the disk, and only then empties it.
 sezioni = [c for c, _, n in diario if n.lower().startswith("sezio_ut")]
 assert "".join(sezioni).startswith("al<<cca<<n>dcrDv>dc"), "".join(sezioni)
 with ThreadPoolExecutor(os.cpu_count()) as mani:

@@ -1,12 +1,18 @@
-"""The sessions in the guide's pages, played.
+"""Plays the sessions in the guide's pages.
 
-A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
-example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
-LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values, "ordine N"
-presses the buttons of the steps in the Nth column of the page's table of orders. "$ COMMAND" ends the program and runs
-a command in the job's folder, which has to stand in the text; "guasta COMMAND" one that does not. Of a line "= ..." the last word,
-or after a name of CAMPI_INTERI the whole rest, has to stand in the text under the same heading too; a line "~ ..."
-is compared with the program alone:
+A page's comment "<!-- prova" holds a session of the scripted desktop and what comes of it. It is played on a fresh
+installation with the worked example in the boxes. Beside the desktop's lines a session has:
+    riavvia              starts the program again on the same installation
+    ripeti N LINE / LINE writes the lines N times; %d in a line is the number of the time
+    zeri                 empties the boxes
+    tabella              types the page's table of values
+    ordine N             presses the buttons of the Nth column of the page's table of orders
+    $ COMMAND            ends the program and runs a command in the job's folder; the command has to stand in the text
+    guasta COMMAND       the same with a command that the text does not give
+    = ...                compares the program with the last word of the line, or with all that follows one of CAMPI_INTERI;
+                         this has to stand in the text under the same heading too
+    ~ ...                compares the program alone
+What is compared:
     = NAME FIELD VALUE           a section of the file: larghezza, ZG, An, O10y, P14.tauVy, punti, ...
     = calcolo EXPRESSION VALUE   of such values of the only section
     = casella N TEXT             what a box shows     = messaggio TEXT    a message box has said
@@ -110,7 +116,7 @@ class Prova:
             if DOMANDA_FINALE not in esito.stdout + esito.stderr:
                 break
         self.detto = esito.stdout
-        # A fatal error's message is one of those that the guide tells of.
+        # The guide tells of fatal errors, so a session may end with one.
         if esito.returncode and "Errore irreversibile" not in self.detto:
             controlla(self.dove, "la sessione", (esito.stdout + esito.stderr)[-300:], "giocata fino in fondo")
 

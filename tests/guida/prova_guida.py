@@ -33,7 +33,7 @@ def prove():
         pagina = leggi(os.path.join(DOCS, nome))
         for parte in re.split(r"^(?=#)", pagina, flags=re.M):
             for blocco in re.findall(r"<!-- prova\n(.*?)-->", parte, re.S):
-                # What a step comes to is told in the steps after it too.
+                # The text may tell the outcome of a step under the headings of later steps.
                 Prova(f"{nome}, {parte.splitlines()[0]}", blocco.splitlines(),
                       testo_visibile(pagina if "tabella" in blocco else parte), pagina)
                 quante += 1
@@ -54,7 +54,7 @@ def ingombro(inizio, angolo, base, alta, testo):
 
 
 def opzioni():
-    """The columns of the table of options, as typed into the form: texts that do not lie one over another."""
+    """With the columns of the table of options typed into the form, no text of the drawing lies over another."""
     tabella = re.findall(r"^\| ([^|]+?) \| ([\d.]+) \| ([\d.*]+) \| ([\d.*]+) \| ([\d.*]+) \|$",
                          leggi(os.path.join(DOCS, "guida-disegno.md")), re.M)
     numeri = {"Scala quote": 3, "Distanza massima quote-disegno": 4, "Lunghezza linee di estensione delle quote": 5,
@@ -79,7 +79,7 @@ def opzioni():
 
 
 def comandi():
-    """The viewer's command lines, as they stand there: each writes what it names, the drawing at 1:50 fits."""
+    """Each command line of the viewer writes the file that it names."""
     righe = leggi(os.path.join(DOCS, "guida-disegno.md")).split("<!-- comandi -->")[1].split("\n\n")[1].splitlines()
     controlla("comandi", "righe", len(righe) > 3, True)
     with tempfile.TemporaryDirectory(prefix="Guida_") as cartella:
@@ -138,7 +138,8 @@ def controlli():
 
 
 def messaggi():
-    """Each message of the table is said in a session, or to who cannot read the options and saves over another's file."""
+    """A session says each message of the table. Here a program says two more: one whose options cannot be read, and
+    that saves over the file of another."""
     with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
         lavoro = installa(radice, ESEMPIO)
         os.symlink("/proc/self/mem", os.path.join(radice, "custom", "CapOpSez.txt"))
