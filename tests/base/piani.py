@@ -16,7 +16,7 @@ errori, grafo, visti = [], {}, set()
 
 
 def piano(file):
-    """Of the innermost room."""
+    """The floor of the innermost room that the file lies in."""
     return PIANI[max((s for s in PIANI if file.startswith(s)), key=len)]
 
 

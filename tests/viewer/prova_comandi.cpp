@@ -6,10 +6,12 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <map>
 #include <set>
 
 #include "tests/viewer/con_finestra.h"
@@ -52,6 +54,22 @@ TEST_F(ConFinestra, ITastiSonoQuelliDeiMenu) {
   EXPECT_EQ(tasti("Sposta: In alto"), "↑");
   EXPECT_EQ(tasti("Misura una distanza"), "M");
   EXPECT_TRUE(tavola.findItems("sezione.dis", Qt::MatchContains).isEmpty()) << "a file is no command";
+  // The keys of the user's guide; of the digits also what they show.
+  const auto guida = QString::fromStdString(prove::Leggi(prove::kDati + "/../../../docs/guida-disegno.md"));
+  std::map<QString, QString> effetti;
+  for (int riga = 0; riga < tavola.rowCount(); ++riga)
+    for (const QString& tasto : tavola.item(riga, 0)->text().split("   "))
+      if (const auto* effetto = tavola.item(riga, 1)) effetti[tasto] = effetto->text();
+  static const QRegularExpression kTasto("`(.)`(?: (?:il|le|i) (\\w+))?",
+                                         QRegularExpression::UseUnicodePropertiesOption);
+  int quanti = 0;
+  for (const auto& trovato : kTasto.globalMatch(guida.section("| per | si fa |", 1).section("\n\n", 0, 0))) {
+    const auto effetto = effetti.find(trovato.captured(1));
+    ASSERT_NE(effetto, effetti.end()) << trovato.captured(1).toStdString();
+    EXPECT_TRUE(effetto->second.endsWith(trovato.captured(2))) << effetto->second.toStdString();
+    ++quanti;
+  }
+  EXPECT_EQ(quanti, 10);
 }
 
 TEST_F(ConFinestra, QuelloCheENascostoNonSiVedeNeSiEsporta) {
