@@ -1,10 +1,10 @@
-// What several tests of the core share: the worked example and its kin.
+// What several tests of the core share: the worked example and its kin, fatal errors as values.
 #pragma once
 
+#include <optional>
 #include <random>
-#include <sstream>
-#include <string>
 
+#include "base/errore.h"
 #include "model/geometria.h"
 #include "model/tabella_sezioni.h"
 
@@ -36,6 +36,16 @@ inline RecordSezione Costruita(const VettoreParametri& p) {
   RecordSezione r;
   CostruisciGeometria(r, p);
   return r;
+}
+
+/// The fatal error that ends `lavoro`, if one does.
+std::optional<ErroreFatale> ErroreDi(const auto& lavoro) {
+  try {
+    lavoro();
+    return {};
+  } catch (const ErroreFatale& errore) {
+    return errore;
+  }
 }
 
 /// Sections of every proportion that still are box girders; symmetric on request. Webs lean by 2% at

@@ -3,48 +3,32 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <limits>
 
-#include "base/errore.h"
 #include "base/intero.h"
 #include "base/numeri.h"
 #include "base/tabella.h"
+#include "tests/aiuti.h"
 
-namespace tarvel {
+namespace tarvel::prove {
 namespace {
 
 constexpr double kMax = std::numeric_limits<double>::max();
 
 TEST(Numeri, FormaInvariante) {
-  const struct {
-    double valore;
-    const char* testo;
-  } casi[] = {
-      {0, "0"},
+  for (const char* testo : {"0", ".5", "1E+15", "999999999999999", "2036027283214060", "1.2345678901E+15",
+                            "1234567890120000", ".0001", "9.5E-05", "-1E-05", "5E-324"})
+    EXPECT_EQ(FormatoNumero(ConvertiNumero(testo)), testo);
+  // Zero without a sign, and what has more digits.
+  const std::pair<double, const char*> casi[] = {
       {-0.0, "0"},
-      {-12.75, "-12.75"},
-      {0.5, ".5"},
       {2.0 / 3 * 1e10, "6666666666.66667"},
-      {999999999999999, "999999999999999"},
-      {1e15, "1E+15"},
       {999999999999999.9, "1E+15"},
-      {2036027283214060, "2036027283214060"},
       {-123456789012345678., "-123456789012346000"},
-      {1.23456e10 * 1e10, "1.23456E+20"},
-      {12345678901e5, "1.2345678901E+15"},
-      {123456789012e4, "1234567890120000"},
-      {1e-4, ".0001"},
       {9.9999999999999999e-5, ".0001"},
-      {9.5e-5, "9.5E-05"},
-      {-1e-5, "-1E-05"},
       {kMax, "1.79769313486232E+308"},
-      {5e-324, "5E-324"},
   };
-  for (const auto& c : casi) {
-    EXPECT_EQ(FormatoNumero(c.valore), c.testo) << c.valore;
-    EXPECT_NEAR(ConvertiNumero(c.testo).Valore(), c.valore, std::fabs(c.valore) * 1e-14);
-  }
+  for (const auto& [valore, testo] : casi) EXPECT_EQ(FormatoNumero(valore), testo) << valore;
   // Hundredths, which nearly all numbers are, as the C library writes them.
   for (int n = -20000; n <= 20000; n += 7) {
     char atteso[32];
@@ -61,10 +45,7 @@ TEST(Numeri, FormaInvariante) {
 }
 
 TEST(Numeri, ConversioneIndulgente) {
-  const struct {
-    const char* testo;
-    double valore;
-  } casi[] = {
+  const std::pair<const char*, double> casi[] = {
       {"", 0},          {"abc", 0},        {".5", .5},       {"0.5", .5},    {"-.25", -.25},
       {"+7", 7},        {"1e3", 1000},     {"1D3", 1000},    {"1d-2", .01},  {"1e", 1},
       {"1e+", 1},       {"12,5", 12},      {"12.5cm", 12.5}, {"1 2", 12},    {" \t1\n2 .5", 12.5},
@@ -74,23 +55,20 @@ TEST(Numeri, ConversioneIndulgente) {
       {"nan", 0},       {"-inf", 0},       {"0x10", 0},      {"00012", 12},  {"1.5E+16", 1.5e16},
       {"5.", 5},        {"&H1.5", 1},
   };
-  for (const auto& c : casi) EXPECT_EQ(ConvertiNumero(c.testo).Valore(), c.valore) << '"' << c.testo << '"';
+  for (const auto& [testo, valore] : casi) EXPECT_EQ(ConvertiNumero(testo).Valore(), valore) << testo;
 
+  const std::string nove(400, '9'), zeri = "." + std::string(500, '0');
+  for (const auto& [testo, valore] : {std::pair{nove, kMax}, {"-" + nove, -kMax}, {"&H" + nove, kMax}})
+    EXPECT_EQ(ConvertiNumero(testo).Valore(), valore) << testo;
+  EXPECT_EQ(ConvertiNumero(zeri + "1").Valore(), 0);
+  EXPECT_EQ(ConvertiNumero(zeri + "1e501").Valore(), 1);
   EXPECT_EQ(ConvertiNumero("-1e-99999999999999999999").Valore(), 0);
   EXPECT_FALSE(std::signbit(ConvertiNumero("-0").Valore()));
-  EXPECT_EQ(ConvertiNumero(std::string(400, '9')).Valore(), kMax);
-  EXPECT_EQ(ConvertiNumero("-" + std::string(400, '9')).Valore(), -kMax);
-  EXPECT_EQ(ConvertiNumero("&H" + std::string(400, 'F')).Valore(), kMax);
-  EXPECT_EQ(ConvertiNumero("." + std::string(500, '0') + "1").Valore(), 0);
-  EXPECT_DOUBLE_EQ(ConvertiNumero("." + std::string(500, '0') + "1e501").Valore(), 1);
 }
 
 TEST(Numeri, ConversioneRegionale) {
-  const struct {
-    char decimale, migliaia;
-    const char* testo;
-    double valore;  // -99: no number
-  } casi[] = {
+  // The separators, the text, its value; -99: no number.
+  const std::tuple<char, char, const char*, double> casi[] = {
       {',', '.', " 1,5 ", 1.5},         {',', '.', " 1.5", 1.5},     {',', '.', "1.500", 1500},
       {',', '.', "1.500,25", 1500.25},  {',', '.', "1.50,0", -99},   {',', '.', "12.34.567", -99},
       {',', '.', "1.234.567", 1234567}, {',', '.', "-1.234", -1234}, {',', '.', ",5", .5},
@@ -101,9 +79,17 @@ TEST(Numeri, ConversioneRegionale) {
       {'.', ',', "1234,567", -99},      {'.', ',', "1,5.000", -99},  {',', '.', "1.234E5", 1.234e5},
       {',', '.', "1.234,5e3", -99},     {'.', ',', "1,234E5", -99},
   };
-  for (const auto& c : casi) {
-    const auto letto = NumeroRegionale(c.testo, c.decimale, c.migliaia);
-    EXPECT_EQ(letto.value_or(-99).Valore(), c.valore) << c.decimale << " \"" << c.testo << '"';
+  for (const auto& [decimale, migliaia, testo, valore] : casi)
+    EXPECT_EQ(NumeroRegionale(testo, decimale, migliaia).value_or(-99).Valore(), valore) << testo;
+}
+
+TEST(Numeri, ProdottiEsatti) {
+  std::mt19937_64 caso(53);
+  for (int n = 0; n < 500; ++n) {
+    const std::uint64_t a = caso() >> 11 | 1, b = caso() >> 11 | 1;
+    const Doppia p = ProdottoEsatto(static_cast<double>(a), static_cast<double>(b));
+    EXPECT_EQ(a * b, static_cast<std::uint64_t>(std::fmod(p.valore, 0x1p64)) +
+                         static_cast<std::uint64_t>(static_cast<std::int64_t>(p.resto)));
   }
 }
 
@@ -138,35 +124,16 @@ TEST(Numeri, PotenzeArrotondateUnaVolta) {
       ovunque(c.mezzana + 2 * d, c.n);
     }
   }
-  // Squares that lie few units from the middle of two doubles, found bit by bit; products of 53 bits by 53.
-  constexpr std::uint64_t kOpposto = std::uint64_t{3} << 52;
-  for (int d = -63; d < 64; d += 8) {
-    std::uint64_t m = 1;
-    for (int k = 3; k < 53; ++k)
-      if (((m * m - static_cast<std::uint64_t>(d)) >> k & 1) != (k == 52)) m += std::uint64_t{1} << (k - 1);
-    m |= std::uint64_t{1} << 52;
-    ovunque(m, 2);
-    for (const std::uint64_t fattore : {m, kOpposto - m}) {
-      const Doppia p = ProdottoEsatto(static_cast<double>(m), static_cast<double>(fattore));
-      EXPECT_EQ(m * fattore, static_cast<std::uint64_t>(std::fmod(p.valore, 0x1p64)) +
-                                 static_cast<std::uint64_t>(static_cast<std::int64_t>(p.resto)));
-    }
-  }
-  const struct {
-    int n;
-    double atteso;
-  } diDieci[] = {{-2, .01}, {0, 1}, {1, 10}, {22, 1e22}, {23, 1e23}, {45, 1e45}, {308, 1e308}};
-  for (const auto& c : diDieci) EXPECT_EQ(Potenza(Reale(10), c.n), c.atteso) << c.n;
+  for (const auto& [n, atteso] :
+       {std::pair{-2, .01}, {0, 1}, {1, 10}, {22, 1e22}, {23, 1e23}, {45, 1e45}, {308, 1e308}})
+    EXPECT_EQ(Potenza(Reale(10), n), atteso) << n;
 }
 
 // The nearest double is given also where it is hard to tell (for the first case of each function C libraries
 // give its neighbour) and where digits cancel: near a multiple of pi, for a large angle, for the smallest
 // number.
 TEST(Numeri, TrascendentiAlDoppioPiuVicino) {
-  const struct {
-    double (*funzione)(double);
-    double x, atteso;
-  } casi[] = {
+  const std::tuple<double (*)(double), double, double> casi[] = {
       {Logaritmo, 1.0652, 0x1.02b6c29c632ccp-4},
       {Logaritmo, 1500.25, 0x1.d40e8883cebcdp+2},
       {Logaritmo, 5e-324, -0x1.74385446d71c3p+9},
@@ -179,42 +146,33 @@ TEST(Numeri, TrascendentiAlDoppioPiuVicino) {
       {Arcotangente, 1e300, 0x1.921fb54442d18p+0},
       {Arcotangente, 1e-10, 1e-10},
   };
-  for (const auto& c : casi) EXPECT_EQ(c.funzione(c.x), c.atteso) << c.x;
-}
-
-TipoErrore ErroreDi(const std::function<void()>& f) {
-  try {
-    f();
-  } catch (const ErroreFatale& e) {
-    return e.tipo;
-  }
-  ADD_FAILURE() << "nessun errore";
-  return TipoErrore::File;
+  for (const auto& [funzione, x, atteso] : casi) EXPECT_EQ(funzione(x), atteso) << x;
 }
 
 TEST(Numeri, OgniGuastoAritmeticoFerma) {
+  const auto tipoDi = [](const auto& lavoro) { return ErroreDi(lavoro).value().tipo; };
   const Reale grande = 1e308, zero = 0;
-  EXPECT_EQ(ErroreDi([&] { grande + grande; }), TipoErrore::Overflow);
-  EXPECT_EQ(ErroreDi([&] { -grande - grande; }), TipoErrore::Overflow);
-  EXPECT_EQ(ErroreDi([&] { grande * 2; }), TipoErrore::Overflow);
-  EXPECT_EQ(ErroreDi([&] { grande / 1e-10; }), TipoErrore::Overflow);
-  EXPECT_EQ(ErroreDi([&] { Potenza(grande, 2); }), TipoErrore::Overflow);
-  EXPECT_EQ(ErroreDi([&] { Reale(1) / zero; }), TipoErrore::DivisionePerZero);
-  EXPECT_EQ(ErroreDi([&] { zero / zero; }), TipoErrore::OperazioneNonValida);
-  EXPECT_EQ(ErroreDi([&] { Radice(Reale(-1)); }), TipoErrore::OperazioneNonValida);
-  EXPECT_EQ(ErroreDi([&] { Logaritmo(zero); }), TipoErrore::OperazioneNonValida);
-  EXPECT_EQ(ErroreDi([&] { Reale(std::nan("")); }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(tipoDi([&] { grande + grande; }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { -grande - grande; }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { grande * 2; }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { grande / 1e-10; }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { Potenza(grande, 2); }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { Reale(1) / zero; }), TipoErrore::DivisionePerZero);
+  EXPECT_EQ(tipoDi([&] { zero / zero; }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(tipoDi([&] { Radice(Reale(-1)); }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(tipoDi([&] { Logaritmo(zero); }), TipoErrore::OperazioneNonValida);
+  EXPECT_EQ(tipoDi([&] { Reale(std::nan("")); }), TipoErrore::OperazioneNonValida);
   EXPECT_EQ((Reale(1e-300) * 1e-300).Valore(), 0) << "l'underflow non è un guasto";
 
   Intero16 n = 32767;
-  EXPECT_EQ(ErroreDi([&] { ++n; }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { ++n; }), TipoErrore::Overflow);
   EXPECT_EQ(n, 32767);
-  EXPECT_EQ(ErroreDi([&] { InteroPari(32767.5); }), TipoErrore::Overflow);
+  EXPECT_EQ(tipoDi([&] { InteroPari(32767.5); }), TipoErrore::Overflow);
   EXPECT_EQ(InteroPari(2.5), 2);
   EXPECT_EQ(InteroPari(3.5), 4);
 
   Tabella<"prova", int, 1, 3> t;
-  for (const int i : {0, 4}) EXPECT_EQ(ErroreDi([&] { t[i] = 1; }), TipoErrore::Indice);
+  for (const int i : {0, 4}) EXPECT_EQ(tipoDi([&] { t[i] = 1; }), TipoErrore::Indice);
 }
 
 TEST(Testo, PaginaDiCodici) {
@@ -230,4 +188,4 @@ TEST(Testo, PaginaDiCodici) {
 }
 
 }  // namespace
-}  // namespace tarvel
+}  // namespace tarvel::prove

@@ -7,18 +7,15 @@
 #include "sheartorsion/torsione.h"
 #include "tests/aiuti.h"
 
-namespace tarvel {
+namespace tarvel::prove {
 namespace {
-
-using prove::Costruita;
-using prove::Esempio;
 
 // A rectangular box of even thin walls, b × h on the median line: Jt = 4 (b h)² t / (2 (b + h)).
 // The median line rounds the corners off, by about t on sides of 100: 1% of the result.
 TEST(Torsione, CassoneSottile) {
   const double t = 0.2, b = 100, h = 80;
   const double web = (1000 - b) / 2;  // the cantilevers carry no torsion
-  const VettoreParametri p = prove::Vettore(
+  const VettoreParametri p = Vettore(
       {h + t, t, t, t, t, t, t, t, 0, web - t / 2 - 1, 1, 0, b / 2 - t / 2 - 20, 20, 0, 1000, 0, 0, 0, 0, 0});
   const RecordSezione r = Costruita(p);
   Reale Jt;
@@ -28,9 +25,8 @@ TEST(Torsione, CassoneSottile) {
 }
 
 TEST(Torsione, TrattoASpessoreVariabile) {
-  const struct {
-    double t1, t2, s, atteso;  // -1: no thickness
-  } casi[] = {
+  const std::tuple<double, double, double, double> casi[] = {
+      // both thicknesses, length, ∫ds/t; -1: no thickness
       {2, 2, 10, 5},
       {1, 2, 10, 10 * std::log(2.0)},
       {2, 1, 10, 10 * std::log(2.0)},
@@ -42,18 +38,14 @@ TEST(Torsione, TrattoASpessoreVariabile) {
       {0, 0, 0, 0},
       {0.0001, 2, 10, 0},  // exactly the tolerance
   };
-  for (const auto& c : casi)
-    EXPECT_NEAR(TrattoSpessoreVariabile(c.t1, c.t2, c.s).value_or(-1).Valore(), c.atteso, 1e-6)
-        << c.t1 << ' ' << c.t2 << ' ' << c.s;
+  for (const auto& [t1, t2, s, atteso] : casi)
+    EXPECT_NEAR(TrattoSpessoreVariabile(t1, t2, s).value_or(-1).Valore(), atteso, 1e-6) << t1 << ' ' << t2;
 }
 
 TEST(Asse, LatiAttraversati) {
   const RecordSezione esempio = Costruita(Esempio());
-  const struct {
-    double YG;
-    int esterno, interno;  // 0: not found
-    double z14, z15;
-  } casi[] = {
+  const std::tuple<double, int, int, double, double> casi[] = {
+      // YG, outer and inner edge (0: not found), abscissas of points 14 and 15
       {-61.25, 4, 1, 304.75, 343.95},                // both webs
       {-41.5, 4, 1, 300.8, 340},                     // exactly a vertex of the cell: the first edge wins
       {-37.5, 3, 2, 300, 340 + 4 * 60 / 21.5},       // exactly O4: the edge that ends there wins
@@ -63,35 +55,34 @@ TEST(Asse, LatiAttraversati) {
       {-170, 0, 0, 0, 0},           // bottom slab
       {-190, 0, 0, 0, 0},
   };
-  for (const auto& c : casi) {
+  for (const auto& [YG, esterno, interno, z14, z15] : casi) {
     RecordSezione r = esempio;
-    r.YG = c.YG;
+    r.YG = YG;
     r.PuntoY[14] = 1;
     const AsseBaricentrico asse = CercaAsseBaricentrico(r);
-    ASSERT_EQ(asse.TrovatoAsse, c.esterno > 0) << c.YG;
-    EXPECT_EQ(r.PuntoY[14], c.esterno > 0 ? c.YG : 1);
-    EXPECT_EQ(asse.LatoEsterno, c.esterno) << c.YG;
-    EXPECT_EQ(asse.LatoInterno, c.interno) << c.YG;
-    EXPECT_NEAR(r.PuntoZ[14].Valore(), c.z14, 1e-9) << c.YG;
-    EXPECT_NEAR(r.PuntoZ[15].Valore(), c.z15, 1e-9) << c.YG;
+    EXPECT_EQ(std::tuple(asse.TrovatoAsse, asse.LatoEsterno, asse.LatoInterno),
+              std::tuple(esterno > 0, esterno, interno))
+        << YG;
+    EXPECT_EQ(r.PuntoY[14], esterno > 0 ? YG : 1);
+    EXPECT_NEAR(r.PuntoZ[14].Valore(), z14, 1e-9) << YG;
+    EXPECT_NEAR(r.PuntoZ[15].Valore(), z15, 1e-9) << YG;
   }
 }
 
 // On an edge that lies on the axis an abscissa is compared with an ordinate.
 TEST(Asse, LatiOrizzontali) {
-  const struct { double YG, z14, z15; } casi[] = {{-30, 300, 250}, {400, 250, 300}, {300, 300, 300}};
-  for (const auto& c : casi) {
+  for (const auto& [YG, z14, z15] : {std::tuple{-30, 300, 250}, {400, 250, 300}, {300, 300, 300}}) {
     RecordSezione r;
-    r.YG = c.YG;
-    for (const int v : {1, 2}) r.ImpostaVertice(1, v, {0, c.YG - 20});
-    for (const int v : {3, 4, 5, 6, 11}) r.ImpostaVertice(2, v, {0, c.YG - 20});
+    r.YG = YG;
+    for (const int v : {1, 2}) r.ImpostaVertice(1, v, {0, YG - 20});
+    for (const int v : {3, 4, 5, 6, 11}) r.ImpostaVertice(2, v, {0, YG - 20});
     for (const auto& [poligono, v] : {std::pair{1, 3}, {2, 1}}) {
-      r.ImpostaVertice(poligono, v, {250, c.YG});
-      r.ImpostaVertice(poligono, v + 1, {300, c.YG});
+      r.ImpostaVertice(poligono, v, {250, YG});
+      r.ImpostaVertice(poligono, v + 1, {300, YG});
     }
     ASSERT_TRUE(CercaAsseBaricentrico(r).TrovatoAsse);
-    EXPECT_EQ(r.PuntoZ[14], c.z14) << c.YG;
-    EXPECT_EQ(r.PuntoZ[15], c.z15) << c.YG;
+    EXPECT_EQ(r.PuntoZ[14], z14) << YG;
+    EXPECT_EQ(r.PuntoZ[15], z15) << YG;
   }
 }
 
@@ -110,4 +101,4 @@ TEST(Tagli, TroppiPuntiAlPunto14) {
 }
 
 }  // namespace
-}  // namespace tarvel
+}  // namespace tarvel::prove

@@ -11,11 +11,8 @@
 #include "sheartorsion/tau_punti.h"
 #include "tests/aiuti.h"
 
-namespace tarvel {
+namespace tarvel::prove {
 namespace {
-
-using prove::Costruita;
-using prove::Esempio;
 
 // Integrals over what lies between two broken lines that run to the right, slice by slice in long double.
 // They share nothing with the edge formulas but the vertices. Between the breaks the integrands are cubics at
@@ -80,7 +77,7 @@ TEST(Tensioni, SecondoMetodo) {
   std::mt19937 caso(2024);
   int sulRaccordo = 0;
   for (int n = 0; n < 120; ++n) {
-    VettoreParametri p = n == 0 ? Esempio() : prove::Casuale(caso, false);
+    VettoreParametri p = n == 0 ? Esempio() : Casuale(caso, false);
     if (n % 4 == 0) {  // the axis crosses the lower fillet
       p[kAltezzaTotale] = std::max(p[kAltezzaTotale], Reale(200));
       p[kSolettaInferiore] = p[kAltezzaTotale] * 0.3;
@@ -235,4 +232,4 @@ TEST(Tensioni, PartiSenzaArea) {
 }
 
 }  // namespace
-}  // namespace tarvel
+}  // namespace tarvel::prove
