@@ -30,18 +30,16 @@ TEST(GeneraDisegno, AvvisiSulFile) {
   const prove::Cartella cartella;
   DirLavori = (cartella / "").string();
   prove::Prepara(prove::Esempio());
-  const std::string riuscito = "information \"SALVA FILE DISEGNO\" \"File " + DirLavori + "d.dis salvato.\"";
-  const std::string fallito =
-      "none \"ERRORE\" \"Errore durante la scrittura sul file" + DirLavori + "manca/d\"";
-  const std::tuple<std::string, ModoAvviso, std::string> casi[] = {
-      {"d.dis", ModoAvviso::Tutti, riuscito}, {"d.dis", ModoAvviso::Nessuno, ""},
-      {"d.dis", ModoAvviso::Errori, ""},      {"manca/d", ModoAvviso::Tutti, fallito},
-      {"manca/d", ModoAvviso::Nessuno, ""},   {"manca/d", ModoAvviso::Errori, fallito},
-  };
-  for (const auto& [nome, modo, detto] : casi) {
+  const auto riuscito =
+      "message information \"SALVA FILE DISEGNO\" \"File " + DirLavori + "d.dis salvato.\" -> ok\n";
+  const auto fallito =
+      "message none \"ERRORE\" \"Errore durante la scrittura sul file" + DirLavori + "manca/d\" -> ok\n";
+  for (const auto& [nome, modo, detto] : {std::tuple{"d.dis", ModoAvviso::Tutti, riuscito},
+                                          {"d.dis", ModoAvviso::Errori, ""},
+                                          {"manca/d", ModoAvviso::Errori, fallito},
+                                          {"manca/d", ModoAvviso::Nessuno, ""}}) {
     NomeFileDisegno = nome;
-    EXPECT_EQ(Mostrato([m = modo] { GeneraDisegno(m); }),
-              detto.empty() ? "" : "message " + detto + " -> ok\n");
+    EXPECT_EQ(Mostrato([m = modo] { GeneraDisegno(m); }), detto);
   }
 }
 

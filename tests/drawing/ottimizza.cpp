@@ -12,18 +12,14 @@ namespace {
 using Ottimizza = ConDisegno;
 
 TEST_F(Ottimizza, PuntoSuSegmento) {
-  const struct {
-    double x, y, fineX, fineY;
-    bool atteso;
-  } casi[] = {
+  const std::tuple<double, double, double, double, bool> casi[] = {
       {0, 0, 8, 6, true},      {8, 6, 8, 6, true},           {8.00003, 6.00003, 8, 6, true},
       {4, 3.1, 8, 6, false},   {9, 6.75, 8, 6, false},       {8.00005, 6.00005, 8, 6, false},
       {4, 3.001, 8, 6, true},  {-3e-5, 0, 8, 6, true},       {500, .2236, 1000, 0, true},
       {-1, -.75, 8, 6, false}, {500, .2237, 1000, 0, false},
   };
-  for (const auto& c : casi)
-    EXPECT_EQ(disegno::PuntoSuSegmento({c.x, c.y}, {0, 0}, {c.fineX, c.fineY}), c.atteso)
-        << c.x << ' ' << c.y;
+  for (const auto& [x, y, fineX, fineY, atteso] : casi)
+    EXPECT_EQ(disegno::PuntoSuSegmento({x, y}, {0, 0}, {fineX, fineY}), atteso) << x << ' ' << y;
 }
 
 template <class Voce, class Elenco>
@@ -47,11 +43,7 @@ void PoniCoordinateFisse() {
 const std::string kPuntiFissi = "0 0 0 ; 1 0 0 ; 2 0 0 ; 3 0 0 ; 4 0 0 ; \n";
 
 TEST_F(Ottimizza, Linee) {
-  const struct {
-    const char* caso;
-    std::vector<ElementoLinea> linee;
-    std::string restano;
-  } casi[] = {
+  const std::tuple<const char*, std::vector<ElementoLinea>, const char*> casi[] = {
       {"of equal ones the last", {{0, 1, 1, 1}, {0, 1, 1, 1}, {1, 0, 2, 1}}, "1 0 2 1 ; "},
       {"within a longer one", {{0, 1, 3, 1}, {0, 2, 3, 2}}, "0 1 3 1 ; "},
       {"colour 0 and type 0 stay, and hold others",
@@ -61,10 +53,10 @@ TEST_F(Ottimizza, Linee) {
       {"no more than an overlap", {{0, 1, 1, 1}, {2, 3, 1, 1}}, "0 1 1 1 ; 2 3 1 1 ; "},
       {"without a first point, never compared", {{-1, 1, 1, 0}, {0, 1, 0, 1}}, "-1 1 1 0 ; 0 1 0 1 ; "},
   };
-  for (const auto& c : casi) {
+  for (const auto& [caso, linee, restano] : casi) {
     PoniCoordinateFisse();
-    Poni(Disegno.Linee, c.linee);
-    EXPECT_EQ(Compattato(), kPuntiFissi + c.restano + "\n\n\n") << c.caso;
+    Poni(Disegno.Linee, linee);
+    EXPECT_EQ(Compattato(), kPuntiFissi + restano + "\n\n\n") << caso;
   }
   Poni<ElementoLinea>(Disegno.Linee, {{-1, 1, 1, 0}, {0, 1, 1, 1}});
   EXPECT_THROW(OttimizzaDisegno(), ErroreFatale);

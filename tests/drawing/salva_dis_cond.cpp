@@ -1,6 +1,8 @@
 // The drawing file, byte for byte, and what the user is told about it.
 #include "drawing/salva_dis_cond.h"
 
+#include <regex>
+
 #include "drawing/funz_disegno.h"
 #include "lavoro/nome_disegno.h"
 #include "tests/cartella.h"
@@ -9,18 +11,12 @@
 namespace tarvel::disegno {
 namespace {
 
-// The text with CR LF for '|'.
-std::string Righe(const std::string& testo) {
-  std::string righe;
-  for (const char c : testo) righe += c == '|' ? "\r\n" : std::string(1, c);
-  return righe;
-}
-
 class FileDisegno : public ConDisegno {
  protected:
+  // The file with '|' for CR LF.
   std::string Salvato(Intestazione intestazione = Intestazione::Tre) {
     EXPECT_FALSE(SalvaDisegno(nome_, intestazione));
-    return prove::Contenuto(nome_);
+    return std::regex_replace(prove::Contenuto(nome_), std::regex("\r\n"), "|");
   }
 
   const prove::Cartella cartella_;
@@ -37,11 +33,12 @@ TEST_F(FileDisegno, TutteLeSezioni) {
   Cerchio({1e16, 12.5}, 8, 6);
   Disegno.Punti.numero = 1;
   Disegno.Punti[0] = {1, 7, -8};
-  EXPECT_EQ(Salvato(), Righe("                   3|-.25  1E+16 | 0  80 |-10000.000000        10000.000000|"
-                             " 3 |-.25  0  0 | 1E+16  12.5  0 | 1E+16  12.5  0 |"
-                             " 1 | 1 -8  7 | 1 | 0  1  3  2 |"
-                             " 2 | 0  1  0 | 1.5  2.5  1 |A b| 0  1 -90 | .5  1  4 |due  righe|"
-                             " 1 | 1  2  1  2 | 6  0 |"));
+  EXPECT_EQ(Salvato(),
+            "                   3|-.25  1E+16 | 0  80 |-10000.000000        10000.000000|"
+            " 3 |-.25  0  0 | 1E+16  12.5  0 | 1E+16  12.5  0 |"
+            " 1 | 1 -8  7 | 1 | 0  1  3  2 |"
+            " 2 | 0  1  0 | 1.5  2.5  1 |A b| 0  1 -90 | .5  1  4 |due  righe|"
+            " 1 | 1  2  1  2 | 6  0 |");
 }
 
 TEST_F(FileDisegno, Vuoto) {
@@ -49,9 +46,8 @@ TEST_F(FileDisegno, Vuoto) {
   AggiungiCoordinata({-1.5, 4});
   Salvato();
   // Nothing referred to the two points: the last one is left in place 0.
-  EXPECT_EQ(
-      Salvato(Intestazione::Quattro),
-      Righe("                   4|-1.5 -1.5 | 4  4 |-10000.000000        10000.000000| 0 | 0 | 0 | 0 | 0 |"));
+  EXPECT_EQ(Salvato(Intestazione::Quattro),
+            "                   4|-1.5 -1.5 | 4  4 |-10000.000000        10000.000000| 0 | 0 | 0 | 0 | 0 |");
 }
 
 TEST(NomeDisegno, UnNomeDiFileDentroLaCartella) {
