@@ -1,6 +1,7 @@
 // What several tests of the core share: the worked example and its kin, fatal errors as values.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <random>
 
@@ -12,8 +13,7 @@ namespace tarvel::prove {
 
 inline VettoreParametri Vettore(std::initializer_list<double> valori) {
   VettoreParametri p;
-  int i = 0;
-  for (const double v : valori) p[i++] = v;
+  std::copy(valori.begin(), valori.end(), p.begin());
   return p;
 }
 

@@ -34,13 +34,13 @@ TEST(GeneraDisegno, AvvisiSulFile) {
       "message information \"SALVA FILE DISEGNO\" \"File " + DirLavori + "d.dis salvato.\" -> ok\n";
   const auto fallito =
       "message none \"ERRORE\" \"Errore durante la scrittura sul file" + DirLavori + "manca/d\" -> ok\n";
-  for (const auto& [nome, modo, detto] : {std::tuple{"d.dis", ModoAvviso::Tutti, riuscito},
-                                          {"d.dis", ModoAvviso::Errori, ""},
-                                          {"manca/d", ModoAvviso::Errori, fallito},
-                                          {"manca/d", ModoAvviso::Nessuno, ""}}) {
-    NomeFileDisegno = nome;
-    EXPECT_EQ(Mostrato([m = modo] { GeneraDisegno(m); }), detto);
-  }
+  for (const auto& [modo, seSalvato, seNo] : {std::tuple{ModoAvviso::Tutti, riuscito, fallito},
+                                              {ModoAvviso::Errori, "", fallito},
+                                              {ModoAvviso::Nessuno, "", ""}})
+    for (const auto& [nome, detto] : {std::pair{"d.dis", seSalvato}, {"manca/d", seNo}}) {
+      NomeFileDisegno = nome;
+      EXPECT_EQ(Mostrato([m = modo] { GeneraDisegno(m); }), detto);
+    }
 }
 
 TEST(GeneraDisegno, AvvisiDelleTabelleAnchePrimaDiUnErrore) {

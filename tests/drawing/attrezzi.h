@@ -21,11 +21,8 @@ inline void Azzera() {
 
 class ConDisegno : public testing::Test {
  protected:
-  void SetUp() override { Azzera(); }
-  void TearDown() override {
-    Azzera();
-    FlagDisegno = false;
-  }
+  ConDisegno() { Azzera(); }
+  ~ConDisegno() override { FlagDisegno = false; }
 };
 
 /// All entries, a table a line; hexadecimal, so that not even the sign of a zero is lost.

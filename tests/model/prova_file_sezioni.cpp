@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <numeric>
 #include <sstream>
 
 #include "base/errore.h"
@@ -52,9 +53,7 @@ std::vector<std::string> Righe(const std::string& testo) {
 }
 
 std::string Unite(const std::vector<std::string>& righe) {
-  std::string testo;
-  for (const auto& r : righe) testo += r;
-  return testo;
+  return std::accumulate(righe.begin(), righe.end(), std::string());
 }
 
 // Every figure that a file keeps, and the unit to which it is cut there.
@@ -153,12 +152,11 @@ TEST_F(ProvaFile, OgniRigaConta) {
   const std::string intero = Unite(righe);
   for (const char* coda : {"", "\r\n \t\r\n", "\x1A", "\r\n\x1A\r\n"})
     EXPECT_EQ(Leggi(intero + coda), "") << coda;
-  const Testo dopo = FileSezioni + ", riga " + std::to_string(righe.size() + 1);
-  for (const char* coda : {"x", "0\r\n", "\x1A\r\nx", " \x1Ax"})
+  for (const char* coda : {"0\r\n", "\x1A\r\nx", " \x1Ax"})
     EXPECT_NE(Leggi(intero + coda).find(FileSezioni + ", riga "), Testo::npos) << coda;
-  EXPECT_NE(Leggi(intero + "x").find(dopo), Testo::npos);
-  const Testo seconda = ", riga " + std::to_string((righe.size() - 1) / 2 + 2) + ")";
-  EXPECT_NE(Leggi("1" + intero.substr(1)).find(seconda), Testo::npos);
+  for (const auto& [testo, riga] :
+       {std::pair{intero + "x", righe.size() + 1}, {"1" + intero.substr(1), (righe.size() - 1) / 2 + 2}})
+    EXPECT_NE(Leggi(testo).find(FileSezioni + ", riga " + std::to_string(riga) + ")"), Testo::npos);
 }
 
 TEST_F(ProvaFile, OgniRigaRovinata) {
