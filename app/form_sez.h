@@ -9,11 +9,11 @@
 namespace tarvel {
 
 /// Table index picked in FormSez, 0 for none. The close box leaves it as it was.
-extern Intero16 SezioneScelta;
-/// How many entries were selected in FormSez2 when it was last closed by its button, and which (kept for
-/// whoever continues with them; the recalculation counts them only).
-extern Intero16 NumeroScelte;
-extern Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
+inline Intero16 SezioneScelta;
+/// How many entries were selected in FormSez2 when its button last closed it, and which ones. The
+/// recalculation uses their number only.
+inline Intero16 NumeroScelte;
+inline Tabella<"delle sezioni scelte", Intero16, 1, kMaxSezioni> SezioniScelte;
 
 /// Picks one section, by button or double click.
 class FormSez : public Form {

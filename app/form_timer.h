@@ -1,4 +1,4 @@
-// The hidden form whose timer ends the program out of the close handlers.
+// The hidden form whose timer ends the program once the close handlers have returned.
 #pragma once
 
 #include "platform/controlli.h"
@@ -7,10 +7,10 @@ namespace tarvel {
 
 class FormTimer : public Form {
  public:
-  /// `chiusa` is the form to unload before the end.
+  /// `chiusa`: the form to unload before the end.
   explicit FormTimer(Form& chiusa);
 
-  /// Starts the short wait at whose end the form is unloaded and the program ends.
+  /// Starts the timer: when it fires, the form is unloaded and the program ends.
   void Arma();
 
   Temporizzatore Timer1;

@@ -1,4 +1,4 @@
-// What a fatal error or a failed save has to keep, and where.
+
 #include "app/salvataggio.h"
 
 #include <optional>
@@ -16,7 +16,7 @@ struct DaConservare {
   Testo file;
   std::vector<Testo> sezioni;
 };
-std::optional<DaConservare> gDaParte;
+std::optional<DaConservare> gDiPrima;  // while another file's sections take the place of the table's
 
 Testo Conserva(const DaConservare& sezioni) {
   const Testo dove = ConservaSezioni(sezioni.file, FileSezioniIntero, sezioni.sezioni);
@@ -29,7 +29,7 @@ std::optional<DaConservare> NonSalvate() {
 }
 
 Testo ConservaAllaFine() {
-  const auto sezioni = gDaParte ? gDaParte : NonSalvate();
+  const auto sezioni = gDiPrima ? gDiPrima : NonSalvate();
   return sezioni ? Conserva(*sezioni) : Testo();
 }
 
@@ -43,12 +43,12 @@ Testo ConservaNonSalvate() {
   return Conserva({FileSezioni, SezioniScrivibili()});
 }
 
-void MettiDaParteSezioni() {
-  gDaParte = NonSalvate();
-}
-
-void LasciaSezioniDaParte() {
-  gDaParte.reset();
+std::optional<Guasto> CambiaFileSezioni(const Testo& file) {
+  gDiPrima = NonSalvate();
+  FileSezioni = file;
+  const auto esito = LeggiFileSezioni();
+  gDiPrima.reset();
+  return esito;
 }
 
 }  // namespace tarvel

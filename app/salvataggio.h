@@ -1,22 +1,21 @@
-// Sections that are not saved outlive a fatal error and a save that failed: they are written beside their
+// Sections that are not saved survive a fatal error and a save that failed: they are written beside their
 // section file, and the message says where.
 #pragma once
 
-#include "base/testo.h"
+#include "base/guasto.h"
 
 namespace tarvel {
 
-/// From now on.
+/// From now on a fatal error writes them.
 void PreparaSalvataggio();
 
-/// After a save that failed: keeps the table's sections beside their file. Where they are, in a sentence; ""
-/// where the file has them all, or they cannot be kept.
+/// Writes the table's sections beside their file, after a save that failed. Returns a sentence that says
+/// where;
+/// "" when the file has them all, or they cannot be written.
 Testo ConservaNonSalvate();
 
-/// Before the table is replaced by another file's sections: a fatal error on the way saves what it holds
-/// now, beside the file it belongs to.
-void MettiDaParteSezioni();
-/// The table has been replaced.
-void LasciaSezioniDaParte();
+/// Makes `file` the section file and reads its sections into the table. A fatal error meanwhile writes the
+/// unsaved sections that the table held before, beside the file they belong to.
+[[nodiscard]] std::optional<Guasto> CambiaFileSezioni(const Testo& file);
 
 }  // namespace tarvel

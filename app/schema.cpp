@@ -6,39 +6,38 @@
 namespace tarvel {
 namespace {
 
-// The colours of the note beside the schematic.
-constexpr Colore kAltezze = kNero;
+// Of the boxes' texts as in the note beside the schematic.
+constexpr Colore kAltezze{0, 0, 0};
 constexpr Colore kBasi{0, 0, 255};
 constexpr Colore kPendenze{0, 128, 0};
 
-constexpr Colore kGiallo{255, 255, 0};
+constexpr Colore kLineeContorno{0, 0, 0};
+constexpr Colore kLineeQuota{255, 255, 0};
 
 // clang-format off
 constexpr CasellaSchema kCaselle[] = {
-    {4476, 2484, kAltezze},  // p0
-    {5148, 3840, kAltezze},  // p1
-    { 156, 1764, kAltezze},  // p2
-    {1404, 2100, kAltezze},  // p3
-    {1548, 2388, kAltezze},  // p4
-    {2316, 2388, kAltezze},  // p5
-    {2604, 2004, kAltezze},  // p6
-    {3612, 1764, kAltezze},  // p7
-    {2844, 3252, kAltezze},  // p8
-    {1116, 1044, kBasi   },  // p9
-    {1692, 1032, kBasi   },  // p10
-    {2220, 1056, kBasi   },  // p11
-    {3048, 1056, kBasi   },  // p12
-    {3912, 1056, kBasi   },  // p13
-    {2388, 3012, kBasi   },  // p14
-    {4248,   72, kBasi   },  // p15
-    {2076,  540, kPendenze},  // p16
-    {3912,  564, kPendenze},  // p17
-    {4524,  564, kPendenze},  // p18
-    {6300,  552, kPendenze},  // p19
-    {1416, 3048, kPendenze},  // p20
+    {kLarghezzaTotale,        4248,   72, kBasi},
+    {kPendenzaSinistra,       2076,  540, kPendenze},
+    {kPendenzaColmoSinistra,  3912,  564, kPendenze},
+    {kPendenzaColmoDestra,    4524,  564, kPendenze},
+    {kPendenzaDestra,         6300,  552, kPendenze},
+    {kSbalzo,                 1116, 1044, kBasi},
+    {kDaSbalzoAdAnima,        1692, 1032, kBasi},
+    {kRaccordoSuperiore,      2220, 1056, kBasi},
+    {kDaRaccordoAColmo,       3048, 1056, kBasi},
+    {kDaColmoAMezzeria,       3912, 1056, kBasi},
+    {kEstremitaSbalzi,         156, 1764, kAltezze},
+    {kAttaccoSbalzi,          1404, 2100, kAltezze},
+    {kSommitaEsternaAnime,    1548, 2388, kAltezze},
+    {kSommitaInternaAnime,    2316, 2388, kAltezze},
+    {kSolettaFineRaccordo,    2604, 2004, kAltezze},
+    {kSolettaMezzeria,        3612, 1764, kAltezze},
+    {kInclinazioneAnime,      1416, 3048, kPendenze},
+    {kRaccordoInferiore,      2388, 3012, kBasi},
+    {kAltezzaTotale,          4476, 2484, kAltezze},
+    {kAltezzaRaccordo,        2844, 3252, kAltezze},
+    {kSolettaInferiore,       5148, 3840, kAltezze},
 };
-
-constexpr int kOrdine[] = {15, 16, 17, 18, 19, 9, 10, 11, 12, 13, 2, 3, 4, 5, 6, 7, 20, 14, 0, 8, 1};
 
 struct Tratto {
   int x1, y1, x2, y2;
@@ -47,10 +46,10 @@ struct Tratto {
 // Line1: the outline and the cell.
 constexpr Tratto kContorno[] = {
     { 816, 1752,  816, 1952},  //  0  edge of the left tip
-    { 816, 1752, 3816, 1452},  //  1  top, slope p16
-    {3816, 1460, 4416, 1440},  //  2  slope p17
-    {4416, 1440, 5016, 1460},  //  3  slope p18
-    {5040, 1452, 8004, 1728},  //  4  slope p19
+    { 816, 1752, 3816, 1452},  //  1  top, kPendenzaSinistra
+    {3816, 1460, 4416, 1440},  //  2  kPendenzaColmoSinistra
+    {4416, 1440, 5016, 1460},  //  3  kPendenzaColmoDestra
+    {5040, 1452, 8004, 1728},  //  4  kPendenzaDestra
     {8016, 1752, 8016, 1952},  //  5  edge of the right tip
     { 816, 1956, 1816, 2056},  //  6  underside of the left cantilever
     {1824, 2052, 2024, 2252},  //  7  from the left cantilever to the web
@@ -74,40 +73,40 @@ constexpr Tratto kContorno[] = {
 
 // Line2: dimension lines and their ticks.
 constexpr Tratto kQuote[] = {
-    {4416, 3760, 4416, 1440},  //  0  p0, total height
-    {5316, 3752, 5316, 3552},  //  1  p1, bottom slab
-    { 684, 1752,  684, 1952},  //  2  p2, tip
-    {1824, 1656, 1824, 2056},  //  3  p3
-    {2016, 1632, 2016, 2252},  //  4  p4
-    {2220, 1608, 2220, 2358},  //  5  p5
-    {2616, 1560, 2616, 1960},  //  6  p6
-    {3816, 1452, 3816, 1652},  //  7  p7
-    { 828, 1332, 4428, 1332},  //  8  p9 to p13, on one line
+    {4416, 3760, 4416, 1440},  //  0  kAltezzaTotale
+    {5316, 3752, 5316, 3552},  //  1  kSolettaInferiore
+    { 684, 1752,  684, 1952},  //  2  kEstremitaSbalzi
+    {1824, 1656, 1824, 2056},  //  3  kAttaccoSbalzi
+    {2016, 1632, 2016, 2252},  //  4  kSommitaEsternaAnime
+    {2220, 1608, 2220, 2358},  //  5  kSommitaInternaAnime
+    {2616, 1560, 2616, 1960},  //  6  kSolettaFineRaccordo
+    {3816, 1452, 3816, 1652},  //  7  kSolettaMezzeria
+    { 828, 1332, 4428, 1332},  //  8  kSbalzo to kDaColmoAMezzeria, on one line
     { 828, 1284,  828, 1380},  //  9  tick of 8
-    {2316, 3300, 2556, 3300},  // 10  p14, lower fillet, width
+    {2316, 3300, 2556, 3300},  // 10  kRaccordoInferiore
     {1836, 1284, 1836, 1380},  // 11  tick of 8
     {2604, 1284, 2604, 1380},  // 12  tick of 8
-    {2748, 3300, 2748, 3540},  // 13  p8, its height
+    {2748, 3300, 2748, 3540},  // 13  kAltezzaRaccordo
     {2220, 1284, 2220, 1380},  // 14  tick of 8
     {1980, 1284, 1980, 1380},  // 15  tick of 8
-    { 636, 1764,  732, 1764},  // 16  tick of p2
+    { 636, 1764,  732, 1764},  // 16  tick of kEstremitaSbalzi
     {4428, 1284, 4428, 1380},  // 17  tick of 8
     {3804, 1284, 3804, 1380},  // 18  tick of 8
-    { 636, 1956,  732, 1956},  // 19  tick of p2
-    {2700, 3300, 2796, 3300},  // 20  tick of p8
-    {2556, 3252, 2556, 3348},  // 21  tick of p14
-    { 780,  852, 8028,  852},  // 22  p16 to p19, on one line
+    { 636, 1956,  732, 1956},  // 19  tick of kEstremitaSbalzi
+    {2700, 3300, 2796, 3300},  // 20  tick of kAltezzaRaccordo
+    {2556, 3252, 2556, 3348},  // 21  tick of kRaccordoInferiore
+    { 780,  852, 8028,  852},  // 22  kPendenzaSinistra to kPendenzaDestra, on one line
     { 780,  804,  780,  900},  // 23  tick of 22
     {5004,  804, 5004,  900},  // 24  tick of 22
     {4428,  804, 4428,  900},  // 25  tick of 22
     {3804,  804, 3804,  900},  // 26  tick of 22
     {8028,  804, 8028,  900},  // 27  tick of 22
-    {1884, 2964, 1884, 3364},  // 28  p20, slope of the web
+    {1884, 2964, 1884, 3364},  // 28  kInclinazioneAnime
     {1884, 2964, 1932, 3360},  // 29  side of the same
     {1884, 3348, 1932, 3348},  // 30  side of the same
-    {8028,  276, 8028,  372},  // 31  tick of p15
-    { 780,  276,  780,  372},  // 32  tick of p15
-    { 780,  324, 8028,  324},  // 33  p15, total width
+    {8028,  276, 8028,  372},  // 31  tick of kLarghezzaTotale
+    { 780,  276,  780,  372},  // 32  tick of kLarghezzaTotale
+    { 780,  324, 8028,  324},  // 33  kLarghezzaTotale
 };
 // clang-format on
 
@@ -116,15 +115,12 @@ constexpr Tratto kQuote[] = {
 std::span<const CasellaSchema> CaselleSchema() {
   return kCaselle;
 }
-std::span<const int> OrdineCaselle() {
-  return kOrdine;
-}
 
 std::vector<LineaForm> LineeSchema() {
   std::vector<LineaForm> linee;
   linee.reserve(std::size(kContorno) + std::size(kQuote));
-  for (const Tratto& t : kContorno) linee.push_back({t.x1, t.y1, t.x2, t.y2, kNero, 2});
-  for (const Tratto& t : kQuote) linee.push_back({t.x1, t.y1, t.x2, t.y2, kGiallo, 1});
+  for (const Tratto& t : kContorno) linee.push_back({t.x1, t.y1, t.x2, t.y2, kLineeContorno, 2});
+  for (const Tratto& t : kQuote) linee.push_back({t.x1, t.y1, t.x2, t.y2, kLineeQuota, 1});
   return linee;
 }
 

@@ -3,16 +3,15 @@
 
 #include "app/form_opt.h"
 #include "app/form_sez.h"
+#include "app/genera_disegno.h"
 #include "app/salvataggio.h"
 #include "app/schema.h"
 #include "base/numeri.h"
-#include "drawing/sezione/disegno_sezione.h"
 #include "lavoro/cartelle.h"
 #include "lavoro/nome_disegno.h"
 #include "model/archivio/file_sezioni.h"
 #include "model/nomi_dimensioni.h"
 #include "model/tabella_sezioni.h"
-#include "options/opzioni.h"
 #include "platform/desktop.h"
 #include "preview/anteprima.h"
 
@@ -21,9 +20,22 @@ namespace {
 
 constexpr Colore kBluMarino{0, 0, 128};
 
-Testo TestoNota() {
-  return "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
-         "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)"_t;
+// While debugging, an argument in place of the command line's.
+constexpr std::string_view kArgomentoDebug;
+
+constexpr char kNota[] =
+    "La numerazione dei TEXT è fatta numerando prima quelli relativi alle altezze (scritta nera), poi "
+    "quelli relativi alle basi (scritta blue) ed infine quelli relativi alle pendenze (scritta verde)";
+
+// A fault in the folders ends the program.
+void TrovaCartelle() {
+  const bool debug = !kArgomentoDebug.empty();
+  if (debug) MostraMessaggio("Versione di debug ***", kTitoloProgramma, Icona::Informazione);
+  const auto guasto = InizializzaDirettori(debug ? Testo(kArgomentoDebug) : RigaComando());
+  if (!guasto) return;
+  const bool senzaArgomento = guasto->tipo == TipoErrore::Argomento;
+  MostraMessaggio(guasto->testo, "ERRORE", senzaArgomento ? Icona::Stop : Icona::Esclamazione);
+  TerminaProgramma(1);
 }
 
 }  // namespace
@@ -40,9 +52,9 @@ tarvel1::tarvel1() {
   altezza = 4785;
   linee = LineeSchema();
 
-  for (int i = 0; i < kNumParametri; ++i) {
+  for (const CasellaSchema& voce : CaselleSchema()) {
+    const int i = voce.dimensione;
     Controllo& casella = Text1[static_cast<std::size_t>(i)];
-    const CasellaSchema& voce = CaselleSchema()[static_cast<std::size_t>(i)];
     casella = NuovoControllo(TipoControllo::Casella, "Text1(" + std::to_string(i) + ")",
                              {voce.sinistra, voce.alto, 396, 216}, "1234");
     casella.coloreTesto = voce.colore;
@@ -50,6 +62,7 @@ tarvel1::tarvel1() {
     casella.descrizione = DescrizioneDimensione(i);
     casella.tasto = [this, i](int codice) { Text1_KeyPress(i, codice); };
     casella.fuocoPerso = [this, i] { Text1_LostFocus(i); };
+    controlli.push_back(&casella);
   }
 
   nome = NuovoControllo(TipoControllo::Casella, "nome", {7320, 3960, 2004, 288});
@@ -59,33 +72,24 @@ tarvel1::tarvel1() {
   nomute = NuovoControllo(TipoControllo::Etichetta, "nomute", {1524, 4404, 2460, 156});
   nomute.coloreTesto = kBluMarino;
   nomute.carattere.grassetto = true;
-  Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, TestoNota());
+  Label1 = NuovoControllo(TipoControllo::Etichetta, "Label1", {8256, 564, 1116, 1980}, DaUtf8(kNota));
   Label2 = NuovoControllo(TipoControllo::Etichetta, "Label2", {7296, 3768, 912, 156}, "Nome sezione:");
 
-  const struct {
-    Controllo& bottone;
-    const char* nome;
-    const char* testo;
-    Rettangolo posto;
-    void (tarvel1::*click)();
-  } bottoni[] = {
-      {Command1, "Command1", "Leggi", {7320, 4320, 972, 300}, &tarvel1::Command1_Click},
-      {Command2, "Command2", "Salva", {8352, 4320, 972, 300}, &tarvel1::Command2_Click},
-      {Calcolo, "Calcolo", "Calcola", {8352, 3312, 972, 300}, &tarvel1::Calcolo_Click},
-      {Command4, "Command4", "Anteprima", {8352, 2928, 972, 300}, &tarvel1::Command4_Click},
-      {Command6, "Command6", "Opzioni DIS", {8352, 2532, 972, 300}, &tarvel1::Command6_Click},
-      {Command7, "Command7", "Calcolo Multiplo", {5448, 4368, 1488, 240}, &tarvel1::Command7_Click},
-      {Command3, "Command3", "File SEZIO_UT:", {84, 4332, 1332, 300}, &tarvel1::Command3_Click},
-      {Command5, "Command5", "Chiudi", {8352, 144, 972, 300}, &tarvel1::Command5_Click},
-  };
-
-  for (const int i : OrdineCaselle()) controlli.push_back(&Text1[static_cast<std::size_t>(i)]);
   controlli.push_back(&nome);
-  for (const auto& b : bottoni) {
-    b.bottone = NuovoControllo(TipoControllo::Bottone, b.nome, b.posto, b.testo);
-    b.bottone.click = [this, click = b.click] { (this->*click)(); };
-    controlli.push_back(&b.bottone);
-  }
+  const auto aggiungi = [this](Controllo& bottone, const char* chiamato, const char* testo, Rettangolo posto,
+                               void (tarvel1::*click)()) {
+    bottone = NuovoControllo(TipoControllo::Bottone, chiamato, posto, testo);
+    bottone.click = [this, click] { (this->*click)(); };
+    controlli.push_back(&bottone);
+  };
+  aggiungi(Command1, "Command1", "Leggi", {7320, 4320, 972, 300}, &tarvel1::Command1_Click);
+  aggiungi(Command2, "Command2", "Salva", {8352, 4320, 972, 300}, &tarvel1::Command2_Click);
+  aggiungi(Calcolo, "Calcolo", "Calcola", {8352, 3312, 972, 300}, &tarvel1::Calcolo_Click);
+  aggiungi(Command4, "Command4", "Anteprima", {8352, 2928, 972, 300}, &tarvel1::Command4_Click);
+  aggiungi(Command6, "Command6", "Opzioni DIS", {8352, 2532, 972, 300}, &tarvel1::Command6_Click);
+  aggiungi(Command7, "Command7", "Calcolo Multiplo", {5448, 4368, 1488, 240}, &tarvel1::Command7_Click);
+  aggiungi(Command3, "Command3", "File SEZIO_UT:", {84, 4332, 1332, 300}, &tarvel1::Command3_Click);
+  aggiungi(Command5, "Command5", "Chiudi", {8352, 144, 972, 300}, &tarvel1::Command5_Click);
   for (Controllo* etichetta : {&nomute, &Label1, &Label2}) controlli.push_back(etichetta);
 }
 
@@ -93,20 +97,19 @@ void tarvel1::Form_Load() {
   SezioneSalvata = true;
   ChiusuraEseguita_ = false;
   NumeroProposto = 1;
-  VerticiPoligono[1] = 13;
-  VerticiPoligono[2] = 11;
+  VerticiPoligono = kVerticiCassone;
   SezioneCorrente = 1;
   PrefissoNome = "U_PO_";
   PreparaSalvataggio();
-  InizializzaDirettori();
+  TrovaCartelle();
   FileSezioni = DirLavori + "\\sezio_ut";
   ImpostaTesto(nomute, FileSezioni);
   NomeFileDisegno = kDisegnoTemporaneo;
-  LeggiOpzioni();
+  FormOpt::RileggiOpzioni();
   LeggiDefault();
   ImpostaTesto(nome, ProponiNome(NumeroProposto));
   AggiornaTextParametri();
-  LeggiFileSezioni(false);
+  static_cast<void>(LeggiFileSezioni());  // a job without sections begins with none
   CaricaForm(FormOpt::Unica());
 }
 
@@ -143,8 +146,7 @@ void tarvel1::nome_LostFocus() {
 }
 
 void tarvel1::Command4_Click() {
-  GeneraDisegno(disegno::ModoAvviso::Nessuno);
-  Anteprima();
+  MostraAnteprima();
 }
 
 void tarvel1::Command5_Click() {

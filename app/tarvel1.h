@@ -10,7 +10,7 @@
 
 namespace tarvel {
 
-/// The form that a platform loads and shows at start; the program ends by itself after it.
+/// The form that a platform loads and shows at start. Closing it ends the program.
 Form& FormPrincipale();
 
 class tarvel1 : public Form {

@@ -1,6 +1,5 @@
-// Numbers of twice a double's precision, held as the sum of two: with the same bits on every processor and
-// in every build, since only sums, products, quotients and roots of doubles are used, which all round alike
-// (Dekker, Knuth).
+// Numbers of twice a double's precision, each held as the sum of two doubles (Dekker, Knuth). Every processor
+// and every build gives the same bits, since all of them round sums, products, quotients and roots alike.
 #pragma once
 
 #include <bit>
@@ -15,16 +14,16 @@ constexpr bool Finito(double x) {
   return x >= -limite && x <= limite;
 }
 
-/// A value as its rounded part and what that one lacks.
+/// A number as its nearest double and what that one lacks.
 struct Doppia {
   double valore;
   double resto = 0;
 
-  /// Without a resto where the value has overflowed: it is the overflow that counts.
+  /// A value that has overflowed stays so: the resto of an infinite value is no number.
   constexpr double Arrotondata() const { return Finito(valore) ? valore + resto : valore; }
 };
 
-/// The exact sum of two numbers, the first not the smaller one.
+/// The exact sum of two numbers, where |a| >= |b|.
 constexpr Doppia SommaOrdinata(double a, double b) {
   const double s = a + b;
   return {s, b - (s - a)};
@@ -36,11 +35,12 @@ constexpr Doppia SommaEsatta(double a, double b) {
   return {s, (a - (s - di_b)) + (b - di_b)};
 }
 
-/// The exact product, where it and its resto are doubles: always from 2^-968 on, as a resto may lie 106
-/// digits below its product; what would be less than the smallest double is lost.
+/// The exact product. A resto may lie 106 digits below its product: of a product below 2^-968 the digits that
+/// are less than the smallest double are lost.
 constexpr Doppia ProdottoEsatto(double a, double b) {
-  // Halves of 26 and 27 digits, cut off by a mask, as the usual large factor would overflow from 1E+300 on.
-  // Two lower halves have a product of 54 digits: the last digit of one goes apart.
+  // A mask cuts each factor in halves of 26 and 27 digits; the usual multiplication by a large number would
+  // overflow from 1E+300 on. The product of both lower halves has 54 digits, one too many: the last digit of
+  // one of them is multiplied separately.
   constexpr auto senza = [](double x, std::uint64_t cifre) {
     return std::bit_cast<double>(std::bit_cast<std::uint64_t>(x) & ~cifre);
   };

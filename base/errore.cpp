@@ -1,4 +1,4 @@
-// The faults of checked arithmetic and of checked tables, in the words of who typed the numbers.
+// The faults of checked arithmetic and of checked tables, in words for the user who typed the numbers.
 #include "base/errore.h"
 
 #include "base/reale.h"

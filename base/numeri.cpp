@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdlib>
-#include <iterator>
+#include <cmath>
 #include <limits>
 
 namespace tarvel {
@@ -18,60 +17,18 @@ bool Cifra(char c) {
   return c >= '0' && c <= '9';
 }
 
-// The significant digits of a magnitude, without trailing zeros, and the exponent of the first. The
-// digits stand in the buffer of who asks.
-struct Cifre {
-  std::string_view cifre;
-  int esponente = 0;
-};
-using BufferCifre = std::array<char, 32>;
-
-Cifre Scomponi(double grandezza, int quante, BufferCifre& buffer) {
-  char* const inizio = buffer.data();
-  char* const limite = inizio + buffer.size();
-  const char* fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific).ptr;
-  const char* e = std::find(inizio + 1, limite, 'e');
-  if (e - inizio > quante + 1) {
-    fine = std::to_chars(inizio, limite, grandezza, std::chars_format::scientific, quante - 1).ptr;
-    e = std::find(inizio + 1, limite, 'e');
-  }
-  Cifre esito;
-  std::from_chars(e + (e[1] == '+' ? 2 : 1), fine, esito.esponente);
-  if (inizio[1] == '.') {
-    inizio[1] = inizio[0];  // over the point, next to the others
-    while (e[-1] == '0') --e;
-    esito.cifre = {inizio + 1, e};
-  } else {
-    esito.cifre = {inizio, e};
-  }
-  return esito;
-}
-
-void AccodaEsponente(Testo& testo, int esponente) {
-  testo += 'E';
-  testo += esponente < 0 ? '-' : '+';
-  const int grandezza = std::abs(esponente);
-  if (grandezza < 10) testo += '0';
-  testo += std::to_string(grandezza);
-}
-
-// Whole numbers and hundredths, nearly all that is written, go by integers. That is exact: of the
-// decimals of at most 15 digits only one is read back as a given double.
-bool AccodaCentesimi(Testo& testo, double v, char separatore, bool zeroIniziale) {
-  const double centesimi = std::nearbyint(v * 100);
-  if (!(std::fabs(centesimi) < 1e15) || centesimi / 100 != v) return false;
-  const long long n = std::llabs(static_cast<long long>(centesimi));
-  const auto decimali = static_cast<int>(n % 100);
-  if (v < 0) testo += '-';
-  if (n >= 100 || decimali == 0 || zeroIniziale) {
-    BufferCifre buffer;
-    const auto fine = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n / 100).ptr;
-    testo.append(buffer.data(), fine);
-  }
-  if (decimali == 0) return true;
-  (testo += separatore) += static_cast<char>('0' + decimali / 10);
-  if (decimali % 10 != 0) testo += static_cast<char>('0' + decimali % 10);
-  return true;
+// Tells whether a number beyond the range of a double is too large or too small, by the place of its first
+// digit that is not zero.
+bool TroppoGrande(std::string_view numero) {
+  const auto fineMantissa = std::min(numero.find_first_of("eE"), numero.size());
+  const auto punto = std::min(numero.find('.'), fineMantissa);
+  const auto prima = numero.find_first_of("123456789");
+  long long esponente = 0;
+  std::string_view cifre = numero.substr(std::min(fineMantissa + 1, numero.size()));
+  if (cifre.starts_with('+')) cifre.remove_prefix(1);
+  const auto letto = std::from_chars(cifre.data(), cifre.data() + cifre.size(), esponente);
+  if (letto.ec == std::errc::result_out_of_range) return !cifre.starts_with('-');
+  return static_cast<long long>(punto) - static_cast<long long>(prima) + esponente > 0;
 }
 
 // A decimal number at the start of `s`: sign, digits with one point, exponent.
@@ -81,76 +38,36 @@ struct Scansione {
   bool oltre = false;  // beyond the range of a double, whose largest one stands for it
 };
 
-Scansione Scandisci(std::string_view s, std::string_view segniEsponente) {
-  std::size_t i = 0;
-  const bool negativo = !s.empty() && s[0] == '-';
-  if (!s.empty() && (s[0] == '-' || s[0] == '+')) ++i;
-  const std::size_t inizio = i;
-
-  long long potenza = 0;  // power of ten of the first digit that is not zero
-  bool cifre = false, nonZero = false, punto = false;
-  for (; i < s.size() && (Cifra(s[i]) || (s[i] == '.' && !punto)); ++i) {
-    if (s[i] == '.') {
-      punto = true;
-      continue;
-    }
-    cifre = true;
-    if (!nonZero && punto) --potenza;
-    if (nonZero && !punto) ++potenza;
-    nonZero = nonZero || s[i] != '0';
+Scansione Scandisci(std::string_view s) {
+  const bool negativo = s.starts_with('-');
+  const std::string_view cifre = s.substr(negativo || s.starts_with('+') ? 1 : 0);
+  // from_chars would take "inf", "nan" and a second sign.
+  if (cifre.empty() || !(Cifra(cifre[0]) || cifre[0] == '.')) return {};
+  Scansione esito;
+  const auto [fine, errore] = std::from_chars(cifre.data(), cifre.data() + cifre.size(), esito.valore);
+  if (errore == std::errc::invalid_argument) return {};
+  esito.lunghezza = static_cast<std::size_t>(fine - s.data());
+  if (errore == std::errc::result_out_of_range) {
+    esito.oltre = TroppoGrande({cifre.data(), fine});
+    esito.valore = esito.oltre ? kMassimo : 0;
   }
-  if (!cifre) return {};
-
-  const std::size_t fineMantissa = i;
-  long long esponente = 0;
-  if (i < s.size() && segniEsponente.find(s[i]) != std::string_view::npos) {
-    std::size_t j = i + 1;
-    const bool meno = j < s.size() && s[j] == '-';
-    if (j < s.size() && (s[j] == '-' || s[j] == '+')) ++j;
-    if (j < s.size() && Cifra(s[j])) {
-      constexpr long long kOltreOgniRange = 1'000'000'000'000;
-      for (; j < s.size() && Cifra(s[j]); ++j)
-        if (esponente < kOltreOgniRange) esponente = esponente * 10 + (s[j] - '0');
-      if (meno) esponente = -esponente;
-      i = j;
-    }
-  }
-
-  Scansione esito{i};
-  if (!nonZero) return esito;
-  if (potenza + esponente > std::numeric_limits<double>::max_exponent10) {
-    esito.oltre = true;
-  } else if (potenza + esponente > -400) {
-    // from_chars knows neither 'D' nor a leading '+': the exponent is written anew.
-    std::string_view mantissa = s.substr(inizio, fineMantissa - inizio);
-    Testo conEsponente;
-    if (esponente != 0) {
-      conEsponente = Testo(mantissa) + 'e' + std::to_string(esponente);
-      mantissa = conEsponente;
-    }
-    const auto letto = std::from_chars(mantissa.data(), mantissa.data() + mantissa.size(), esito.valore);
-    esito.oltre = letto.ec == std::errc::result_out_of_range && potenza + esponente > 0;
-    if (letto.ec == std::errc::result_out_of_range) esito.valore = 0;
-  }
-  if (esito.oltre) esito.valore = kMassimo;
-  if (negativo) esito.valore = -esito.valore;
+  if (negativo && esito.valore != 0) esito.valore = -esito.valore;
   return esito;
 }
 
-Reale InteroConBase(std::string_view cifre, int base) {
+Reale InteroConBase(std::string_view cifre, std::size_t base) {
   double valore = 0;
   for (const char c : cifre) {
-    const char m = Minuscola(c);
-    const int cifra = Cifra(m) ? m - '0' : m >= 'a' && m <= 'f' ? m - 'a' + 10 : base;
+    const auto cifra = std::string_view("0123456789abcdef").find(Minuscola(c));
     if (cifra >= base) break;
-    valore = valore * base + cifra;
+    valore = valore * static_cast<double>(base) + static_cast<double>(cifra);
     if (valore > kMassimo) return kMassimo;
   }
   return valore;
 }
 
-// The text in invariant form, or nothing where the thousands separators stand wrong: out of their
-// groups, or in front of an exponent, where they rather are somebody else's decimal point.
+// The text in invariant form. Nothing where the thousands separators do not part groups of three, and where
+// an exponent follows them: there the separator rather is a decimal point in another country's format.
 std::optional<Testo> Invariante(std::string_view testo, char decimale, char migliaia) {
   const auto virgola = testo.find(decimale);
   const auto inizioEsponente = testo.find_first_of("eE");
@@ -177,16 +94,44 @@ std::optional<Testo> Invariante(std::string_view testo, char decimale, char migl
   return esito;
 }
 
+using Buffer = std::array<char, 32>;
+
+std::string_view Scritto(Buffer& buffer, auto... numero) {
+  const auto esito = std::to_chars(buffer.data(), buffer.data() + buffer.size(), numero...);
+  return {buffer.data(), static_cast<std::size_t>(esito.ptr - buffer.data())};
+}
+
+// The shortest text that is read back as `v`, or that of its first digits where it has more than `quante`.
 void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroIniziale) {
+  Buffer buffer;
+  const double grandezza = std::fabs(v), centesimi = std::nearbyint(grandezza * 100);
+  std::string_view cifre, potenza;
+  int esponente = 0;
+  if (quante == kCifre && centesimi > 0 && centesimi < 1e15 && centesimi / 100 == grandezza) {
+    // Hundredths, nearly all that is written, have the digits of a whole number, which is quicker: of the
+    // decimals of at most 15 digits only one is read back as a given double.
+    cifre = Scritto(buffer, static_cast<long long>(centesimi));
+    esponente = static_cast<int>(cifre.size()) - 3;
+  } else {
+    cifre = Scritto(buffer, grandezza, std::chars_format::scientific);  // d.ddde-dd
+    if (cifre.find('e') > static_cast<std::size_t>(quante) + 1)
+      cifre = Scritto(buffer, grandezza, std::chars_format::scientific, quante - 1);
+    const auto e = cifre.find('e');
+    potenza = cifre.substr(e + 1);
+    const std::string_view senzaPiu = potenza.substr(potenza[0] == '+' ? 1 : 0);
+    std::from_chars(senzaPiu.data(), senzaPiu.data() + senzaPiu.size(), esponente);
+    if (e > 1) buffer[1] = buffer[0];  // over the point, next to the other digits
+    cifre = e > 1 ? cifre.substr(1, e - 1) : cifre.substr(0, 1);
+  }
+  if (grandezza > 0) cifre = cifre.substr(0, cifre.find_last_not_of('0') + 1);
+
   if (v < 0) testo += '-';
-  BufferCifre buffer;
-  const auto [cifre, esponente] = Scomponi(std::fabs(v), quante, buffer);
-  // From 1E+15 upwards there are no decimals, and the shorter of both forms is written.
-  const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + (esponente < 100 ? 4 : 5));
+  // From 1E+15 upwards a number has no decimals, and the shorter of both forms is written.
+  const auto conEsponente = static_cast<int>(cifre.size() + (cifre.size() > 1) + 1 + potenza.size());
   if (esponente < -4 || (esponente >= kCifre && conEsponente <= esponente + 1)) {
     testo += cifre[0];
     if (cifre.size() > 1) (testo += separatore) += cifre.substr(1);
-    AccodaEsponente(testo, esponente);
+    (testo += 'E') += potenza;
   } else if (esponente < 0) {
     if (zeroIniziale) testo += '0';
     testo += separatore;
@@ -203,18 +148,16 @@ void AccodaCifre(Testo& testo, double v, int quante, char separatore, bool zeroI
 }  // namespace
 
 void AccodaNumero(Testo& testo, Reale valore, char separatore, bool zeroIniziale) {
-  const double v = valore.Valore();
-  if (!AccodaCentesimi(testo, v, separatore, zeroIniziale))
-    AccodaCifre(testo, v, kCifre, separatore, zeroIniziale);
+  AccodaCifre(testo, valore.Valore(), kCifre, separatore, zeroIniziale);
 }
 
 void AccodaNumeroEntro(Testo& testo, Reale valore, std::size_t spazio) {
   const std::size_t inizio = testo.size();
-  AccodaNumero(testo, valore);
-  for (int quante = kCifre - 1; testo.size() - inizio > spazio && quante > 0; --quante) {
+  int quante = kCifre;
+  do {
     testo.resize(inizio);
     AccodaCifre(testo, valore.Valore(), quante, '.', false);
-  }
+  } while (testo.size() - inizio > spazio && --quante > 0);
 }
 
 Testo FormatoNumero(Reale valore) {
@@ -234,24 +177,20 @@ Reale ConvertiNumero(std::string_view testo) {
 }
 
 std::optional<Reale> InizioNumerico(std::string_view testo) {
-  const auto ignorato = [](char c) { return c == ' ' || c == '\t' || c == '\n'; };
-  Testo pulito;
-  if (std::any_of(testo.begin(), testo.end(), ignorato)) {
-    std::remove_copy_if(testo.begin(), testo.end(), std::back_inserter(pulito), ignorato);
-    testo = pulito;
-  }
-  if (testo.size() >= 2 && testo[0] == '&') {
-    const char prefisso = Maiuscola(testo[1]);
-    if (prefisso == 'H') return InteroConBase(testo.substr(2), 16);
-    if (prefisso == 'O') return InteroConBase(testo.substr(2), 8);
-  }
-  const Scansione s = Scandisci(testo, "eEdD");
+  Testo pulito(testo);
+  std::erase_if(pulito, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
+  const char base = pulito.size() >= 2 && pulito[0] == '&' ? Maiuscola(pulito[1]) : ' ';
+  if (base == 'H') return InteroConBase(pulito.substr(2), 16);
+  if (base == 'O') return InteroConBase(pulito.substr(2), 8);
+  std::replace_if(
+      pulito.begin(), pulito.end(), [](char c) { return c == 'd' || c == 'D'; }, 'e');
+  const Scansione s = Scandisci(pulito);
   if (s.lunghezza == 0) return std::nullopt;
   return s.valore;
 }
 
 std::optional<Reale> NumeroInvariante(std::string_view testo) {
-  const Scansione s = Scandisci(testo, "eE");
+  const Scansione s = Scandisci(testo);
   if (s.lunghezza == 0 || s.lunghezza != testo.size() || s.oltre) return std::nullopt;
   return s.valore;
 }

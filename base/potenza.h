@@ -5,10 +5,10 @@
 
 namespace tarvel {
 
-/// The same as Potenza for any exponent > 0 and any x that is neither 0 nor infinite, in whole numbers.
+/// The same as Potenza, calculated in whole numbers, for an exponent > 0 and an x that is finite and not 0.
 double PotenzaInteri(double x, int esponente);
 
-/// The double nearest to x to a whole exponent, of two the even one, down to the smallest number; for a
+/// The double nearest to the power, the even one of two that are as near; subnormal numbers too. For a
 /// negative exponent the reciprocal of that.
 constexpr double Potenza(double x, int esponente) {
   if (esponente < 0) return 1 / Potenza(x, -esponente);
@@ -19,9 +19,8 @@ constexpr double Potenza(double x, int esponente) {
     const Doppia q = ProdottoEsatto(p.valore, x);
     p = {q.valore, q.resto + p.resto * x};
   }
-  // What resto lacks is less than (esponente - 1)^2 2^-106 of the power. Where that could change the
-  // rounding, or digits may have been lost below the smallest number or beyond the largest, whole numbers
-  // decide.
+  // The error of resto is less than (esponente - 1)^2 2^-106 of the power. PotenzaInteri decides where that
+  // error could change the rounding, and where digits may have been lost near the ends of a double's range.
   const double scarto = p.valore * (0x1p-105 * esponente * esponente);
   const double esito = p.valore + (p.resto - scarto);
   if (esito == p.valore + (p.resto + scarto) && (esito > 0x1p-900 || esito < -0x1p-900)) return esito;

@@ -10,6 +10,9 @@
 
 namespace tarvel {
 
+/// Absolute, everywhere: a magnitude not greater than this counts as zero.
+inline constexpr double kTolleranza = 0.0001;
+
 [[noreturn]] void ErroreOverflow();
 [[noreturn]] void ErroreNonValida(const char* operazione);
 [[noreturn]] void ErroreDivisione(bool zeroSuZero);
@@ -31,7 +34,6 @@ class Reale {
     return Esito(a.valore_ / b.valore_);
   }
   constexpr Reale& operator+=(Reale b) { return *this = *this + b; }
-  constexpr Reale& operator-=(Reale b) { return *this = *this - b; }
 
   friend constexpr bool operator==(Reale, Reale) = default;
   friend constexpr auto operator<=>(Reale, Reale) = default;

@@ -8,7 +8,7 @@
 
 namespace tarvel {
 
-/// `tabella`: whose elements it holds, "delle sezioni".
+/// `tabella`: what its elements are, with the article: "delle sezioni".
 [[noreturn]] void ErroreIndice(const char* tabella, long long indice, int primo, int ultimo);
 
 template <std::size_t N>
@@ -21,9 +21,6 @@ struct NomeTabella {
 template <NomeTabella Nome, class T, int Primo, int Ultimo>
 class Tabella {
  public:
-  static constexpr int kPrimo = Primo;
-  static constexpr int kUltimo = Ultimo;
-
   constexpr T& operator[](long long i) { return dati_[Posto(i)]; }
   constexpr const T& operator[](long long i) const { return dati_[Posto(i)]; }
   constexpr auto begin() { return dati_.begin(); }
@@ -40,22 +37,15 @@ class Tabella {
   std::array<T, static_cast<std::size_t>(Ultimo - Primo + 1)> dati_{};
 };
 
-/// Two indices from 1, the first running fastest in storage.
+/// A table with two indices from 1.
 template <NomeTabella Nome, class T, int Prime, int Seconde>
 class Griglia {
  public:
-  constexpr T& operator()(long long i, long long j) { return dati_[Posto(i, j)]; }
-  constexpr const T& operator()(long long i, long long j) const { return dati_[Posto(i, j)]; }
+  constexpr T& operator()(long long i, long long j) { return righe_[i][j]; }
+  constexpr const T& operator()(long long i, long long j) const { return righe_[i][j]; }
 
  private:
-  static constexpr std::size_t Posto(long long i, long long j) {
-    if (i < 1 || i > Prime) [[unlikely]]
-      ErroreIndice(Nome.testo, i, 1, Prime);
-    if (j < 1 || j > Seconde) [[unlikely]]
-      ErroreIndice(Nome.testo, j, 1, Seconde);
-    return static_cast<std::size_t>((j - 1) * Prime + (i - 1));
-  }
-  std::array<T, static_cast<std::size_t>(Prime* Seconde)> dati_{};
+  Tabella<Nome, Tabella<Nome, T, 1, Seconde>, 1, Prime> righe_;
 };
 
 }  // namespace tarvel

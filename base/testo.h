@@ -15,7 +15,7 @@ Testo DaUtf8(std::string_view utf8);
 /// The UTF-8 text of an 8-bit one; the five codes without a character become U+FFFD.
 std::string InUtf8(std::string_view testo);
 
-/// Whether it can be UTF-8: no malformed byte.
+/// Whether the text can be UTF-8: it has no malformed byte.
 bool Utf8Valido(std::string_view testo);
 
 /// Literals with accented letters: "già"_t.
@@ -28,8 +28,8 @@ char Maiuscola(char c);
 Testo Minuscole(std::string_view testo);
 Testo Maiuscole(std::string_view testo);
 
-/// The first word of a line; the line keeps the rest, from the separator (blank or tab) on. A line
-/// without words has the empty one, and stays.
+/// Takes the first word off a line, which keeps the rest from the separator (blank or tab) on. The word of a
+/// line without words is empty, and the line stays as it is.
 std::string_view PrimaParola(std::string_view& riga);
 
 /// The text without the blanks (code 32 only) at both ends.

@@ -21,8 +21,7 @@ class TestoFisso {
     for (const std::string_view parte : parti) n += parte.copy(caratteri_.data() + n, N - n);
     return *this;
   }
-  std::string_view Intero() const { return {caratteri_.data(), N}; }
-  std::string_view Rifilato() const { return SenzaBlanchi(Intero()); }
+  std::string_view Rifilato() const { return SenzaBlanchi({caratteri_.data(), N}); }
 
  private:
   std::array<char, N> caratteri_;

@@ -1,4 +1,4 @@
-// Logarithm and trigonometry by their series, once the argument has been made small.
+// Each function makes its argument small, then sums a series.
 #include "base/trascendenti.h"
 
 #include <array>
@@ -9,12 +9,12 @@
 namespace tarvel {
 namespace {
 
-// Their digits beyond a double's, from the expansions of ln 2 and pi / 2.
+// ln 2 and pi / 2, with the digits that follow those of a double.
 constexpr Doppia kLog2{0x1.62e42fefa39efp-1, 0x1.abc9e3b39803fp-56};
 constexpr Doppia kMezzoPi{0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
 constexpr double kRestoMezzoPi = -0x1.f1976b7ed8fbcp-110;
 
-// Below it sine and arctangent are their argument, to the last bit.
+// Sine and arctangent of a smaller number are that number, to the last bit.
 constexpr double kMinimo = 1e-9;
 
 // 1, 1/3, 1/5, ...
@@ -32,8 +32,8 @@ constexpr auto kReciprociFattoriali = [] {
   return esito;
 }();
 
-// c[primo] + c[primo + passo] x + c[primo + 2 passo] x^2 + ...: from c[semplici] on a double's digits do, as
-// what follows is that much smaller than the whole.
+// c[primo] + c[primo + passo] x + c[primo + 2 passo] x^2 + ... The terms from c[semplici] on are summed in
+// plain doubles: they are so small beside the whole that their further digits do not count.
 template <std::size_t quanti>
 Doppia Serie(const std::array<Doppia, quanti>& c, std::size_t primo, std::size_t passo, std::size_t semplici,
              Doppia x) {
@@ -45,8 +45,8 @@ Doppia Serie(const std::array<Doppia, quanti>& c, std::size_t primo, std::size_t
   return somma;
 }
 
-// t + t^3 / 3 + t^5 / 5 + ..., the inverse hyperbolic tangent, or with signs in turn the arctangent;
-// |t| < 0.2, where 25 terms reach 2^-110.
+// t + t^3 / 3 + t^5 / 5 + ...: the inverse hyperbolic tangent, or the arctangent where `segno` is -1 and the
+// signs alternate. For |t| < 0.2, where 25 terms reach 2^-110.
 Doppia SerieDispari(Doppia t, double segno) {
   return t * Serie(kReciprociDispari, 0, 1, 13, Doppia{segno} * (t * t));
 }
@@ -57,10 +57,10 @@ Doppia SerieCircolare(Doppia r, std::size_t primo) {
   return primo == 1 ? r * somma : somma;
 }
 
-// The sine of the angle and so many quarter turns.
+// The sine of the angle plus `quarti` quarter turns.
 double SenoOltre(double radianti, int quarti) {
   Doppia r{radianti};
-  // Once is enough but for angles whose quarters no double counts.
+  // One round is enough, unless the angle has more quarter turns than a double can count.
   for (double n; (n = std::nearbyint(r.valore / kMezzoPi.valore)) != 0;) {
     r = r + -ProdottoEsatto(n, kMezzoPi.valore);
     r = r + -ProdottoEsatto(n, kMezzoPi.resto);
@@ -99,7 +99,7 @@ double Arcotangente(double x) {
   if (grandezza < kMinimo) return x;
   const bool oltre = grandezza > 1;
   Doppia t = oltre ? Doppia{1} / Doppia{grandezza} : Doppia{grandezza};
-  // tan(a / 2) = t / (1 + sqrt(1 + t^2)), twice.
+  // The angle is halved twice: tan(a / 2) = t / (1 + sqrt(1 + t^2)).
   for (int volta = 0; volta < 2; ++volta) t = t / (Doppia{1} + Radice(Doppia{1} + t * t));
   const Doppia angolo = Doppia{4} * SerieDispari(t, -1);
   return std::copysign((oltre ? kMezzoPi + -angolo : angolo).Arrotondata(), x);

@@ -5,25 +5,14 @@
 #include <filesystem>
 
 #include "model/archivio/file_sezioni.h"
-#include "model/geometria.h"
-#include "model/tabella_sezioni.h"
 #include "properties/calcolo/caratteristiche.h"
+#include "tests/aiuti.h"
 
 namespace tarvel {
 namespace {
 
-void Prepara() {
-  int i = 0;
-  for (const double p : {200., 25.,  20., 35., 45.,   50., 30., 25.,  20.,  250., 50.,
-                         60.,  150., 50., 40., 1200., 2.5, 2.5, -2.5, -2.5, 20.})
-    ParametriSezione[i++] = p;
-  VerticiPoligono[1] = 13;
-  VerticiPoligono[2] = 11;
-}
-
 void CostruzioneContorno(benchmark::State& stato) {
-  Prepara();
-  static RecordSezione r;
+  RecordSezione r = prove::Costruita(prove::Esempio());
   for (auto _ : stato) {
     CostruisciGeometria(r, ParametriSezione);
     benchmark::DoNotOptimize(r);
@@ -32,9 +21,7 @@ void CostruzioneContorno(benchmark::State& stato) {
 BENCHMARK(CostruzioneContorno);
 
 void CalcoloCompleto(benchmark::State& stato) {
-  Prepara();
-  static RecordSezione r;
-  CostruisciGeometria(r, ParametriSezione);
+  RecordSezione r = prove::Costruita(prove::Esempio());
   for (auto _ : stato) {
     CalcolaCaratteristiche(r);
     benchmark::DoNotOptimize(r);
@@ -45,7 +32,7 @@ BENCHMARK(CalcoloCompleto);
 class FileDiCinquecento : public benchmark::Fixture {
  public:
   void SetUp(const benchmark::State&) override {
-    Prepara();
+    prove::Prepara(prove::Esempio());
     FileSezioni =
         (std::filesystem::temp_directory_path() / ("tarvel_bench_" + std::to_string(getpid()))).string();
     NumeroSezioni = kMaxSezioni;
@@ -66,7 +53,7 @@ BENCHMARK_F(FileDiCinquecento, Scrittura)(benchmark::State& stato) {
     if (!ScriviFileSezioni().scritte) stato.SkipWithError("non scritto");
 }
 BENCHMARK_F(FileDiCinquecento, Lettura)(benchmark::State& stato) {
-  for (auto _ : stato) LeggiFileSezioni(false);
+  for (auto _ : stato) static_cast<void>(LeggiFileSezioni());
 }
 
 }  // namespace

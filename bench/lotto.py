@@ -59,6 +59,6 @@ with tempfile.TemporaryDirectory(prefix="BenchLotto_") as base:
             for k in range(20):  # or saving would ask whether to replace
                 os.remove(os.path.join(base, f"inst{k}", "Lavori", "PR0001", "sezio_ut"))
 
-    for opzioni in ([], ["--punti"], ["--processi", "1"]):
+    for opzioni in ([], ["--punti"]):
         print("filter", *opzioni, migliore(lambda: lotto(*opzioni)))
     desktop()

@@ -1,4 +1,4 @@
-// The colours of a drawing, for who draws it and for who shows it. An element holds the index.
+// The colours of a drawing, for the program and for the viewer. An element holds an index.
 #pragma once
 
 #include <array>
@@ -35,7 +35,7 @@ inline constexpr std::array<Colore, kArancio + 1> kColori = {{
     {255, 163, 70},   // kArancio
 }};
 
-/// The place in kColori of what an element holds: any number beyond the table is white.
+/// The index in kColori of the number that an element holds: a number beyond the table is white.
 constexpr std::size_t IndiceColore(int colore) {
   const bool noto = colore >= 0 && colore < static_cast<int>(kColori.size());
   return static_cast<std::size_t>(noto ? colore : kBianco);

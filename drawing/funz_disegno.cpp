@@ -1,25 +1,22 @@
-// The primitives and the one way to take a place in a table.
+// The drawing primitives.
 #include "drawing/funz_disegno.h"
 
 #include <algorithm>
 #include <numbers>
 
-#include "platform/desktop.h"
-
 namespace tarvel::disegno {
 namespace {
 
+// The blanks at both ends are wanted: the texts are fixed.
 constexpr char kTroppeCoordinate[] = " Numero eccessivo di coordinate ";
 constexpr char kTroppiElementi[] = " Numero eccessivo di elementi di disegno ";
 constexpr char kTroppiTesti[] = " Numero eccessivo di testi ";
 
-// Takes the next place of a table; false when there is none. The last one is taken with a warning.
+// Takes the next place of a table, null when there is none. Taking the last one leaves a warning.
 template <class Elenco>
-bool PrendiPosto(Elenco& elenco, const char* avviso) {
-  if (elenco.numero == elenco.kCapienza - 1) MostraMessaggio(avviso, "Problema", Icona::Esclamazione);
-  if (elenco.numero >= elenco.kCapienza) return false;
-  ++elenco.numero;
-  return true;
+auto* PrendiPosto(Elenco& elenco, const char* avviso) {
+  if (elenco.numero == elenco.kCapienza - 1) Disegno.avvisi.push_back(avviso);
+  return elenco.numero < elenco.kCapienza ? &elenco[elenco.numero++] : nullptr;
 }
 
 Intero16 ColoreScelto(std::optional<Intero16> colore, const Superficie* superficie) {
@@ -34,22 +31,21 @@ Coordinata ConOrigine(Coordinata p) {
   return {p.x + OrigineX, p.y + OrigineY};
 }
 
-void RegistraTesto(const tarvel::Testo& stringa, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+void RegistraTesto(const Testo& stringa, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
                    Intero16 colore) {
-  auto& testi = Disegno.Testi;
-  if (!PrendiPosto(testi, kTroppiTesti)) return;
-  ElementoTesto& testo = testi[testi.numero - 1];
-  testo.posizione = AggiungiCoordinata(ConOrigine(posto));
-  testo.base10 = InteroPari(base * 10);
-  testo.altezza10 = InteroPari(altezza * 10);
-  testo.angolo = angolo;
-  testo.colore = NeroInBianco(colore);
-  testo.stringa = stringa;
-  if (testo.posizione < 0) --testi.numero;
+  ElementoTesto* const testo = PrendiPosto(Disegno.Testi, kTroppiTesti);
+  if (testo == nullptr) return;
+  *testo = {.posizione = AggiungiCoordinata(ConOrigine(posto)),
+            .angolo = angolo,
+            .base10 = InteroPari(base * 10),
+            .altezza10 = InteroPari(altezza * 10),
+            .colore = NeroInBianco(colore),
+            .stringa = stringa};
+  if (testo->posizione < 0) --Disegno.Testi.numero;
 }
 
-void TracciaCaratteri(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base,
-                      Reale altezza, Intero16 colore, const Superficie* superficie) {
+void TracciaCaratteri(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+                      Intero16 colore, const Superficie* superficie) {
   const Reale a = Reale(angolo) * std::numbers::pi / 180;
   const Reale coseno = Coseno(a), seno = Seno(a);
   const Reale scalaX = (1 - Reale(SpaziaturaCaratteri) / 100) * base / 99;
@@ -72,25 +68,25 @@ void TracciaCaratteri(const tarvel::Testo& testo, Coordinata posto, Intero16 ang
 Intero16 AggiungiCoordinata(Coordinata p) {
   auto& coordinate = Disegno.Coordinate;
   const Intero16 ultima = coordinate.numero - 1;
-  // Not farther back, so that adding stays cheap; the file may hold a point twice.
+  // No farther back, so that adding stays cheap. That the file may hold a point twice is wanted.
   const int piuLontana = std::max(coordinate.numero - 31, 0);
   for (int i = ultima; i >= piuLontana; --i)
     if (Coincidono(p, coordinate[i])) return i;
-  if (!PrendiPosto(coordinate, kTroppeCoordinate)) return -1;
-  coordinate[coordinate.numero - 1] = p;
+  Coordinata* const nuova = PrendiPosto(coordinate, kTroppeCoordinate);
+  if (nuova == nullptr) return -1;
+  *nuova = p;
   return coordinate.numero - 1;
 }
 
 void AggiungiLinea(Coordinata da, Coordinata a, Intero16 colore) {
-  auto& linee = Disegno.Linee;
-  if (!PrendiPosto(linee, kTroppiElementi)) return;
-  ElementoLinea& linea = linee[linee.numero - 1];
-  linea.primo = AggiungiCoordinata(da);
-  linea.secondo = AggiungiCoordinata(a);
-  linea.tipo = TipoLineaCorrente;
-  linea.colore = colore;
-  // A line that lacks only its first point stays: who reads the file knows of -1 there.
-  if (linea.secondo < 0) --linee.numero;
+  ElementoLinea* const linea = PrendiPosto(Disegno.Linee, kTroppiElementi);
+  if (linea == nullptr) return;
+  *linea = {.primo = AggiungiCoordinata(da),
+            .secondo = AggiungiCoordinata(a),
+            .colore = colore,
+            .tipo = TipoLineaCorrente};
+  // A line that lacks only its first point stays, with -1 there. That is wanted.
+  if (linea->secondo < 0) --Disegno.Linee.numero;
 }
 
 void Linea(Coordinata da, Coordinata a, std::optional<Intero16> colore, const Superficie* superficie) {
@@ -114,24 +110,22 @@ void Cerchio(Coordinata centro, Reale diametro, std::optional<Intero16> colore,
     superficie->arco(centro, r, inizio, fine, ColoreRGB(scelto));
     return;
   }
-  auto& archi = Disegno.Archi;
-  if (!PrendiPosto(archi, kTroppiElementi)) return;
-  ElementoArco& arco = archi[archi.numero - 1];
+  ElementoArco* const arco = PrendiPosto(Disegno.Archi, kTroppiElementi);
+  if (arco == nullptr) return;
   const Coordinata c = ConOrigine(centro);
   const auto a = [&](Reale angolo) -> Coordinata {
     return {c.x + r * Coseno(angolo), c.y + r * Seno(angolo)};
   };
-  arco.centro = AggiungiCoordinata(c);
-  arco.inizio = AggiungiCoordinata(a(inizio));
-  arco.secondoCentro = arco.centro;
-  arco.fine = AggiungiCoordinata(a(fine));
-  arco.genere = 0;
-  arco.colore = NeroInBianco(scelto);
-  if (arco.inizio < 0) --archi.numero;
+  arco->centro = arco->secondoCentro = AggiungiCoordinata(c);
+  arco->inizio = AggiungiCoordinata(a(inizio));
+  arco->fine = AggiungiCoordinata(a(fine));
+  arco->genere = 0;
+  arco->colore = NeroInBianco(scelto);
+  if (arco->inizio < 0) --Disegno.Archi.numero;
 }
 
-void Testo(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
-           Intero16 colore, const Superficie* superficie) {
+void ScriviTesto(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+                 Intero16 colore, const Superficie* superficie) {
   if (base == 0 || altezza == 0) return;
   if (FlagDisegno)
     RegistraTesto(testo, posto, angolo, base, altezza, colore);

@@ -2,8 +2,8 @@
 // caller hands it a surface, draws onto that one.
 //
 // Coordinates are in drawing units. What is too small to be seen (a segment within the tolerance,
-// a circle of no diameter, a text without size) is passed over. A table announces its last place by
-// one message; after it further elements are dropped in silence.
+// a circle of no diameter, a text without size) is passed over. An element that takes the last place of
+// its table leaves a warning in Disegno; after it further elements are dropped in silence.
 #pragma once
 
 #include <functional>
@@ -14,9 +14,8 @@
 
 namespace tarvel::disegno {
 
-/// Where primitives may draw instead of recording: the place for a picture on a form or a printer,
-/// which this program does not have. Angles are radians, counter-clockwise; equal angles are a full
-/// circle.
+/// Primitives may draw on a surface, a form's picture or a printer, instead of recording; this program has
+/// none. Angles are radians, counter-clockwise; equal angles are a full circle.
 struct Superficie {
   std::function<void(Coordinata da, Coordinata a, Colore colore)> segmento;
   std::function<void(Coordinata centro, Reale raggio, Reale angoloIniziale, Reale angoloFinale,
@@ -24,9 +23,8 @@ struct Superficie {
       arco;
 };
 
-/// The index of a coordinate that coincides with p among the last 31 stored; else p is appended. -1
-/// when the table is full. Positions are 16-bit: a drawing of more than 32768 coordinates is a fatal
-/// overflow.
+/// The index of a coordinate that coincides with p among the last 31 stored, or that of p, appended; -1 when
+/// the table is full. Indices are 16-bit: more than 32768 coordinates are a fatal overflow.
 Intero16 AggiungiCoordinata(Coordinata p);
 
 /// Records a line of the current type; the points are taken as they are, without the origin shift.
@@ -43,9 +41,9 @@ void Cerchio(Coordinata centro, Reale diametro, std::optional<Intero16> colore =
              const Superficie* superficie = nullptr);
 
 /// A text that begins at `posto`, at whole degrees; `base` is the width of one character cell,
-/// `altezza` the height of the characters. A text recorded in black takes white, its sizes are kept in
-/// tenths; a size that does not fit 16 bits so is a fatal overflow.
-void Testo(const tarvel::Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
-           Intero16 colore, const Superficie* superficie = nullptr);
+/// `altezza` the height of the characters. A black text is recorded as white, its sizes as 16-bit tenths: a
+/// size that does not fit is a fatal overflow.
+void ScriviTesto(const Testo& testo, Coordinata posto, Intero16 angolo, Reale base, Reale altezza,
+                 Intero16 colore, const Superficie* superficie = nullptr);
 
 }  // namespace tarvel::disegno

@@ -1,5 +1,4 @@
-// Five phases, each of which compares whatever it has to compare: a section's drawing has some two
-// hundred elements, and nothing draws larger ones.
+// Five phases, quadratic in the number of elements: a section's drawing has some two hundred.
 #include "drawing/ottimizza.h"
 
 #include <algorithm>
@@ -10,36 +9,42 @@ namespace {
 
 template <class Elenco>
 void Rimuovi(Elenco& elenco, std::int32_t i) {
-  const auto posto = elenco.voci.begin() + i;
-  std::move(posto + 1, elenco.voci.begin() + elenco.numero, posto);
+  const auto posto = elenco.begin() + i;
+  std::move(posto + 1, elenco.end(), posto);
   --elenco.numero;
 }
 
-// --- References to coordinates
+// Each entry is judged among those that are still there.
+template <class Elenco>
+void RimuoviSe(Elenco& elenco, bool (*superflua)(std::int32_t i)) {
+  for (std::int32_t i = 0; i < elenco.numero;)
+    if (superflua(i))
+      Rimuovi(elenco, i);
+    else
+      ++i;
+}
 
-// Those that follow a coordinate when it is united with an earlier one.
+// The references that follow a coordinate when it is united with an earlier one.
 template <class Lavoro>
 void PerOgniRiferimentoDaUnire(Lavoro lavoro) {
-  for (std::int32_t i = 0; i < Disegno.Linee.numero; ++i) {
-    lavoro(Disegno.Linee[i].primo);
-    lavoro(Disegno.Linee[i].secondo);
+  for (ElementoLinea& linea : Disegno.Linee) {
+    lavoro(linea.primo);
+    lavoro(linea.secondo);
   }
-  for (std::int32_t i = 0; i < Disegno.Testi.numero; ++i) lavoro(Disegno.Testi[i].posizione);
-  for (std::int32_t i = 0; i < Disegno.Archi.numero; ++i) {
-    lavoro(Disegno.Archi[i].centro);
-    lavoro(Disegno.Archi[i].inizio);
-    lavoro(Disegno.Archi[i].secondoCentro);
+  for (ElementoTesto& testo : Disegno.Testi) lavoro(testo.posizione);
+  for (ElementoArco& arco : Disegno.Archi) {
+    lavoro(arco.centro);
+    lavoro(arco.inizio);
+    lavoro(arco.secondoCentro);
   }
 }
 
 template <class Lavoro>
 void PerOgniRiferimento(Lavoro lavoro) {
   PerOgniRiferimentoDaUnire(lavoro);
-  for (std::int32_t i = 0; i < Disegno.Archi.numero; ++i) lavoro(Disegno.Archi[i].fine);
-  for (std::int32_t i = 0; i < Disegno.Punti.numero; ++i) lavoro(Disegno.Punti[i].coordinata);
+  for (ElementoArco& arco : Disegno.Archi) lavoro(arco.fine);
+  for (ElementoPunto& punto : Disegno.Punti) lavoro(punto.coordinata);
 }
-
-// --- The phases
 
 bool SullaLinea(std::int32_t punto, const ElementoLinea& linea) {
   const auto& c = Disegno.Coordinate;
@@ -56,38 +61,21 @@ bool LineaSuperflua(std::int32_t i) {
   return false;
 }
 
-void TogliLinee() {
-  for (std::int32_t i = 0; i < Disegno.Linee.numero;)
-    if (LineaSuperflua(i))
-      RimuoviLinea(i);
-    else
-      ++i;
-}
-
-bool Uguali(const ElementoArco& a, const ElementoArco& b) {
-  const auto campi = [](const ElementoArco& arco) {
-    return std::tie(arco.inizio, arco.centro, arco.secondoCentro, arco.fine, arco.genere, arco.colore);
-  };
-  return campi(a) == campi(b);
-}
-
-void TogliArchi() {
+// Of equal arcs the first one stays.
+bool ArcoRipetuto(std::int32_t i) {
   const auto& archi = Disegno.Archi;
-  for (std::int32_t i = 0; i < archi.numero; ++i)
-    for (std::int32_t j = i + 1; j < archi.numero;)
-      if (Uguali(archi[i], archi[j]))
-        RimuoviArco(j);
-      else
-        ++j;
+  const auto campi = [&](std::int32_t k) {
+    const ElementoArco& a = archi[k];
+    return std::tie(a.inizio, a.centro, a.secondoCentro, a.fine, a.genere, a.colore);
+  };
+  for (std::int32_t j = 0; j < i; ++j)
+    if (campi(j) == campi(i)) return true;
+  return false;
 }
 
-void TogliTesti() {
-  const auto& testi = Disegno.Testi;
-  for (std::int32_t i = 0; i < testi.numero;)
-    if (testi[i].base10 < kTolleranza || testi[i].altezza10 < kTolleranza)
-      RimuoviTesto(i);
-    else
-      ++i;
+bool TestoInvisibile(std::int32_t i) {
+  const ElementoTesto& testo = Disegno.Testi[i];
+  return testo.base10 <= 0 || testo.altezza10 <= 0;
 }
 
 void UnisciCoordinate() {
@@ -100,7 +88,15 @@ void UnisciCoordinate() {
         });
 }
 
-void TogliCoordinate() {
+// References to later coordinates follow them.
+void RimuoviCoordinata(std::int32_t k) {
+  PerOgniRiferimento([k](std::int32_t& riferimento) {
+    if (riferimento > k) --riferimento;
+  });
+  Rimuovi(Disegno.Coordinate, k);
+}
+
+void RimuoviCoordinateLibere() {
   for (std::int32_t k = 0; k < Disegno.Coordinate.numero;) {
     bool citata = false;
     PerOgniRiferimento([&](std::int32_t riferimento) { citata = citata || riferimento == k; });
@@ -114,39 +110,15 @@ void TogliCoordinate() {
 }  // namespace
 
 void OttimizzaDisegno() {
-  TogliLinee();
-  TogliArchi();
-  TogliTesti();
+  RimuoviSe(Disegno.Linee, LineaSuperflua);
+  RimuoviSe(Disegno.Archi, ArcoRipetuto);
+  RimuoviSe(Disegno.Testi, TestoInvisibile);
   UnisciCoordinate();
-  TogliCoordinate();
-}
-
-Reale Distanza(Coordinata a, Coordinata b) {
-  const Reale dx = a.x - b.x, dy = a.y - b.y;
-  return Radice(dx * dx + dy * dy);
+  RimuoviCoordinateLibere();
 }
 
 bool PuntoSuSegmento(Coordinata a, Coordinata b, Coordinata c) {
-  return Distanza(a, b) + Distanza(a, c) - Distanza(b, c) < kTolleranza;
-}
-
-void RimuoviLinea(std::int32_t i) {
-  Rimuovi(Disegno.Linee, i);
-}
-
-void RimuoviArco(std::int32_t i) {
-  Rimuovi(Disegno.Archi, i);
-}
-
-void RimuoviTesto(std::int32_t i) {
-  Rimuovi(Disegno.Testi, i);
-}
-
-void RimuoviCoordinata(std::int32_t k) {
-  PerOgniRiferimento([k](std::int32_t& riferimento) {
-    if (riferimento > k) --riferimento;
-  });
-  Rimuovi(Disegno.Coordinate, k);
+  return Lunghezza(a, b) + Lunghezza(a, c) - Lunghezza(b, c) < kTolleranza;
 }
 
 }  // namespace tarvel::disegno

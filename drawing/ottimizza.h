@@ -1,8 +1,6 @@
 // Compaction of the drawing: what adds nothing to the picture is dropped before the file is written.
 #pragma once
 
-#include <cstdint>
-
 #include "drawing/disegno.h"
 
 namespace tarvel::disegno {
@@ -13,17 +11,7 @@ namespace tarvel::disegno {
 /// keeps its order. A line without its first point, index -1, is fatal once it is compared.
 void OttimizzaDisegno();
 
-Reale Distanza(Coordinata a, Coordinata b);
-
 /// Whether A lies on segment BC: the detour over A is shorter than the tolerance.
 bool PuntoSuSegmento(Coordinata a, Coordinata b, Coordinata c);
-
-// --- The later entries of the table move down by one.
-
-void RimuoviLinea(std::int32_t i);
-void RimuoviArco(std::int32_t i);
-void RimuoviTesto(std::int32_t i);
-/// References to later coordinates follow them.
-void RimuoviCoordinata(std::int32_t k);
 
 }  // namespace tarvel::disegno

@@ -11,9 +11,6 @@
 
 namespace tarvel::disegno {
 
-bool AlternaTestiQuote = false;
-bool LatoTestoAlternato = false;
-
 namespace {
 
 // A dimension in its drawing direction.
@@ -25,8 +22,7 @@ struct Tratto {
 Tratto Orientato(Coordinata p1, Coordinata p2) {
   const bool indietro = Assoluto(p1.x - p2.x) >= kTolleranza ? p1.x > p2.x : p1.y > p2.y;
   if (indietro) std::swap(p1, p2);
-  const Reale dx = p2.x - p1.x, dy = p2.y - p1.y;
-  return {p1, p2, dx, dy, Radice(dx * dx + dy * dy)};
+  return {p1, p2, p2.x - p1.x, p2.y - p1.y, Lunghezza(p1, p2)};
 }
 
 void TracciaLinee(const Tratto& q, const StileQuota& stile) {
@@ -41,7 +37,7 @@ void TracciaLinee(const Tratto& q, const StileQuota& stile) {
     Linea({p.x - aSinistra * ey, p.y + aSinistra * ex}, {p.x + aDestra * ey, p.y - aDestra * ex}, colore);
 }
 
-// All of a dimension but its label; nothing between coinciding points.
+// Draws a dimension without its label. Nothing is drawn between coinciding points.
 std::optional<Tratto> TracciaQuota(Coordinata p1, Coordinata p2, const StileQuota& stile) {
   if (Coincidono(p1, p2)) return std::nullopt;
   const Tratto q = Orientato(p1, p2);
@@ -54,14 +50,15 @@ Intero16 AngoloTesto(const Tratto& q) {
   return InteroPari(Arcotangente(q.dy / q.dx) * 180 / 3.141592654);
 }
 
-tarvel::Testo Misura(Reale valore) {
+Testo Misura(Reale valore) {
   const Reale potenza = Potenza(Reale(10), std::max<int>(DecimaliQuote, 0));
-  tarvel::Testo testo;
+  Testo testo;
   AccodaNumero(testo, Arrotondato(valore * potenza) / potenza, SeparatoreDecimale(), true);
   return testo;
 }
 
-// How far the label lies to the left of the line; keeps the alternation of a chain.
+// How far the label lies to the left of the line. `sta`: it fits the dimension. In a chain the sides
+// alternate.
 Reale DistanzaEtichetta(bool sta, const StileQuota& stile) {
   if (sta) {
     LatoTestoAlternato = false;
@@ -72,25 +69,25 @@ Reale DistanzaEtichetta(bool sta, const StileQuota& stile) {
   return stile.distanzaTesto;
 }
 
-void ScriviEtichetta(const tarvel::Testo& etichetta, const Tratto& q, const StileQuota& stile) {
+void TracciaEtichetta(const Testo& etichetta, const Tratto& q, const StileQuota& stile) {
   const Intero16 angolo = AngoloTesto(q);
   const Reale l = q.lunghezza;
   const Reale larghezza = Reale(static_cast<double>(etichetta.size())) * stile.base;
   const Reale distanza = DistanzaEtichetta(larghezza <= l, stile);
   const Reale x = (q.p1.x + q.p2.x) / 2 - larghezza / 2 * q.dx / l - distanza * q.dy / l;
   const Reale y = (q.p1.y + q.p2.y) / 2 - larghezza / 2 * q.dy / l + distanza * q.dx / l;
-  Testo(etichetta, {x, y}, angolo, stile.base, stile.altezza, stile.coloreTesto);
+  ScriviTesto(etichetta, {x, y}, angolo, stile.base, stile.altezza, stile.coloreTesto);
 }
 
 }  // namespace
 
 void Quota(Coordinata p1, Coordinata p2, const StileQuota& stile) {
   if (const auto q = TracciaQuota(p1, p2, stile))
-    ScriviEtichetta(Misura(Assoluto(stile.scala) * q->lunghezza), *q, stile);
+    TracciaEtichetta(Misura(Assoluto(stile.scala) * q->lunghezza), *q, stile);
 }
 
-void Quota(const tarvel::Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile) {
-  if (const auto q = TracciaQuota(p1, p2, stile)) ScriviEtichetta(testo, *q, stile);
+void Quota(const Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile) {
+  if (const auto q = TracciaQuota(p1, p2, stile)) TracciaEtichetta(testo, *q, stile);
 }
 
 void CatenaQuote(EtichetteCatena etichette, std::span<const Reale> ascisse, Reale y,

@@ -7,12 +7,12 @@
 
 namespace tarvel::disegno {
 
-/// In place of a dimension line's colour, which may be an option of the user: the label alone is drawn.
+/// A dimension line of this colour, which the user may choose too, is not drawn: only its label is.
 inline constexpr int kSolaEtichetta = -1;
 
 enum class Lato { Sinistra, Destra };
 
-/// What the dimension lines of one drawing have in common. Lengths in drawing units.
+/// How a dimension is drawn. Lengths in drawing units.
 struct StileQuota {
   Intero16 coloreLinea;  // or kSolaEtichetta
   Intero16 coloreTesto;
@@ -24,18 +24,18 @@ struct StileQuota {
   Lato lato;            // on which the witness lines reach twice as far
 };
 
-/// On while a chain is drawn: a label wider than its dimension goes to the opposite side of the
-/// line, unless the one before it is there.
-extern bool AlternaTestiQuote;
-/// The last label went to the opposite side; a label that fits puts an end to that.
-extern bool LatoTestoAlternato;
+/// True while a chain is drawn: a label wider than its dimension then goes to the opposite side of the line,
+/// unless the label before it did.
+inline bool AlternaTestiQuote = false;
+/// The last label went to the opposite side. A label that fits resets it.
+inline bool LatoTestoAlternato = false;
 
-/// A dimension line between two points, in either order: it always runs to the right, or upwards where
-/// vertical. Its label is the measured length, with DecimaliQuote decimals in the regional format.
-/// Nothing is drawn between coinciding points.
+/// A dimension line between two points, in either order: it runs to the right, or upwards where vertical. Its
+/// label is the measured length, with DecimaliQuote decimals in the regional format. Nothing is drawn between
+/// coinciding points.
 void Quota(Coordinata p1, Coordinata p2, const StileQuota& stile);
 /// The same with a label of its own.
-void Quota(const tarvel::Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile);
+void Quota(const Testo& testo, Coordinata p1, Coordinata p2, const StileQuota& stile);
 
 enum class EtichetteCatena { Misure, Nessuna };
 

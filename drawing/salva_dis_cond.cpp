@@ -1,101 +1,65 @@
-// Writing the drawing file: printed items, one line an entry, sections in a fixed order.
+// The viewer expects printed items, one line an entry, sections in this order.
 #include "drawing/salva_dis_cond.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <utility>
 
 #include "base/numeri.h"
 #include "drawing/disegno.h"
 #include "drawing/ottimizza.h"
-#include "platform/desktop.h"
 #include "platform/regione.h"
 #include "platform/scrittura.h"
 
 namespace tarvel::disegno {
 namespace {
 
-struct Uscita {
-  tarvel::Testo testo = {};
-  char separatore = SeparatoreDecimale();
-};
-
-// One line of printed numbers.
-template <class... Valori>
-void Stampa(Uscita& uscita, Valori... valori) {
-  (AccodaStampato(uscita.testo, Reale(valori), uscita.separatore), ...);
-  AccodaRiga(uscita.testo, "");
-}
-
-// A text always is one line, or the viewer would lose its place.
-void StampaTesto(Uscita& uscita, tarvel::Testo testo) {
-  std::replace_if(
-      testo.begin(), testo.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-  AccodaRiga(uscita.testo, testo);
-}
-
-template <class Elenco, class Voce>
-void ScriviSezione(Uscita& uscita, const Elenco& elenco, Voce voce) {
-  Stampa(uscita, elenco.numero);
-  for (std::int32_t i = 0; i < elenco.numero; ++i) voce(elenco[i]);
-}
-
-void ScriviSezioni(Uscita& uscita) {
-  ScriviSezione(uscita, Disegno.Coordinate, [&](const Coordinata& c) { Stampa(uscita, c.x, c.y, 0); });
+Testo ComponiFile(Intestazione intestazione, const Estremi& estremi) {
+  Testo testo = "                   " + std::to_string(static_cast<int>(intestazione)) + "\r\n";
+  const auto stampa = [&, separatore = SeparatoreDecimale()](auto... valori) {
+    (AccodaStampato(testo, Reale(valori), separatore), ...);
+    AccodaRiga(testo, "");
+  };
+  const auto sezione = [&](const auto& elenco, auto voce) {
+    stampa(elenco.numero);
+    std::for_each(elenco.begin(), elenco.end(), voce);
+  };
+  stampa(estremi.xmin, estremi.xmax);
+  stampa(estremi.ymin, estremi.ymax);
+  AccodaRiga(testo, "-10000.000000        10000.000000");
+  sezione(Disegno.Coordinate, [&](const Coordinata& c) { stampa(c.x, c.y, 0); });
   // The viewer wants the second attribute first.
-  ScriviSezione(uscita, Disegno.Punti,
-                [&](const ElementoPunto& p) { Stampa(uscita, p.coordinata, p.attributoB, p.attributoA); });
-  ScriviSezione(uscita, Disegno.Linee,
-                [&](const ElementoLinea& l) { Stampa(uscita, l.primo, l.secondo, l.colore, l.tipo); });
-  ScriviSezione(uscita, Disegno.Testi, [&](const ElementoTesto& t) {
-    Stampa(uscita, t.posizione, 1, t.angolo);
-    Stampa(uscita, Reale(t.base10) / 10, Reale(t.altezza10) / 10, t.colore);
-    StampaTesto(uscita, t.stringa);
+  sezione(Disegno.Punti, [&](const ElementoPunto& p) { stampa(p.coordinata, p.attributoB, p.attributoA); });
+  sezione(Disegno.Linee, [&](const ElementoLinea& l) { stampa(l.primo, l.secondo, l.colore, l.tipo); });
+  sezione(Disegno.Testi, [&](const ElementoTesto& t) {
+    stampa(t.posizione, 1, t.angolo);
+    stampa(Reale(t.base10) / 10, Reale(t.altezza10) / 10, t.colore);
+    // Each text is one line, or the viewer would lose its place.
+    for (const char c : t.stringa) testo += c == '\r' || c == '\n' ? ' ' : c;
+    AccodaRiga(testo, "");
   });
-  ScriviSezione(uscita, Disegno.Archi, [&](const ElementoArco& a) {
-    Stampa(uscita, a.centro, a.inizio, a.secondoCentro, a.fine);
-    Stampa(uscita, a.colore, a.genere);
+  sezione(Disegno.Archi, [&](const ElementoArco& a) {
+    stampa(a.centro, a.inizio, a.secondoCentro, a.fine);
+    stampa(a.colore, a.genere);
   });
-}
-
-tarvel::Testo ComponiFile(Intestazione intestazione, const Estremi& estremi) {
-  Uscita uscita;
-  AccodaRiga(uscita.testo, "                   " + std::to_string(static_cast<int>(intestazione)));
-  Stampa(uscita, estremi.xmin, estremi.xmax);
-  Stampa(uscita, estremi.ymin, estremi.ymax);
-  AccodaRiga(uscita.testo, "-10000.000000        10000.000000");
-  ScriviSezioni(uscita);
-  return std::move(uscita.testo);
-}
-
-bool ScriviFileDisegno(const tarvel::Testo& nomeFile, ModoAvviso avvisi, Intestazione intestazione,
-                       const Estremi& estremi) {
-  const bool scritto = ScriviFile(nomeFile, ComponiFile(intestazione, estremi)) == EsitoScrittura::Scritto;
-  // No blank before the name: the text is fixed, and found so by whoever looks for it.
-  if (!scritto && avvisi != ModoAvviso::Nessuno)
-    MostraMessaggio("Errore durante la scrittura sul file" + nomeFile, "ERRORE", Icona::Nessuna);
-  return scritto;
+  return testo;
 }
 
 }  // namespace
 
 Estremi EstremiDisegno() {
-  const auto& coordinate = Disegno.Coordinate;
-  Estremi e{coordinate[0].x, coordinate[0].y, coordinate[0].x, coordinate[0].y};
-  for (std::int32_t i = 0; i < coordinate.numero; ++i) {
-    const auto [x, y] = coordinate[i];
+  const auto [x0, y0] = Disegno.Coordinate[0];
+  Estremi e{x0, y0, x0, y0};
+  for (const auto& [x, y] : Disegno.Coordinate)
     e = {std::min(e.xmin, x), std::min(e.ymin, y), std::max(e.xmax, x), std::max(e.ymax, y)};
-  }
   return e;
 }
 
-bool SalvaDisegno(const tarvel::Testo& nomeFile, ModoAvviso avvisi, Intestazione intestazione) {
+std::optional<Guasto> SalvaDisegno(const Testo& nomeFile, Intestazione intestazione) {
   const Estremi estremi = EstremiDisegno();
   OttimizzaDisegno();
-  const bool scritto = ScriviFileDisegno(nomeFile, avvisi, intestazione, estremi);
-  if (scritto && avvisi == ModoAvviso::Tutti)
-    MostraMessaggio("File " + nomeFile + " salvato.", "SALVA FILE DISEGNO", Icona::Informazione);
-  return scritto;
+  const EsitoScrittura esito = ScriviFile(nomeFile, ComponiFile(intestazione, estremi));
+  if (esito) return {};
+  // The blank that lacks before the name is wanted: the text is fixed.
+  return Guasto{TipoErrore::File, "Errore durante la scrittura sul file" + nomeFile, esito.motivo};
 }
 
 }  // namespace tarvel::disegno

@@ -1,4 +1,4 @@
-// The rules of the strictest host hold on every one: an installation may be shared.
+// Every host follows the rules of the strictest one, since an installation may be shared.
 #include "lavoro/nome_disegno.h"
 
 #include <algorithm>
@@ -14,8 +14,6 @@ bool Proibito(char c) {
 }
 
 }  // namespace
-
-Testo NomeFileDisegno = kDisegnoTemporaneo;
 
 Testo DisegnoDellaSezione(const Testo& nomeSezione) {
   Testo nome = nomeSezione.substr(0, kLunghezza);

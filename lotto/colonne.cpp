@@ -12,9 +12,10 @@
 namespace tarvel::lotto {
 namespace {
 
-constexpr char kAmbigua[] = "raccordo inferiore";  // in the guide a height and a base
+constexpr char kAmbigua[] = "raccordo inferiore";  // the guide calls so a height and a base
 
-// Letters and digits alone, small and without accents; a blank for whatever stands between them.
+// A name for comparisons: its letters and digits, small and without accents, and one blank in place of what
+// stands between them.
 Testo Chiave(const Testo& nome) {
   static const Testo kAccentate = "àáâèéêìíîòóôùúû"_t;
   constexpr std::string_view kSemplici = "aaaeeeiiiooouuu";
@@ -28,7 +29,7 @@ Testo Chiave(const Testo& nome) {
   return Testo(SenzaBlanchi(chiave));
 }
 
-// A column's meaning by its key.
+// What the column of this key holds.
 int Significato(const Testo& chiave) {
   if (chiave == "nome") return kNome;
   for (int i = 0; i < kNumParametri; ++i) {
@@ -39,10 +40,8 @@ int Significato(const Testo& chiave) {
   return kAltra;
 }
 
-Testo Elenco(const std::vector<Testo>& nomi) {
-  Testo elenco;
-  for (const Testo& nome : nomi) elenco += (elenco.empty() ? "" : ", ") + nome;
-  return elenco;
+void Elenca(Testo& elenco, const Testo& nome) {
+  elenco += (elenco.empty() ? "" : ", ") + nome;
 }
 
 [[noreturn]] void Rifiuta(const Testo& cosa) {
@@ -68,29 +67,30 @@ std::optional<Colonne> LeggiIntestazione(const std::vector<std::string>& celle) 
     const int significato = Significato(chiave);
     colonne.significato.push_back(significato);
     if (significato == kAltra) {
-      if (!nome.empty()) colonne.altre.push_back("\"" + nome + "\"");
+      if (!nome.empty()) Elenca(colonne.altre, '"' + nome + '"');
     } else if (++volte[static_cast<std::size_t>(significato)] > 1) {
       Rifiuta("\"" + nome + "\" ripete una colonna");
+    } else if (significato < kNumParametri) {
+      colonne.servono = colonne.significato.size();
     }
   }
-  std::vector<Testo> mancanti;
+  Testo mancanti;
   for (int i = 0; i < kNumParametri; ++i)
     if (volte[static_cast<std::size_t>(i)] == 0)
-      mancanti.push_back(NomeDimensione(i) + " (p" + std::to_string(i) + ")");
+      Elenca(mancanti, NomeDimensione(i) + " (p" + std::to_string(i) + ")");
   if (!mancanti.empty())
-    Rifiuta("manca " + Elenco(mancanti) +
-            (colonne.altre.empty() ? "" : "; nomi non riconosciuti: " + Elenco(colonne.altre)));
+    Rifiuta("manca " + mancanti + (colonne.altre.empty() ? "" : "; nomi non riconosciuti: " + colonne.altre));
   return colonne;
 }
 
 Colonne SenzaIntestazione() {
-  Colonne colonne;
-  colonne.significato.resize(kNumParametri);
+  Colonne colonne{.significato = std::vector<int>(kNumParametri), .servono = kNumParametri, .altre = {}};
   std::iota(colonne.significato.begin(), colonne.significato.end(), 0);
   return colonne;
 }
 
 std::optional<Reale> NumeroCella(std::string_view cella, bool virgola) {
+  if (cella.ends_with('%')) cella = SenzaBlanchi(cella.substr(0, cella.size() - 1));
   if (!virgola) return NumeroInvariante(cella);
   if (cella.find('.') != std::string_view::npos) return std::nullopt;
   Testo numero(cella);

@@ -1,4 +1,4 @@
-// The columns of a study: which dimension stands in which, by the names of its first row.
+// The columns of a CSV: the names of the first row tell which dimension each column holds.
 #pragma once
 
 #include <optional>
@@ -11,26 +11,33 @@
 
 namespace tarvel::lotto {
 
-constexpr int kNome = kNumParametri;  // a column's meaning beside the dimensions
+// What a column may hold that is no dimension.
+constexpr int kNome = kNumParametri;
 constexpr int kAltra = -1;
 
 struct Colonne {
   std::vector<int> significato;  // of each column: a dimension, kNome or kAltra
-  std::vector<Testo> altre;      // names of the columns that are not used
+  std::size_t servono = 0;       // columns up to the last dimension
+  Testo altre;                   // names of the columns that are not used
 };
 
-/// The name of a dimension's column, as messages have it.
+/// The name of a dimension's column, for messages.
 Testo NomeDimensione(int i);
 
-/// Nothing where one of the cells is a number, with whichever decimal sign: then it is a row of values. A
-/// dimension that is missing, named twice or ambiguously is fatal.
+/// Reads a first row. Returns nothing when one of its cells is a number, with either decimal sign: then it
+/// is a row of values. A dimension that is missing, or named twice or ambiguously, is fatal.
 std::optional<Colonne> LeggiIntestazione(const std::vector<std::string>& celle);
 
-/// The dimensions in order.
+/// The columns of a file that has no names: the dimensions in order.
 Colonne SenzaIntestazione();
 
-/// The whole cell is one number with this decimal sign; no thousands separators, which would be somebody
-/// else's decimal sign.
+/// The number that the whole cell is, with this decimal sign and perhaps a % after it. A thousands separator
+/// makes it no number: elsewhere it is the decimal sign.
 std::optional<Reale> NumeroCella(std::string_view cella, bool virgola);
+
+/// Whether that % has a sense: slopes are in percent.
+constexpr bool InPercento(int dimensione) {
+  return dimensione >= kPendenzaSinistra;
+}
 
 }  // namespace tarvel::lotto

@@ -10,19 +10,21 @@ namespace tarvel::lotto {
 namespace {
 
 constexpr std::size_t kBlocco = 1 << 16;
-/// How far the end of a quoted cell is looked for.
+// The reader looks so far for the end of a quoted cell.
 constexpr std::size_t kVirgoletteMassime = 1 << 16;
 constexpr std::string_view kSeparatori = "\t;,";
 constexpr auto npos = std::string::npos;
 
-// Appends a block, what was read before it going first; false at the end.
+// Drops the records that are behind and appends a block of the file; false at its end.
 bool Riempi(LettoreCsv& lettore) {
   if (lettore.finito) return false;
   lettore.blocco.erase(0, lettore.posto);
   lettore.posto = 0;
   const std::size_t prima = lettore.blocco.size();
   lettore.blocco.resize(prima + kBlocco);
+  lettore.attende(true);
   lettore.ingresso.read(lettore.blocco.data() + prima, static_cast<std::streamsize>(kBlocco));
+  lettore.attende(false);
   if (lettore.ingresso.bad()) throw ErroreFatale(TipoErrore::File, "lettura non riuscita");
   lettore.blocco.resize(prima + static_cast<std::size_t>(lettore.ingresso.gcount()));
   lettore.finito = !lettore.ingresso;
@@ -33,8 +35,8 @@ bool Separa(char c, char separatore) {
   return separatore == '\0' ? kSeparatori.find(c) != npos : c == separatore;
 }
 
-// Runs over a text from cell to cell; `fuori(i)` for what stands outside quotes, until it says stop.
-// Quotes count at a cell's beginning only: 12" is a cell like others. Returns whether they are closed.
+// Calls `fuori(i)` for each character outside quotes, until it returns false. Quotes count at the beginning
+// of a cell only: 12" is a cell without quotes. Returns false when the text ends within quotes.
 template <class Fuori>
 bool PerOgniFuori(std::string_view testo, char separatore, Fuori fuori) {
   bool inizioCella = true, dentro = false;
@@ -58,40 +60,14 @@ bool PerOgniFuori(std::string_view testo, char separatore, Fuori fuori) {
   return !dentro;
 }
 
-// Where the line at `da` ends; npos while its end is not in the block.
+// The end of the line at the reader's place; npos when the block does not reach so far.
 std::size_t FineRiga(const LettoreCsv& lettore) {
   const std::size_t fine = lettore.blocco.find('\n', lettore.posto);
   return fine == npos && lettore.finito ? lettore.blocco.size() : fine;
 }
 
-// The line at the reader's place and, of one with quotes, those that belong to it.
-RecordCsv Estrai(LettoreCsv& lettore) {
-  RecordCsv record{.testo = {}, .riga = lettore.riga};
-  const auto prendi = [&](std::size_t fine) {
-    record.testo.assign(lettore.blocco, lettore.posto, fine - lettore.posto);
-    lettore.posto = std::min(fine + 1, lettore.blocco.size());
-    lettore.riga += 1 + std::count(record.testo.begin(), record.testo.end(), '\n');
-    if (record.testo.ends_with('\r')) record.testo.pop_back();
-  };
-  std::size_t fine = FineRiga(lettore);
-  for (; fine == npos; fine = FineRiga(lettore)) {
-    if (lettore.blocco.size() - lettore.posto > kRigaMassima) {
-      // No text: it is passed over to its end, without being kept.
-      record.guasto = "riga troppo lunga";
-      lettore.posto = lettore.blocco.size();
-    }
-    Riempi(lettore);
-  }
-  if (record.guasto != nullptr) {
-    prendi(fine);
-    record.testo.clear();
-    return record;
-  }
-  if (std::string_view(lettore.blocco).substr(lettore.posto, fine - lettore.posto).find('"') == npos ||
-      lettore.blocco[lettore.posto] == '#') {
-    prendi(fine);
-    return record;
-  }
+// The end of the record with quotes at the reader's place; npos when they are not closed near enough.
+std::size_t FineTraVirgolette(LettoreCsv& lettore) {
   for (;;) {
     const auto resto = std::string_view(lettore.blocco).substr(lettore.posto, kVirgoletteMassime);
     std::size_t aCapo = npos;
@@ -99,18 +75,38 @@ RecordCsv Estrai(LettoreCsv& lettore) {
       if (resto[i] == '\n') aCapo = i;
       return aCapo == npos;
     });
-    if (aCapo == npos && resto.size() < kVirgoletteMassime && Riempi(lettore)) continue;
-    if (aCapo != npos) {
-      fine = lettore.posto + aCapo;
-    } else if (chiuse && resto.size() < kVirgoletteMassime) {
-      fine = lettore.posto + resto.size();
-    } else {
-      record.guasto = "virgolette aperte e mai chiuse";
-      fine = FineRiga(lettore);  // the block may have moved
-    }
-    prendi(fine);
-    return record;
+    if (aCapo != npos) return lettore.posto + aCapo;
+    if (resto.size() == kVirgoletteMassime) return npos;
+    if (!Riempi(lettore)) return chiuse ? lettore.posto + resto.size() : npos;
   }
+}
+
+// Takes the line at the reader's place and, where a quoted cell goes on after it, the lines of that cell.
+RecordCsv Estrai(LettoreCsv& lettore) {
+  RecordCsv record{.testo = {}, .riga = lettore.riga};
+  std::size_t fine = FineRiga(lettore);
+  for (; fine == npos; fine = FineRiga(lettore)) {
+    if (lettore.blocco.size() - lettore.posto > kRigaMassima) {
+      // This is no text: its bytes are read up to the line's end, and not kept.
+      record.guasto = "riga troppo lunga";
+      lettore.posto = lettore.blocco.size();
+    }
+    Riempi(lettore);
+  }
+  if (record.guasto != nullptr) lettore.posto = fine;
+  const auto riga = std::string_view(lettore.blocco).substr(lettore.posto, fine - lettore.posto);
+  if (!riga.starts_with('#') && riga.find('"') != npos) {
+    fine = FineTraVirgolette(lettore);
+    if (fine == npos) {
+      record.guasto = "virgolette aperte e mai chiuse";
+      fine = FineRiga(lettore);
+    }
+  }
+  record.testo.assign(lettore.blocco, lettore.posto, fine - lettore.posto);
+  lettore.posto = std::min(fine + 1, lettore.blocco.size());
+  lettore.riga += 1 + std::count(record.testo.begin(), record.testo.end(), '\n');
+  if (record.testo.ends_with('\r')) record.testo.pop_back();
+  return record;
 }
 
 bool Utf8(std::string_view testo) {
@@ -118,7 +114,7 @@ bool Utf8(std::string_view testo) {
          Utf8Valido(testo);
 }
 
-// By its mark or, without one, because of Latin letters every second byte is a NUL.
+// UTF-16 has its mark or, where that is missing, a NUL as every second byte of Latin letters.
 bool Utf16(std::string_view inizio) {
   if (inizio.starts_with("\xFF\xFE") || inizio.starts_with("\xFE\xFF")) return true;
   std::array<std::size_t, 2> nulli{};  // at even and at odd places
@@ -132,7 +128,7 @@ bool Formula(std::string_view testo) {
   return !testo.empty() && std::string_view("=+-@").find(testo.front()) != npos;
 }
 
-// A name that has such an apostrophe by itself takes another one, or it would come back without.
+// A formula, also one that has apostrophes before it: NomeDiCella would take away the name's own.
 bool DaProteggere(std::string_view nome) {
   return Formula(nome.substr(std::min(nome.find_first_not_of('\''), nome.size())));
 }
@@ -159,6 +155,13 @@ FormatoCsv RiconosciCodifica(LettoreCsv& lettore) {
   return formato;
 }
 
+char SeparatoreDichiarato(std::string_view testo) {
+  if (testo.starts_with('"') && testo.ends_with('"') && testo.size() > 1)
+    testo = testo.substr(1, testo.size() - 2);
+  const bool dichiara = testo.size() == 5 && Minuscole(testo).starts_with("sep=") && Separa(testo[4], '\0');
+  return dichiara ? testo[4] : '\0';
+}
+
 char RiconosciSeparatore(std::string_view testo) {
   std::size_t migliore = kSeparatori.size();
   PerOgniFuori(testo, '\0', [&](std::size_t i) {
@@ -182,34 +185,20 @@ std::optional<RecordCsv> ProssimoRecord(LettoreCsv& lettore) {
 
 void Celle(std::string_view testo, char separatore, std::vector<std::string>& celle) {
   std::size_t n = 0;
-  const auto aggiungi = [&](std::size_t da, std::size_t a) {
+  for (std::size_t inizio = 0, fine = 0; inizio <= testo.size(); inizio = fine + 1) {
     if (n == celle.size()) celle.emplace_back();
     std::string& cella = celle[n++];
-    std::string_view parte = SenzaBlanchi(testo.substr(da, a - da));
-    if (!parte.starts_with('"')) {
-      cella = parte;
-      return;
-    }
     cella.clear();
-    for (std::size_t i = 1; i < parte.size(); ++i) {
-      if (parte[i] == '"' && parte.substr(i + 1, 1) != "\"") {
-        cella += parte.substr(i + 1);  // what stands after the quotes, which no spreadsheet writes
-        break;
-      }
-      if (parte[i] == '"') ++i;
-      cella += parte[i];
+    std::size_t i = std::min(testo.find_first_not_of(' ', inizio), testo.size());
+    if (testo.substr(i, 1) == "\"") {
+      for (++i; i < testo.size(); cella += testo[i++])
+        if (testo[i] == '"' && testo.substr(++i, 1) != "\"") break;  // two of them are one of the cell's own
     }
+    // No spreadsheet writes anything more after the quotes, but a hand may.
+    fine = std::min(testo.find(separatore, i), testo.size());
+    cella += testo.substr(i, fine - i);
     cella = SenzaBlanchi(cella);
-  };
-  std::size_t inizio = 0;
-  PerOgniFuori(testo, separatore, [&](std::size_t i) {
-    if (testo[i] == separatore) {
-      aggiungi(inizio, i);
-      inizio = i + 1;
-    }
-    return true;
-  });
-  aggiungi(inizio, testo.size());
+  }
   celle.resize(n);
 }
 

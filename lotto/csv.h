@@ -1,11 +1,13 @@
-// CSV as spreadsheets write it: its separator and code, records that a quoted cell may stretch over
-// several lines, cells.
+// CSV as spreadsheets write it: separator and code, records, whose quoted cells may have several lines, and
+// cells.
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/testo.h"
@@ -30,11 +32,15 @@ struct RecordCsv {
   const char* guasto = nullptr;  // why it cannot be taken apart
 };
 
+/// Called with true before a wait for input, which may be long, and with false after it.
+using Attesa = std::function<void(bool)>;
+
 /// A file that is being read, a block at a time.
 struct LettoreCsv {
-  explicit LettoreCsv(std::istream& flusso) : ingresso(flusso) {}
+  LettoreCsv(std::istream& flusso, Attesa attesa) : ingresso(flusso), attende(std::move(attesa)) {}
 
   std::istream& ingresso;
+  Attesa attende;
   std::string blocco;
   std::size_t posto = 0;   // of the next record in `blocco`
   bool finito = false;     // nothing follows the block
@@ -42,30 +48,33 @@ struct LettoreCsv {
   char separatore = '\0';  // not known yet
 };
 
-/// Byte order mark, code and line ends, by the file's beginning; what is no CSV is fatal: a workbook,
-/// UTF-16.
+/// Reads the beginning of a file, which tells code and line ends. A workbook and a text in UTF-16 are fatal.
 FormatoCsv RiconosciCodifica(LettoreCsv& lettore);
 
-/// Tab, semicolon or comma: the first of these that stands outside quotes.
+/// The separator that the line "sep=;" declares; '\0' when the line is another one. Spreadsheets have that
+/// line before all others.
+char SeparatoreDichiarato(std::string_view testo);
+
+/// Tab, semicolon or comma: the first of the three, in this order, that the text has outside quotes.
 char RiconosciSeparatore(std::string_view testo);
 
-/// The next record that is neither empty nor a comment (# at its very beginning); nothing at the end. Of
-/// quotes that are never closed the first line is a record of its own, which says so, and the lines after
-/// it are read as usual; one with a NUL says so too. A failure to read is fatal.
+/// Returns the next record, nothing at the end. Empty ones and comments (# as the first character) are
+/// skipped. Where quotes are never closed, their first line is a record with that fault, and the next record
+/// begins at the line after it. A record with a NUL has a fault too. A failure to read is fatal.
 std::optional<RecordCsv> ProssimoRecord(LettoreCsv& lettore);
 
 /// The cells of a record, without the quotes, and without the blanks around them.
 void Celle(std::string_view testo, char separatore, std::vector<std::string>& celle);
 
-/// A cell's 8-bit text: what is no UTF-8 is Windows-1252.
+/// A cell as 8-bit text. A cell that is no UTF-8 is taken for Windows-1252.
 Testo TestoCella(std::string_view cella);
 
-/// A name that a spreadsheet would run as a formula, with an apostrophe before it; any other as it is.
+/// Puts an apostrophe before a name that a spreadsheet would run as a formula; other names stay.
 Testo NomeProtetto(const Testo& nome);
-/// The name without that apostrophe. What NomeProtetto returns comes back as it was.
+/// Takes that apostrophe away: NomeDiCella(NomeProtetto(nome)) is `nome`.
 Testo NomeDiCella(const Testo& cella);
 
-/// Appends an 8-bit text as a cell, in quotes where it needs them.
+/// Appends an 8-bit text as a cell, in quotes where the cell needs them.
 void AccodaCella(std::string& uscita, std::string_view testo, const FormatoCsv& formato);
 
 }  // namespace tarvel::lotto

@@ -1,15 +1,13 @@
 #include "lotto/ingresso.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <utility>
 
 #include "base/errore.h"
 
 namespace tarvel::lotto {
 namespace {
-
-constexpr std::size_t kRigheBlocco = 64;
 
 Testo NomeIngresso(const std::string& file) {
   return file == "-" ? Testo("standard input") : DaUtf8(file);
@@ -18,12 +16,14 @@ Testo NomeIngresso(const std::string& file) {
 std::istream& Apri(Ingresso& ingresso, const std::string& file) {
   if (file == "-") return std::cin;
   ingresso.flusso = {};
+  ingresso.attende(true);  // a named pipe opens when somebody writes into it
   ingresso.flusso.open(std::filesystem::path(std::u8string(file.begin(), file.end())), std::ios::binary);
+  ingresso.attende(false);
   if (!ingresso.flusso.is_open()) throw ErroreFatale(TipoErrore::File, "il file non si legge");
   return ingresso.flusso;
 }
 
-// Rows in which every decimal has the other sign are not one mistake each.
+// A file whose decimals all have the other sign is refused as a whole, rather than row by row.
 void ControllaDecimali(const std::vector<std::string>& celle, bool virgola) {
   const std::string* altro = nullptr;
   for (const std::string& cella : celle) {
@@ -38,36 +38,34 @@ void ControllaDecimali(const std::vector<std::string>& celle, bool virgola) {
                              : "\"" + TestoCella(*altro) + "\": la virgola decimale vuole --virgola");
 }
 
-void DiceNonUsate(const Testo& file, const Colonne& colonne) {
-  if (colonne.altre.empty()) return;
-  Testo elenco;
-  for (const Testo& nome : colonne.altre) elenco += (elenco.empty() ? "" : ", ") + nome;
-  std::cerr << InUtf8("tarvel1-lotto: " + file + ": colonne non usate: " + elenco + "\n");
-}
-
-// The next file, up to its first row of values, which is returned where there is one.
+// Opens the next file. Returns its first row of values; nothing where there is none.
 std::optional<RecordCsv> Comincia(Ingresso& ingresso, const std::string& file) {
-  auto tracciato = std::make_shared<Tracciato>();
-  if (ingresso.file.size() > 1) tracciato->file = NomeIngresso(file);
-  ingresso.lettore = std::make_unique<LettoreCsv>(Apri(ingresso, file));
-  LettoreCsv& lettore = *ingresso.lettore;
-  tracciato->formato = RiconosciCodifica(lettore);
-  tracciato->formato.virgola = ingresso.virgola;
-  tracciato->colonne = SenzaIntestazione();
-  ingresso.tracciato = tracciato;
+  Tracciato& tracciato = ingresso.tracciato = {};
+  if (ingresso.file.size() > 1) tracciato.file = NomeIngresso(file);
+  LettoreCsv& lettore = ingresso.lettore.emplace(Apri(ingresso, file), ingresso.attende);
+  tracciato.formato = RiconosciCodifica(lettore);
+  tracciato.formato.virgola = ingresso.virgola;
+  tracciato.colonne = SenzaIntestazione();
 
   auto primo = ProssimoRecord(lettore);
+  if (primo) {
+    lettore.separatore = SeparatoreDichiarato(primo->testo);
+    if (lettore.separatore != '\0') primo = ProssimoRecord(lettore);
+  }
   if (!primo) return primo;
   const auto dove = [&] { return "riga " + std::to_string(primo->riga); };
-  lettore.separatore = tracciato->formato.separatore = RiconosciSeparatore(primo->testo);
-  if (!ingresso.formato) ingresso.formato = tracciato->formato;
+  if (lettore.separatore == '\0') lettore.separatore = RiconosciSeparatore(primo->testo);
+  tracciato.formato.separatore = lettore.separatore;
+  if (!ingresso.formato) ingresso.formato = tracciato.formato;
   std::vector<std::string> celle;
   Celle(primo->testo, lettore.separatore, celle);
   if (primo->guasto != nullptr) throw ErroreFatale(TipoErrore::Formato, primo->guasto, dove());
   const auto colonne = Durante(dove, [&] { return LeggiIntestazione(celle); });
   if (colonne) {
-    tracciato->colonne = *colonne;
-    DiceNonUsate(NomeIngresso(file), *colonne);
+    tracciato.colonne = *colonne;
+    if (!colonne->altre.empty())
+      std::cerr << InUtf8("tarvel1-lotto: " + NomeIngresso(file) + ": colonne non usate: " + colonne->altre +
+                          "\n");
     primo = ProssimoRecord(lettore);
     if (!primo) return primo;
     Celle(primo->testo, lettore.separatore, celle);
@@ -78,26 +76,22 @@ std::optional<RecordCsv> Comincia(Ingresso& ingresso, const std::string& file) {
 
 }  // namespace
 
-bool LeggiRighe(Ingresso& ingresso, std::vector<Riga>& righe) {
-  const auto aggiungi = [&](RecordCsv&& record) {
-    Riga& riga = righe.emplace_back();
-    riga.numero = ++ingresso.righe;
-    riga.tracciato = ingresso.tracciato;
-    riga.record = std::move(record);
-  };
-  while (righe.size() < kRigheBlocco) {
-    const bool nuovo = ingresso.lettore == nullptr;
+bool ProssimaRiga(Ingresso& ingresso, Riga& riga) {
+  for (;;) {
+    const bool nuovo = !ingresso.lettore;
     if (nuovo && ingresso.prossimo == ingresso.file.size()) return false;
     const std::string& file = ingresso.file[nuovo ? ingresso.prossimo++ : ingresso.prossimo - 1];
     auto record =
         Durante([&] { return NomeIngresso(file); },
                 [&] { return nuovo ? Comincia(ingresso, file) : ProssimoRecord(*ingresso.lettore); });
-    if (record)
-      aggiungi(std::move(*record));
-    else
-      ingresso.lettore.reset();
+    if (record) {
+      riga.numero = ++ingresso.righe;
+      riga.tracciato = &ingresso.tracciato;
+      riga.record = std::move(*record);
+      return true;
+    }
+    ingresso.lettore.reset();
   }
-  return true;
 }
 
 }  // namespace tarvel::lotto

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <fstream>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,18 +12,19 @@ namespace tarvel::lotto {
 
 struct Ingresso {
   std::vector<std::string> file;  // the host's paths, in UTF-8; "-": standard input
+  Attesa attende;                 // called around each wait for a file
   bool virgola = false;
 
   std::size_t prossimo = 0;  // of `file`
   std::ifstream flusso;
-  std::unique_ptr<LettoreCsv> lettore;  // of the file that is being read
-  std::shared_ptr<const Tracciato> tracciato;
+  std::optional<LettoreCsv> lettore;  // of the file that is being read
+  Tracciato tracciato;                // of the same
   std::optional<FormatoCsv> formato;  // of the first file that has a record
   long long righe = 0;                // read so far
 };
 
-/// Adds the next rows; false when there are none after them. A file that cannot be read, or has no proper
-/// header, is fatal. Columns that are not used are told on standard error.
-bool LeggiRighe(Ingresso& ingresso, std::vector<Riga>& righe);
+/// Reads the next row, which refers to `ingresso`; returns false when there is none. A file that cannot be
+/// read, or has no proper header, is fatal. Columns that are not used are told on standard error.
+bool ProssimaRiga(Ingresso& ingresso, Riga& riga);
 
 }  // namespace tarvel::lotto

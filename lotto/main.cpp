@@ -4,13 +4,11 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <iostream>
 #include <new>
 
 #include "base/errore.h"
 #include "lotto/ingresso.h"
-#include "lotto/officina.h"
 #include "lotto/piattaforma.h"
 #include "lotto/riga_comando.h"
 #include "lotto/rilettura.h"
@@ -28,23 +26,33 @@ using namespace tarvel::lotto;
 enum Stato {
   kFinito = 0,
   kNonFinito = 1,
-  kUsoErrato = 2,
   kRigheConErrore = 3,
   kInterrotto = 130,  // as the shell counts an end by Ctrl+C
   kTuboChiuso = 141,  // and by a pipe that nobody reads
 };
 
+constexpr std::size_t kTestoMassimo = 1 << 16;  // rows are written in pieces of this size
+
 std::atomic<bool> gInterrotto{false};
+std::atomic<bool> gInAttesa{false};  // the program waits for its input, and every row is written
+std::string gUltime;                 // the message of an end in that wait
 static_assert(std::atomic<bool>::is_always_lock_free);
 
-// The first time the program stops by itself, the second time at once.
+// The first signal lets the program finish its row, unless it is waiting; the second ends it at once.
 void Interrompi(int segnale) {
   gInterrotto = true;
+  if (gInAttesa) FinisciSubito(gUltime, kInterrotto);
   std::signal(segnale, SIG_DFL);
 }
 
-void Dice(const Testo& testo) {
-  std::cerr << "tarvel1-lotto: " << InUtf8(testo) << '\n';
+// The output takes no more rows: the pipe is closed, or the disk is full. No ErroreFatale, to which the
+// reader of a file would add the file's name.
+struct UscitaPersa {
+  bool tubo;
+};
+
+std::string Messaggio(const Testo& testo) {
+  return std::string(kProgramma) + ": " + InUtf8(testo) + '\n';
 }
 
 // One line, written over and over, where somebody is watching.
@@ -60,9 +68,7 @@ struct Avanzamento {
     ultimo = Orologio::now();
     std::cerr << '\r' << righe << " righe, " << errori << " con errore" << std::flush;
   }
-  void Cancella() const {
-    if (acceso) std::cerr << "\r\x1B[K" << std::flush;
-  }
+  const char* Cancellazione() const { return acceso ? "\r\x1B[K" : ""; }
 };
 
 struct Lotto {
@@ -71,97 +77,109 @@ struct Lotto {
   Rilettura rilettura;
   Ingresso ingresso;
   Uscita uscita;
-  bool conserva = false;    // of each row its section, to be saved or drawn
-  bool deciso = false;      // the output is as the first file is
-  bool cominciato = false;  // its header is written
-  bool tuboChiuso = false;
+  std::string testo;  // rows to be written
   long long righe = 0, errori = 0;
   Avanzamento avanzamento;
 };
 
-// What became of a write; a closed pipe is for whoever asked to end.
-void Controlla(Lotto& l, bool scritto) {
-  if (scritto) return;
+void Dice(const Lotto& l, const Testo& testo) {
+  std::cerr << l.avanzamento.Cancellazione() << Messaggio(testo);
+}
+
+Testo Interruzione(const Lotto& l) {
+  return "interrotto dopo " + std::to_string(l.righe) + " righe";
+}
+
+void Scrivi(Lotto& l) {
+  const bool scritto =
+      std::fwrite(l.testo.data(), 1, l.testo.size(), stdout) == l.testo.size() && std::fflush(stdout) == 0;
+  l.testo.clear();
   // Windows has no code of its own for a closed pipe.
-  l.tuboChiuso = errno == EPIPE || errno == EINVAL;
-  if (!l.tuboChiuso) throw ErroreFatale(TipoErrore::File, "l'uscita non si scrive");
+  if (!scritto) throw UscitaPersa{errno == EPIPE || errno == EINVAL};
 }
 
-// On the reader's thread; what it decides on the output is settled before any row is worked on.
-bool Leggi(Lotto& l, std::vector<Riga>& righe) {
-  if (!l.richieste.da.empty()) {
-    for (const Riletta& riletta : l.rilettura.sezioni) righe.emplace_back().riletta = &riletta;
-    return false;
+// Around each wait for input, which may be long: a signal may end the program there.
+void Attende(Lotto& l, bool comincia) {
+  if (comincia) {
+    Scrivi(l);
+    gUltime = l.avanzamento.Cancellazione() + Messaggio(Interruzione(l));
   }
-  const bool altre = LeggiRighe(l.ingresso, righe);
-  // A block of rows may be of several files.
-  if (!l.deciso && l.ingresso.formato) {
-    l.uscita.formato = *l.ingresso.formato;
-    l.deciso = true;
-  }
-  return altre;
+  gInAttesa = comincia;
+  if (comincia && gInterrotto) FinisciSubito(gUltime, kInterrotto);
 }
 
-void Calcola(const Lotto& l, std::vector<Riga>& righe) {
-  for (Riga& riga : righe) CalcolaRiga(riga, l.uscita, l.conserva);
-}
-
-bool Consegna(Lotto& l, std::vector<Riga>& righe) {
-  std::string testo;
-  if (!l.cominciato) testo = ComponiIntestazione(l.uscita);
-  l.cominciato = true;
-  for (Riga& riga : righe) {
-    if (riga.calcolata) {
-      riga.motivo = Salva(l.salvataggi, *riga.calcolata);
-      if (!riga.motivo.empty()) ComponiRiga(riga, &riga.calcolata->record, l.uscita);
-    }
-    testo += riga.testo;
-    ++l.righe;
-    if (!riga.motivo.empty()) ++l.errori;
-  }
-  Controlla(l, std::fwrite(testo.data(), 1, testo.size(), stdout) == testo.size());
-  l.avanzamento.Mostra(l.righe, l.errori);
-  return !l.tuboChiuso;
-}
-
-int Esegui(Lotto& l) {
+void Prepara(Lotto& l) {
   PrefissoNome = "U_PO_";
-  VerticiPoligono[1] = 13;
-  VerticiPoligono[2] = 11;
   ImpostaDecimale(l.richieste.virgola ? ',' : '.');
   l.salvataggi = PreparaSalvataggi(l.richieste);
   l.ingresso.file = l.richieste.ingressi;
+  l.ingresso.attende = [&l](bool comincia) { Attende(l, comincia); };
   l.ingresso.virgola = l.uscita.formato.virgola = l.richieste.virgola;
   l.uscita.punti = l.richieste.punti;
-  const bool copia = !l.richieste.da.empty() && !l.richieste.sezio.empty();
   if (!l.richieste.da.empty()) l.rilettura = Rileggi(l.richieste);
-  if (!l.rilettura.lasciato.empty()) Dice(l.rilettura.lasciato);
-
-  l.conserva = l.salvataggi.sezioni || l.salvataggi.disegni;
-  // Threads may outlive this call: what they use is the Lotto's.
-  const bool tutto =
-      Lavora(l.richieste.processi, {.leggi = [&l](Blocco& b) { return Leggi(l, b.righe); },
-                                    .lavora = [&l](Blocco& b) { Calcola(l, b.righe); },
-                                    .consegna = [&l](Blocco& b) { return Consegna(l, b.righe); },
-                                    .smetti = [] { return gInterrotto.load(); }});
-  if (!tutto && !l.tuboChiuso) return kInterrotto;
-  if (!l.tuboChiuso) Controlla(l, std::fflush(stdout) == 0);
-  if (l.tuboChiuso) return kTuboChiuso;
-  if (l.salvataggi.sezioni) ScriviSezioni(l.salvataggi, l.richieste.sezio);
-  if (copia) CreaFileSezioni(l.richieste.sezio, l.rilettura.righe);
-  return l.errori > 0 || !l.rilettura.lasciato.empty() ? kRigheConErrore : kFinito;
+  if (!l.rilettura.lasciato.empty()) Dice(l, l.rilettura.lasciato);
 }
 
-// Leaves at once: a thread may wait for a line that never comes.
-[[noreturn]] void Esci(const Lotto& l, int stato) {
-  l.avanzamento.Cancella();
-  std::fflush(stdout);
-  if (stato == kInterrotto) Dice("interrotto dopo " + std::to_string(l.righe) + " righe");
-  if (stato == kRigheConErrore && l.errori > 0)
-    Dice(std::to_string(l.errori) + (l.errori == 1 ? " riga" : " righe") + " su " + std::to_string(l.righe) +
-         " con errore");
-  std::cerr.flush();
-  std::_Exit(stato);
+bool Prossima(Lotto& l, Riga& riga) {
+  if (l.richieste.da.empty()) return ProssimaRiga(l.ingresso, riga);
+  const auto i = static_cast<std::size_t>(l.righe);
+  if (i == l.rilettura.sezioni.size()) return false;
+  riga.riletta = &l.rilettura.sezioni[i];
+  return true;
+}
+
+void Lavora(Lotto& l, Riga& riga) {
+  const bool conserva = l.salvataggi.sezioni || !l.richieste.disegni.empty();
+  Calcolata sezione;
+  const bool calcolata = CalcolaRiga(riga, sezione, conserva);
+  if (calcolata && conserva) riga.motivo = Salva(l.salvataggi, sezione);
+  AccodaRigaCsv(l.testo, riga, calcolata ? &sezione.record : nullptr, l.uscita);
+  ++l.righe;
+  if (!riga.motivo.empty()) ++l.errori;
+  l.avanzamento.Mostra(l.righe, l.errori);
+  if (l.testo.size() > kTestoMassimo) Scrivi(l);
+}
+
+// Returns false when it was interrupted.
+bool LavoraTutte(Lotto& l) {
+  while (!gInterrotto) {
+    Riga riga;
+    const bool trovata = Prossima(l, riga);
+    if (l.righe == 0) {
+      l.uscita.formato = l.ingresso.formato.value_or(l.uscita.formato);
+      l.testo += ComponiIntestazione(l.uscita);
+    }
+    if (!trovata) return true;
+    Lavora(l, riga);
+  }
+  return false;
+}
+
+int Esegui(Lotto& l) {
+  Prepara(l);
+  bool tutte = false;
+  try {
+    tutte = LavoraTutte(l);
+  } catch (const ErroreFatale&) {
+    if (l.righe == 0) l.testo = ComponiIntestazione(l.uscita);
+    Scrivi(l);
+    throw;
+  }
+  Scrivi(l);
+  if (!tutte) {
+    Dice(l, Interruzione(l));
+    return kInterrotto;
+  }
+  if (l.salvataggi.sezioni) ScriviSezioni(l.salvataggi, l.richieste.sezio);
+  if (!l.richieste.da.empty() && !l.richieste.sezio.empty())
+    CreaFileSezioni(l.richieste.sezio, l.rilettura.righe);
+  if (l.righe == 0 && l.richieste.da.empty())
+    throw ErroreFatale(TipoErrore::Formato, "nessuna riga da calcolare");
+  std::cerr << l.avanzamento.Cancellazione();
+  if (l.errori > 0)
+    Dice(l, std::to_string(l.errori) + (l.errori == 1 ? " riga" : " righe") + " su " +
+                std::to_string(l.righe) + " con errore");
+  return l.errori > 0 || !l.rilettura.lasciato.empty() ? kRigheConErrore : kFinito;
 }
 
 }  // namespace
@@ -171,25 +189,22 @@ int main(int argc, char** argv) {
   NonFinireColTubo();
   std::signal(SIGINT, Interrompi);
   std::signal(SIGTERM, Interrompi);
-  static Lotto lotto;
-  int stato = kUsoErrato;
+  Lotto lotto;
   try {
-    lotto.richieste = LeggiRichieste(Argomenti(argc, argv));
-    if (lotto.richieste.aiuto || lotto.richieste.versione) {
-      std::cout << (lotto.richieste.aiuto ? kAiuto : "tarvel1-lotto " VERSIONE "\n") << std::flush;
-      return std::cout ? kFinito : kNonFinito;
-    }
-    stato = Esegui(lotto);
+    const auto lette = LeggiRichieste(Argomenti(argc, argv));
+    if (const auto* const congedo = std::get_if<Congedo>(&lette)) return Congeda(*congedo);
+    lotto.richieste = *std::get_if<Richieste>(&lette);
+    return Esegui(lotto);
+  } catch (const UscitaPersa& persa) {
+    std::cerr << lotto.avanzamento.Cancellazione();
+    if (persa.tubo) return kTuboChiuso;
+    Dice(lotto, "l'uscita non si scrive");
   } catch (const ErroreFatale& errore) {
-    lotto.avanzamento.Cancella();
-    Dice(errore.Messaggio());
     if (errore.tipo == TipoErrore::Argomento)
-      std::cerr << "Come si usa: tarvel1-lotto --aiuto\n";
-    else
-      stato = kNonFinito;
+      return Congeda(Sbagliato(kProgramma, InUtf8(errore.Messaggio())));
+    Dice(lotto, errore.Messaggio());
   } catch (const std::bad_alloc&) {
-    Dice("memoria esaurita");
-    stato = kNonFinito;
+    Dice(lotto, "memoria esaurita");
   }
-  Esci(lotto, stato);
+  return kNonFinito;
 }

@@ -3,17 +3,20 @@
 
 #include <span>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "base/opzioni_comando.h"
 #include "base/testo.h"
 
 namespace tarvel::lotto {
+
+inline constexpr char kProgramma[] = "tarvel1-lotto";
 
 struct Richieste {
   std::vector<std::string> ingressi;  // the host's paths, in UTF-8; "-": standard input
   bool virgola = false;
   bool punti = false;
-  int processi = 0;
   // Paths of the program; "": not asked for.
   Testo da;
   Testo sezio;
@@ -21,13 +24,8 @@ struct Richieste {
   Testo opzioni;
   std::vector<std::string> senza;  // names of sections, in UTF-8
   bool finDoveSiLegge = false;
-  bool aiuto = false;
-  bool versione = false;
 };
 
-/// A mistake is an ErroreFatale of kind Argomento.
-Richieste LeggiRichieste(std::span<const std::string> argomenti);
-
-extern const char* const kAiuto;
+std::variant<Richieste, Congedo> LeggiRichieste(std::span<const std::string> argomenti);
 
 }  // namespace tarvel::lotto

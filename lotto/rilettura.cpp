@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "base/errore.h"
-#include "lotto/piattaforma.h"
 #include "model/archivio/file_sezioni.h"
 #include "model/archivio/righe_sezione.h"
 #include "model/geometria.h"
@@ -19,12 +18,13 @@ namespace {
 using Posto = FileInLettura::Posto;
 
 FileInLettura Apri(const Testo& percorso) {
-  auto file = FileInLettura::Apri(percorso);
-  if (!file) throw ErroreFatale(TipoErrore::File, "File " + percorso + " non trovato");
+  Testo motivo;
+  auto file = FileInLettura::Apri(percorso, &motivo);
+  if (!file) throw ErroreFatale(TipoErrore::File, "File " + percorso + " non trovato: " + motivo);
   return std::move(*file);
 }
 
-// The file's lines, as far as they can be read as such.
+// The lines of the file, up to the first that cannot be read.
 std::vector<Testo> Righe(const Testo& percorso) {
   auto file = Apri(percorso);
   std::vector<Testo> righe;
@@ -32,8 +32,8 @@ std::vector<Testo> Righe(const Testo& percorso) {
   return righe;
 }
 
-// What stands between two places, ended as a line where the second one is within a line: the items of both
-// parts are read as before.
+// The text between two places. Where it ends inside a line it is given a line end there, so that each part
+// of that line still has its own items.
 Testo Tra(const std::vector<Testo>& righe, const Posto& da, const Posto& a) {
   Testo testo;
   for (int n = da.riga; n <= a.riga; ++n) {
@@ -43,7 +43,7 @@ Testo Tra(const std::vector<Testo>& righe, const Posto& da, const Posto& a) {
     std::string_view riga = righe[static_cast<std::size_t>(n - 1)];
     if (n == a.riga) {
       riga = riga.substr(0, a.colonna);
-      if (riga.ends_with(',')) riga.remove_suffix(1);  // of two items, not of the first one
+      if (riga.ends_with(',')) riga.remove_suffix(1);  // the one between two items
     }
     if (n == da.riga) riga.remove_prefix(std::min(da.colonna, riga.size()));
     AccodaRiga(testo, riga);
@@ -51,7 +51,7 @@ Testo Tra(const std::vector<Testo>& righe, const Posto& da, const Posto& a) {
   return testo;
 }
 
-// The first line from there on where something stands; nothing where only an end does.
+// The first line from `da` on that is not blank; nothing when all the rest is.
 std::optional<int> PrimaRigaPiena(const std::vector<Testo>& righe, Posto da) {
   for (auto n = static_cast<std::size_t>(da.riga - 1); n < righe.size(); ++n, da.colonna = 0)
     if (righe[n].find_first_not_of(" \t\x1A", da.colonna) != Testo::npos) return static_cast<int>(n + 1);
@@ -60,13 +60,12 @@ std::optional<int> PrimaRigaPiena(const std::vector<Testo>& righe, Posto da) {
 
 struct Lettura {
   std::vector<Riletta> sezioni;
-  std::vector<Posto> posti;  // where each begins, and where the last one ends
+  std::vector<Posto> posti;  // where each section begins, and where the last one ends
   std::optional<Intero16> dette;
   Testo guasto;
 };
 
-// One section after the other, also those that the first line does not count, as far as the file goes or can
-// be read.
+// Reads sections up to the end of the file or its first fault, even if the first line tells fewer.
 Lettura LeggiTutte(const Testo& percorso, const std::vector<Testo>& righe) {
   Lettura l;
   auto file = Apri(percorso);
@@ -89,7 +88,7 @@ Lettura LeggiTutte(const Testo& percorso, const std::vector<Testo>& righe) {
     } catch (const ErroreFatale& errore) {
       guasto = errore.Messaggio();
     }
-    // Figures that have lost their lines may be read as a section too, but have no outline.
+    // Stray figures can be read as a section too, but as one without an outline.
     const bool sezione = guasto.empty() && lette() < kMaxSezioni && riletta.sezione.record.NumPoligoni > 0;
     if (!contata && !sezione) guasto = "righe in più dopo l'ultima sezione"_t + allaRiga(*piena);
     if (!guasto.empty()) {
@@ -102,8 +101,8 @@ Lettura LeggiTutte(const Testo& percorso, const std::vector<Testo>& righe) {
   return l;
 }
 
-// A lost line lets a section be read from the next one's lines, to end within one of them: from there on
-// nothing of a damaged file is what it seems.
+// When a section has lost a line, its reading goes on into the next section and ends inside a line. That
+// section and those after it are not taken.
 void LasciaDaQuellaSpezzata(Lettura& l) {
   std::size_t intere = 0;
   while (intere < l.sezioni.size() && l.posti[intere].colonna == 0 && l.posti[intere + 1].colonna == 0)
@@ -121,7 +120,7 @@ Testo Resoconto(const Lettura& l, const std::vector<Testo>& righe) {
   return testo;
 }
 
-// Each name for one section: the first, as in the program's own look-up.
+// Takes away one section for each name: the first, which the program's own look-up finds too.
 void Togli(Rilettura& rilettura, const Richieste& richieste) {
   for (const std::string& nome : richieste.senza) {
     const auto sua = std::find_if(rilettura.sezioni.begin(), rilettura.sezioni.end(),
@@ -137,12 +136,15 @@ void Togli(Rilettura& rilettura, const Richieste& richieste) {
 void Riporta(Riletta& r) {
   try {
     const auto verifica = [&] { return VerificaSezione(r.sezione.record); };
-    if (!Durante([&] { return SullaSezione("lettura", r.sezione.record.Nome); }, verifica, kNonCassone))
-      r.motivo = PrendiMessaggio();
+    const auto p =
+        Durante([&] { return SullaSezione("lettura", r.sezione.record.Nome); }, verifica, kNonCassone);
+    if (p)
+      r.sezione.p = *p;
+    else
+      r.motivo = kSezioneNonValida;
   } catch (const ErroreFatale& errore) {
     r.motivo = errore.Messaggio();
   }
-  r.sezione.p = ParametriSezione;
 }
 
 }  // namespace
@@ -151,8 +153,7 @@ Rilettura Rileggi(const Richieste& richieste) {
   if (!richieste.finDoveSiLegge) {
     // What the program refuses at its start is refused in its words.
     FileSezioni = richieste.da;
-    LeggiFileSezioni(true);
-    if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
+    if (const auto guasto = LeggiFileSezioni()) throw ErroreFatale(guasto->tipo, guasto->ConMotivo());
   }
   const std::vector<Testo> righe = Righe(richieste.da);
   Lettura l = LeggiTutte(richieste.da, righe);

@@ -1,5 +1,4 @@
-// The sections of a section file, recalculated and copied: in a copy each stands as it stood, nothing of it
-// is written anew.
+// The sections of a section file, to be recalculated and copied. A copy has the lines of the file, unchanged.
 #pragma once
 
 #include <vector>
@@ -11,13 +10,12 @@ namespace tarvel::lotto {
 
 struct Rilettura {
   std::vector<Riletta> sezioni;
-  std::vector<Testo> righe;  // of each, as they stand in the file
-  Testo lasciato;            // what the file has besides, and why it was not taken; "" when nothing
+  std::vector<Testo> righe;  // the lines of each section in the file
+  Testo lasciato;            // what else the file has, and why it is not taken; "" when nothing
 };
 
-/// The sections of --da but those of --senza, each with the dimensions that Leggi would bring back. A file
-/// that is missing is fatal, a malformed one too, unless as much is asked for as can be read. Uses the
-/// program's own table.
+/// Reads the sections of --da, leaves out those of --senza, and finds the dimensions of each as Leggi does. A
+/// missing file is fatal; so is a malformed one without --fin-dove-si-legge. Uses the program's own table.
 Rilettura Rileggi(const Richieste& richieste);
 
 }  // namespace tarvel::lotto

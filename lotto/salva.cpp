@@ -1,11 +1,10 @@
 #include "lotto/salva.h"
 
 #include "base/errore.h"
-#include "drawing/sezione/disegno_sezione.h"
-#include "lavoro/cartelle.h"
+#include "drawing/salva_dis_cond.h"
 #include "lavoro/nome_disegno.h"
-#include "lotto/piattaforma.h"
 #include "model/archivio/copie_sezioni.h"
+#include "model/geometria.h"
 #include "model/tabella_sezioni.h"
 #include "options/opzioni.h"
 #include "platform/scrittura.h"
@@ -13,7 +12,7 @@
 namespace tarvel::lotto {
 namespace {
 
-// What the reader of the section file would make another name of.
+// Whether a section file gives the name back: its reader drops quotes and stops at a comma.
 bool SiRilegge(const Testo& nome) {
   return !nome.starts_with('"') && nome.find(',') == Testo::npos;
 }
@@ -22,52 +21,54 @@ bool SiRilegge(const Testo& nome) {
   throw ErroreFatale(TipoErrore::File, percorso + " non è scritto: "_t + cosa);
 }
 
-Testo Disegna(const Testo& nome) {
-  NomeFileDisegno = DisegnoDellaSezione(nome);
-  if (GenereFile(DirLavori + NomeFileDisegno) != TipoVoce::Assente)
-    return "il disegno " + NomeFileDisegno.substr(1) +
+Testo Disegna(const Salvataggi& s, const Calcolata& sezione) {
+  const Testo& nome = sezione.record.Nome;
+  const Testo file = DisegnoDellaSezione(nome);
+  if (GenereFile(s.disegni + file) != TipoVoce::Assente)
+    return "il disegno " + file.substr(1) +
            " esiste già: porta il nome dei primi 8 caratteri del nome della sezione"_t;
+  const auto disegna = [&] {
+    DisegnaSezione(sezione.record, sezione.p, s.stile, true);
+    return disegno::SalvaDisegno(s.disegni + file);
+  };
   try {
-    GeneraDisegno(disegno::ModoAvviso::Errori);
+    const auto guasto = Durante([&] { return SullaSezione("disegno", nome); }, disegna, kNonCassone);
+    return guasto ? guasto->ConMotivo() : Testo();
   } catch (const ErroreFatale& errore) {
     return errore.Messaggio();
   }
-  return PrendiMessaggio();
 }
 
 }  // namespace
 
 Salvataggi PreparaSalvataggi(const Richieste& richieste) {
-  Salvataggi s;
-  s.sezioni = !richieste.sezio.empty() && richieste.da.empty();
-  s.disegni = !richieste.disegni.empty();
-  DirLavori = richieste.disegni;
-  SezioneCalcolata = true;
-  LeggiOpzioni(richieste.opzioni);
-  if (const Testo detto = PrendiMessaggio(); !detto.empty()) throw ErroreFatale(TipoErrore::File, detto);
-  return s;
+  VettoreOpzioni opzioni;
+  if (const auto guasto = LeggiOpzioni(richieste.opzioni, opzioni))
+    throw ErroreFatale(guasto->tipo, guasto->ConMotivo());
+  return {.sezioni = !richieste.sezio.empty() && richieste.da.empty(),
+          .disegni = richieste.disegni,
+          .stile = StileDi(opzioni)};
 }
 
 Testo Salva(Salvataggi& s, const Calcolata& sezione) {
   const Testo& nome = sezione.record.Nome;
-  SezioneCorrente = 1;
   if (s.sezioni) {
     if (!SiRilegge(nome)) return "un file di sezioni non tiene un nome con la virgola o le virgolette";
     if (!s.nomi.contains(nome) && s.nomi.size() == kMaxSezioni) {
       ++s.oltre;
-    } else if (!s.nomi.insert(nome).second) {
+    } else if (s.nomi.insert(nome).second) {
+      TabellaSezioni[static_cast<long long>(s.nomi.size())] = sezione.record;
+    } else {
       return "il nome è già di un'altra sezione"_t;
     }
-    SezioneCorrente = static_cast<long long>(s.nomi.size());
   }
-  TabellaSezioni[SezioneCorrente] = sezione.record;
-  ParametriSezione = sezione.p;
-  return s.disegni ? Disegna(nome) : Testo();
+  return s.disegni.empty() ? Testo() : Disegna(s, sezione);
 }
 
 void CreaFileSezioni(const Testo& percorso, std::span<const Testo> sezioni) {
   if (sezioni.empty()) Rifiuta(percorso, "nessuna sezione da scrivere");
-  if (!CreaFile(percorso, ComponiFileSezioni(sezioni))) Rifiuta(percorso, "il file non si crea");
+  if (const auto esito = CreaFile(percorso, ComponiFileSezioni(sezioni)); !esito)
+    Rifiuta(percorso, "il file non si crea: " + esito.motivo);
 }
 
 void ScriviSezioni(const Salvataggi& s, const Testo& percorso) {

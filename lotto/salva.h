@@ -1,32 +1,34 @@
-// What Salva would write of the rows: the section file and the drawings. Of the main thread alone: drawings
-// are made in the program's own tables.
+// Saving the rows: the section file and the drawings. Drawings are made in the program's own tables.
 #pragma once
 
 #include <span>
 #include <unordered_set>
 
+#include "drawing/sezione/disegno_sezione.h"
 #include "lotto/riga_comando.h"
 #include "lotto/studio.h"
 
 namespace tarvel::lotto {
 
 struct Salvataggi {
-  bool sezioni = false, disegni = false;
-  std::unordered_set<Testo> nomi;  // of the sections for the file
-  long long oltre = 0;             // sections that the file has no room for
+  bool sezioni = false;
+  Testo disegni;  // their folder; "": none are made
+  StileSezione stile;
+  std::unordered_set<Testo> nomi = {};  // of the sections for the file
+  long long oltre = 0;                  // sections that the file has no room for
 };
 
-/// Folders and options; options that are malformed are fatal.
+/// Sets the folder and the options of the drawings. Malformed options are fatal.
 Salvataggi PreparaSalvataggi(const Richieste& richieste);
 
 /// Puts a calculated section into the table and draws it. Returns why not, or "".
 Testo Salva(Salvataggi& salvataggi, const Calcolata& sezione);
 
-/// A new section file of these sections, each as its lines. Fatal where there are none or it cannot be
-/// created; then there is no file, or somebody else's.
+/// Creates a section file of these sections, given as their lines. It is fatal when there are none, or when
+/// the file cannot be created; a file that somebody else has made there meanwhile stays.
 void CreaFileSezioni(const Testo& percorso, std::span<const Testo> sezioni);
 
-/// The same of all that were put into the table; fatal also where a file has no room for them.
+/// Creates the section file of the table's sections. It is fatal also when a file has no room for them all.
 void ScriviSezioni(const Salvataggi& salvataggi, const Testo& percorso);
 
 }  // namespace tarvel::lotto

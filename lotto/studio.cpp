@@ -12,13 +12,13 @@
 namespace tarvel::lotto {
 namespace {
 
-constexpr int kPunti = 14;  // at most; the last one is missing where the axis crosses no web
+constexpr int kPunti = 14;  // at most: the last one is missing where the axis crosses no web
 
 bool DiComando(char c) {
   return static_cast<unsigned char>(c) < ' ';
 }
 
-// The program's own proposal has three digits, the table's capacity; a study may have more rows.
+// The program proposes names of three digits, enough for its table; a CSV may have more rows.
 Testo NomeProposto(long long numero) {
   return numero < 1000 ? ProponiNome(numero) : PrefissoNome + std::to_string(numero);
 }
@@ -31,22 +31,22 @@ void LeggiNome(Riga& riga, const std::vector<std::string>& celle) {
   if (riga.nome.empty()) riga.nome = NomeProposto(riga.numero);
 }
 
+// The message ends with the place: "(varianti.csv, riga 12, sbalzo)".
 [[noreturn]] void Rifiuta(const Riga& riga, const Testo& cosa, const Testo& colonna = {}) {
+  const Testo& file = riga.tracciato->file;
   throw ErroreFatale(TipoErrore::Formato, cosa,
-                     Luogo(*riga.tracciato, riga.record) + (colonna.empty() ? "" : ", " + colonna));
+                     file + (file.empty() ? "" : ", ") + "riga " + std::to_string(riga.record.riga) +
+                         (colonna.empty() ? "" : ", " + colonna));
 }
 
 void ControllaQuante(const Riga& riga, const std::vector<std::string>& celle) {
-  const auto& significato = riga.tracciato->colonne.significato;
-  const auto ultima = std::find_if(significato.rbegin(), significato.rend(),
-                                   [](int s) { return s >= 0 && s < kNumParametri; });
-  const auto servono = static_cast<std::size_t>(significato.rend() - ultima);
+  const Colonne& colonne = riga.tracciato->colonne;
+  const std::size_t quante = colonne.significato.size();
   const bool troppe =
-      std::any_of(celle.begin() + static_cast<std::ptrdiff_t>(std::min(significato.size(), celle.size())),
-                  celle.end(), [](const std::string& cella) { return !cella.empty(); });
-  if (celle.size() >= servono && !troppe) return;
-  Testo cosa =
-      "colonne: " + std::to_string(celle.size()) + " invece di " + std::to_string(significato.size());
+      celle.size() > quante && std::any_of(celle.begin() + static_cast<std::ptrdiff_t>(quante), celle.end(),
+                                           [](const std::string& cella) { return !cella.empty(); });
+  if (celle.size() >= colonne.servono && !troppe) return;
+  Testo cosa = "colonne: " + std::to_string(celle.size()) + " invece di " + std::to_string(quante);
   if (troppe && riga.tracciato->formato.separatore == ',')
     cosa += ". Con la virgola decimale le colonne si separano con ; o tabulazione";
   Rifiuta(riga, cosa);
@@ -55,6 +55,7 @@ void ControllaQuante(const Riga& riga, const std::vector<std::string>& celle) {
 void LeggiValori(Riga& riga, VettoreParametri& p) {
   const FormatoCsv& formato = riga.tracciato->formato;
   std::vector<std::string> celle;
+  celle.reserve(riga.tracciato->colonne.significato.size());
   Celle(riga.record.testo, formato.separatore, celle);
   LeggiNome(riga, celle);
   if (riga.record.guasto != nullptr) Rifiuta(riga, riga.record.guasto);
@@ -66,15 +67,18 @@ void LeggiValori(Riga& riga, VettoreParametri& p) {
     const int quale = significato[i];
     if (quale < 0 || quale >= kNumParametri) continue;
     const std::string& cella = celle[i];
-    if (const auto valore = NumeroCella(cella, formato.virgola)) {
+    const auto valore = NumeroCella(cella, formato.virgola);
+    if (valore && (InPercento(quale) || !cella.ends_with('%'))) {
       p[quale] = *valore;
       continue;
     }
     if (cella.empty()) Rifiuta(riga, "manca il valore", NomeDimensione(quale));
-    const char* consiglio = !NumeroCella(cella, !formato.virgola) ? ""
+    const char* consiglio = valore ? ": in percento sono soltanto le pendenze"
+                            : !NumeroCella(cella, !formato.virgola) ? ""
                             : formato.virgola ? ": con --virgola i decimali hanno la virgola"
                                               : ": la virgola decimale vuole --virgola";
-    Rifiuta(riga, "\"" + TestoCella(cella).substr(0, 40) + "\" non è un numero"_t + consiglio,
+    const auto* che = valore ? "una lunghezza" : "un numero";
+    Rifiuta(riga, "\"" + TestoCella(cella).substr(0, 40) + "\" non è "_t + che + consiglio,
             NomeDimensione(quale));
   }
 }
@@ -93,7 +97,7 @@ void Calcola(Riga& riga, Calcolata& c, bool conserva) {
   }
   const auto contorno = [&] { RifaiContorno(c.record, c.p); };
   const auto calcola = [&] {
-    // A section of a file keeps the outline that it has there.
+    // A section read from a section file keeps the outline it has there.
     if (riga.riletta == nullptr) contorno();
     CalcolaCaratteristiche(c.record, c.p, VerticiPoligono);
   };
@@ -110,20 +114,13 @@ void AccodaNumero(std::string& testo, Reale valore, const FormatoCsv& formato) {
 
 }  // namespace
 
-Testo Luogo(const Tracciato& tracciato, const RecordCsv& record) {
-  return tracciato.file + (tracciato.file.empty() ? "" : ", ") + "riga " + std::to_string(record.riga);
-}
-
-void CalcolaRiga(Riga& riga, const Uscita& uscita, bool conserva) {
-  auto c = std::make_unique<Calcolata>();
+bool CalcolaRiga(Riga& riga, Calcolata& sezione, bool conserva) {
   try {
-    Calcola(riga, *c, conserva);
+    Calcola(riga, sezione, conserva);
   } catch (const ErroreFatale& errore) {
     riga.motivo = errore.Messaggio();
   }
-  const bool riuscita = riga.motivo.empty();
-  ComponiRiga(riga, riuscita ? &c->record : nullptr, uscita);
-  if (riuscita && conserva) riga.calcolata = std::move(c);
+  return riga.motivo.empty();
 }
 
 std::string ComponiIntestazione(const Uscita& uscita) {
@@ -137,11 +134,9 @@ std::string ComponiIntestazione(const Uscita& uscita) {
   return testo + uscita.formato.fineRiga;
 }
 
-void ComponiRiga(Riga& riga, const RecordSezione* sezione, const Uscita& uscita) {
+void AccodaRigaCsv(std::string& testo, Riga& riga, const RecordSezione* sezione, const Uscita& uscita) {
   constexpr std::size_t kCaratteristiche = 10, kValoriPunto = 5;
   const FormatoCsv& formato = uscita.formato;
-  std::string& testo = riga.testo;
-  testo.clear();
   std::replace_if(riga.nome.begin(), riga.nome.end(), DiComando, ' ');
   std::replace_if(riga.motivo.begin(), riga.motivo.end(), DiComando, ' ');
   const auto vuote = [&](std::size_t quante) { testo.append(quante, formato.separatore); };

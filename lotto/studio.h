@@ -1,7 +1,6 @@
-// One row of a study: what was read, what is calculated of it, what is written.
+// One row: how it is read, calculated and written.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,7 +16,7 @@ struct Calcolata {
   VettoreParametri p;
 };
 
-/// A section of a section file, brought back to its dimensions; or why it cannot be.
+/// A section of a section file with the dimensions found from its outline, or the reason why there are none.
 struct Riletta {
   Calcolata sezione;
   Testo motivo;
@@ -31,15 +30,15 @@ struct Tracciato {
 };
 
 struct Riga {
+  // Either a record of a CSV
   long long numero = 0;  // among all rows, from 1
-  std::shared_ptr<const Tracciato> tracciato;
+  const Tracciato* tracciato = nullptr;
   RecordCsv record;
-  const Riletta* riletta = nullptr;  // in place of a record
+  // or a section of a section file.
+  const Riletta* riletta = nullptr;
 
   Testo nome;
-  std::string testo;  // of the output, with its line end
-  Testo motivo;       // why it is not calculated, or not saved
-  std::unique_ptr<Calcolata> calcolata;
+  Testo motivo;  // why it is not calculated, or not saved; "" when it is
 };
 
 /// What is written of each row.
@@ -48,15 +47,12 @@ struct Uscita {
   bool punti = false;
 };
 
-/// Where the row stands, for its user: "riga 12".
-Testo Luogo(const Tracciato& tracciato, const RecordCsv& record);
-
-/// Reads, calculates and composes a row. Of its own state alone: on any thread. `conserva`: the section is
-/// kept with it as saving has it, its outline rebuilt.
-void CalcolaRiga(Riga& riga, const Uscita& uscita, bool conserva);
+/// Reads and calculates a row into `sezione`; false when it cannot be, and the row has the reason. With
+/// `conserva` the outline is rebuilt afterwards, as saving does.
+bool CalcolaRiga(Riga& riga, Calcolata& sezione, bool conserva);
 
 std::string ComponiIntestazione(const Uscita& uscita);
-/// Of a row without a section the reason alone.
-void ComponiRiga(Riga& riga, const RecordSezione* sezione, const Uscita& uscita);
+/// Adds the line of a row to `testo`. `sezione`: null where the row has no values.
+void AccodaRigaCsv(std::string& testo, Riga& riga, const RecordSezione* sezione, const Uscita& uscita);
 
 }  // namespace tarvel::lotto

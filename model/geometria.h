@@ -6,15 +6,15 @@
 
 namespace tarvel {
 
-/// What a fault of arithmetic on an outline tells who typed its dimensions.
+/// What an arithmetic fault in an outline means to the user who typed its dimensions.
 inline constexpr char kNonCassone[] = "Le dimensioni non formano una sezione a cassone.";
 
-/// Writes polygons 1 (outline, 13 vertices) and 2 (cell, 11 vertices). It judges no shape: crossing
-/// dimensions give crossing polygons. An arithmetic fault is fatal.
+/// Writes polygons 1 (outline) and 2 (cell). The shape is not judged: crossing dimensions give crossing
+/// polygons. An arithmetic fault is fatal.
 void CostruisciGeometria(GeometriaSezione& geometria, const VettoreParametri& p);
 
-/// The same of a section that has an outline already: it keeps that where a fault is fatal, and the error
-/// says that it was about the outline.
+/// Rebuilds the outline of a section. After a fatal fault the old outline is still there, and the error names
+/// the outline as its place.
 void RifaiContorno(GeometriaSezione& geometria, const VettoreParametri& p);
 
 /// Height at z of the line through the left tip's top with the left slope.

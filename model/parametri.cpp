@@ -8,11 +8,9 @@
 
 namespace tarvel {
 
-VettoreParametri ParametriSezione;
-
 namespace {
 
-// A file that is there and that the host did not let read: what it holds is not known, so it stays.
+// The host did not let the existing file be read. What it holds is not known, so it is not replaced.
 bool gIntoccabile = false;
 
 Testo FileDefault() {
@@ -28,7 +26,7 @@ void LeggiDefault() {
   for (Reale& p : ParametriSezione) {
     // A short or spoiled file is no reason to stop a start: the user sees the values in the boxes.
     const auto voce = file->ProssimaVoce();
-    gIntoccabile = file->Guasto();
+    gIntoccabile = !file->MotivoGuasto().empty();
     if (!voce) return;
     const auto valore = InizioNumerico(*voce);
     if (!valore && !voce->empty()) return;
@@ -40,16 +38,13 @@ void ScriviDefault(std::span<const Testo> caselle) {
   if (gIntoccabile) return;
   Testo testo;
   for (const Testo& casella : caselle) AccodaRiga(testo, SenzaBlanchi(casella));
-  switch (ScriviFile(FileDefault(), testo, true)) {
-    case EsitoScrittura::Scritto:
-      return;
-    case EsitoScrittura::NonAperto:
-      throw ErroreFatale(TipoErrore::File, "il file dei valori iniziali non si può scrivere"_t,
-                         FileDefault());
-    case EsitoScrittura::Incompleto:
-      throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
-                         "il file " + FileDefault() + " può essere incompleto"_t);
-  }
+  const EsitoScrittura esito = ScriviFile(FileDefault(), testo, true);
+  if (esito == EsitoScrittura::NonAperto)
+    throw ErroreFatale(TipoErrore::File, "il file dei valori iniziali non si può scrivere: "_t + esito.motivo,
+                       FileDefault());
+  if (esito == EsitoScrittura::Incompleto)
+    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita: " + esito.motivo,
+                       "il file " + FileDefault() + " può essere incompleto"_t);
 }
 
 }  // namespace tarvel

@@ -42,15 +42,15 @@ enum Dimensione {
 
 using VettoreParametri = Tabella<"delle dimensioni", Reale, 0, kNumParametri - 1>;
 
-extern VettoreParametri ParametriSezione;
+inline VettoreParametri ParametriSezione;
 
-/// Fills ParametriSezione from "CapSezDe.txt" in DirCustom, each item taken as a box takes it ('20cm' is
-/// 20, nothing is 0). An item without a number, as any failure, stops the reading there, silently: what
-/// was read stays, the rest is as before.
+/// Fills ParametriSezione from "CapSezDe.txt" in DirCustom, each item converted as a box converts it ('20cm'
+/// is 20, nothing is 0). A failure, or an item without a number, ends the reading in silence: the values read
+/// so far stay, the others are as before.
 void LeggiDefault();
 
-/// Writes what the boxes hold, as it was typed: '12,5' comes back as two numbers, which is
-/// accepted. A failure is fatal. `caselle` holds the 21 texts in index order.
+/// Writes the texts of the 21 boxes as they were typed: '12,5' comes back as two numbers, which is accepted.
+/// A failure is fatal.
 void ScriviDefault(std::span<const Testo> caselle);
 
 }  // namespace tarvel

@@ -33,9 +33,6 @@
 
 namespace tarvel {
 
-/// Absolute, everywhere: a magnitude not greater than this counts as zero.
-inline constexpr double kTolleranza = 0.0001;
-
 constexpr int kMaxPoligoni = 5;
 constexpr int kMaxVertici = 50;
 constexpr int kMaxPunti = 50;
@@ -49,6 +46,14 @@ inline Reale Distanza(Punto a, Punto b) {
 }
 
 using ConteggiVertici = Tabella<"dei poligoni", Intero16, 1, kMaxPoligoni>;
+
+/// Of a box girder: the outline and the cell.
+inline constexpr ConteggiVertici kVerticiCassone = [] {
+  ConteggiVertici vertici;
+  vertici[1] = 13;
+  vertici[2] = 11;
+  return vertici;
+}();
 
 /// Closed polygons, the first vertex not repeated. Polygon 1 is the outline, counter-clockwise;
 /// polygon 2 the cell, clockwise: signed integrals over both give the net section.

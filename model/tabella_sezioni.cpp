@@ -3,14 +3,6 @@
 
 namespace tarvel {
 
-Tabella<"delle sezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
-Intero16 NumeroSezioni;
-Intero16 NumeroSezioniFile;
-Intero16 SezioneCorrente = 1;
-bool SezioneCalcolata = false;
-bool SezioneSalvata = true;
-ConteggiVertici VerticiPoligono;
-
 Intero16 CercaSezione(std::string_view nome) {
   for (int i = 1; i <= NumeroSezioni; ++i)
     if (TabellaSezioni[i].Nome == nome) return i;

@@ -10,20 +10,20 @@ namespace tarvel {
 constexpr int kMaxSezioni = 500;
 
 /// Slots above NumeroSezioni keep what they last held and are never read. No record is deleted.
-extern Tabella<"delle sezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
-extern Intero16 NumeroSezioni;
+inline Tabella<"delle sezioni", RecordSezione, 1, kMaxSezioni> TabellaSezioni;
+inline Intero16 NumeroSezioni;
 /// How many records the section file held when it was last read.
-extern Intero16 NumeroSezioniFile;
+inline Intero16 NumeroSezioniFile;
 /// The record shown and drawn; 1 at start, even while the table is empty.
-extern Intero16 SezioneCorrente;
+inline Intero16 SezioneCorrente = 1;
 
-/// The current record reflects the boxes.
-extern bool SezioneCalcolata;
+/// The boxes have not changed since the current record was calculated or read back.
+inline bool SezioneCalcolata = false;
 /// Nothing was changed since the last save or since the start.
-extern bool SezioneSalvata;
+inline bool SezioneSalvata = true;
 
-/// Vertices of each polygon of an outline; the main form's load sets 13 and 11.
-extern ConteggiVertici VerticiPoligono;
+/// Vertices of each polygon of an outline; the main form's load sets those of a box girder.
+inline ConteggiVertici VerticiPoligono = kVerticiCassone;
 
 /// 1-based index of the first record with exactly this name, 0 when there is none.
 Intero16 CercaSezione(std::string_view nome);

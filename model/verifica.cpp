@@ -2,9 +2,7 @@
 #include "model/verifica.h"
 
 #include "base/tronca.h"
-#include "model/parametri.h"
 #include "model/tabella_sezioni.h"
-#include "platform/desktop.h"
 
 namespace tarvel {
 namespace {
@@ -16,15 +14,13 @@ Reale Pendenza(Reale salita, Reale corsa) {
 
 }  // namespace
 
-bool VerificaSezione(const RecordSezione& r) {
-  if (r.NumVertici[1] != VerticiPoligono[1] || r.NumPoligoni != 2 || r.NumVertici[2] != VerticiPoligono[2]) {
-    MostraMessaggio("Sezione non valida", "ATTENZIONE", Icona::Esclamazione);
-    return false;
-  }
+std::optional<VettoreParametri> VerificaSezione(const RecordSezione& r) {
+  if (r.NumVertici[1] != VerticiPoligono[1] || r.NumPoligoni != 2 || r.NumVertici[2] != VerticiPoligono[2])
+    return std::nullopt;
   const auto O = [&](int v) { return r.O(v); };
   const auto C = [&](int v) { return r.C(v); };
   const auto pendenza = [](Punto da, Punto a) { return Pendenza(a.y - da.y, a.z - da.z); };
-  VettoreParametri& p = ParametriSezione;
+  VettoreParametri p;
 
   p[kAltezzaTotale] = O(12).y - O(5).y;
   p[kSolettaInferiore] = C(11).y - O(5).y;
@@ -43,12 +39,12 @@ bool VerificaSezione(const RecordSezione& r) {
   p[kPendenzaColmoDestra] = pendenza(O(12), O(11));
   p[kPendenzaDestra] = pendenza(O(10), O(11));
   p[kInclinazioneAnime] = Pendenza(O(5).z - O(4).z, O(4).y - O(5).y);
-  // Depths below the line of slope p16, as it has just been cut.
+  // Depths below the line of the left slope, as it has just been cut.
   p[kAttaccoSbalzi] = p[kPendenzaSinistra] / 100 * p[kSbalzo] - O(3).y;
   p[kSommitaEsternaAnime] = p[kPendenzaSinistra] / 100 * O(4).z - O(4).y;
   p[kSommitaInternaAnime] = p[kPendenzaSinistra] / 100 * C(2).z - C(2).y;
   p[kSolettaFineRaccordo] = p[kPendenzaSinistra] / 100 * C(3).z - C(3).y;
-  return true;
+  return p;
 }
 
 }  // namespace tarvel

@@ -5,19 +5,12 @@
 
 #include "base/numeri.h"
 #include "lavoro/cartelle.h"
-#include "platform/desktop.h"
 #include "platform/regione.h"
 #include "platform/scrittura.h"
 
 namespace tarvel {
 
-VettoreOpzioni Opzioni;
-
 namespace {
-
-Testo FileOpzioni() {
-  return DirCustom + "\\CapOpSez.txt";
-}
 
 VettoreOpzioni Predefinite() {
   VettoreOpzioni predefinite;
@@ -39,39 +32,37 @@ std::optional<Reale> Valore(int i, std::string_view parola) {
 
 }  // namespace
 
-void LeggiOpzioni() {
-  LeggiOpzioni(FileOpzioni());
+Testo FileOpzioni() {
+  return DirCustom + "\\CapOpSez.txt";
 }
 
-void LeggiOpzioni(const Testo& percorso) {
-  Opzioni = Predefinite();
+std::optional<Guasto> LeggiOpzioni(const Testo& percorso, VettoreOpzioni& opzioni) {
+  opzioni = Predefinite();
   auto file = FileInLettura::Apri(percorso);
-  if (!file) return;
+  if (!file) return {};
   VettoreOpzioni lette;
   for (int i = 1; i <= kNumOpzioni; ++i) {
     auto riga = file->ProssimaRiga();
-    if (file->Guasto()) {
-      MostraMessaggio("Lettura del file " + percorso + " non riuscita", "ERRORE", Icona::Esclamazione);
-      return;
-    }
+    if (!file->MotivoGuasto().empty())
+      return Guasto{TipoErrore::File, "Lettura del file " + percorso + " non riuscita", file->MotivoGuasto()};
     const auto valore = riga ? Valore(i, PrimaParola(*riga)) : std::nullopt;
-    if (!valore) {
-      MostraMessaggio("File " + percorso + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i),
-                      "ERRORE", Icona::Esclamazione);
-      return;
-    }
+    if (!valore)
+      return Guasto{TipoErrore::Formato,
+                    "File " + percorso + " non valido, riga " + std::to_string(i) + ". " + ValoriAmmessi(i)};
     lette[i] = *valore;
   }
-  Opzioni = lette;
+  opzioni = lette;
+  return {};
 }
 
-void ScriviOpzioni() {
+std::optional<Guasto> ScriviOpzioni(const Testo& percorso, const VettoreOpzioni& opzioni) {
   Testo testo;
   for (int i = 1; i <= kNumOpzioni; ++i)
-    AccodaRiga(testo, FormatoNumero(Opzioni[i]) + Testo(10, ' ') + Voce(i).etichettaFile);
+    AccodaRiga(testo, FormatoNumero(opzioni[i]) + Testo(10, ' ') + Voce(i).etichettaFile);
+  const EsitoScrittura esito = ScriviFile(percorso, testo, true);
+  if (esito) return {};
   // A disk that is full has the same answer as a file that cannot be created.
-  if (ScriviFile(FileOpzioni(), testo, true) != EsitoScrittura::Scritto)
-    MostraMessaggio("Problemi con la scrittura del file " + FileOpzioni(), "ERRORE", Icona::Esclamazione);
+  return Guasto{TipoErrore::File, "Problemi con la scrittura del file " + percorso, esito.motivo};
 }
 
 bool Ammesso(int i, Reale valore) {

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "base/guasto.h"
 #include "base/reale.h"
 #include "base/tabella.h"
 #include "base/testo.h"
@@ -14,7 +15,7 @@ constexpr int kNumOpzioni = 15;
 using VettoreOpzioni = Tabella<"delle opzioni", Reale, 1, kNumOpzioni>;
 
 /// Read at start, changed afterwards only by the options form.
-extern VettoreOpzioni Opzioni;
+inline VettoreOpzioni Opzioni;
 
 /// Indices of Opzioni.
 enum Opzione {
@@ -35,8 +36,8 @@ enum Opzione {
   kAltezzaTesti,
 };
 
-/// What an option may be. The drawing keeps it as a whole number so many times as large, 16 bits
-/// wide; 0 times: as it is.
+/// The values that an option may have. The drawing keeps `volte` times the value as a whole number of 16
+/// bits; where `volte` is 0, the value as it is.
 struct GenereOpzione {
   const char* cosa;
   double minimo, massimo;
@@ -45,7 +46,7 @@ struct GenereOpzione {
 
 inline constexpr GenereOpzione kCodice = {"un numero intero", -32768, 32767, 1};
 inline constexpr GenereOpzione kCarattere = {"un numero", -3276.8, 3276.7, 10};
-/// Far beyond any drawing, far from where its squares overflow.
+/// Far beyond any drawing, and far below the numbers whose squares overflow.
 inline constexpr GenereOpzione kMisura = {"un numero", -1e15, 1e15, 0};
 
 struct VoceOpzione {
@@ -55,8 +56,7 @@ struct VoceOpzione {
   GenereOpzione genere;
 };
 
-/// One entry an option, in order. 14 and 15 have the file labels of 9 and 10: only their place tells
-/// them apart.
+/// One entry an option, in order. 14 and 15 have the file labels of 9 and 10; only their places differ.
 // clang-format off
 inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
     {"colore sezione",                            "Colore sezione",                            disegno::kRosso,   kCodice},
@@ -77,14 +77,14 @@ inline constexpr std::array<VoceOpzione, kNumOpzioni> kVociOpzioni = {{
 }};
 // clang-format on
 
-/// The options of "CapOpSez.txt" in DirCustom; the built-in defaults when it cannot be opened
-/// (silently) or is short or spoiled (with a message that names the line, the option and what it may be).
-void LeggiOpzioni();
-/// The same of another file.
-void LeggiOpzioni(const Testo& percorso);
+/// "CapOpSez.txt" in DirCustom.
+Testo FileOpzioni();
 
-/// Writes Opzioni to the file; a message when that fails, Opzioni are as they were.
-void ScriviOpzioni();
+/// The options of a file; the built-in defaults when it cannot be opened, which is no fault, or is short or
+/// spoiled: the fault then names the line, the option and what it may be.
+[[nodiscard]] std::optional<Guasto> LeggiOpzioni(const Testo& percorso, VettoreOpzioni& opzioni);
+
+[[nodiscard]] std::optional<Guasto> ScriviOpzioni(const Testo& percorso, const VettoreOpzioni& opzioni);
 
 /// Whether a drawing can hold this value of option i.
 bool Ammesso(int i, Reale valore);

@@ -28,11 +28,11 @@
 
 namespace tarvel {
 
+/// Black by itself.
 struct Colore {
   std::uint8_t r = 0, g = 0, b = 0;
   friend constexpr bool operator==(Colore, Colore) = default;
 };
-inline constexpr Colore kNero{0, 0, 0};
 inline constexpr Colore kGrigioChiaro{192, 192, 192};
 
 struct Rettangolo {
@@ -78,7 +78,7 @@ struct Controllo {
   TipoControllo tipo = TipoControllo::Etichetta;
   Testo nome;  // as the user's script and the tests call it: "Calcolo", "Text1(3)"
   Rettangolo posto;
-  Colore coloreTesto = kNero;
+  Colore coloreTesto;
   Carattere carattere;
   Testo descrizione;             // boxes: what it is, to be read in its tool tip and as its accessible name
   bool selezioneEstesa = false;  // lists: several entries at once (click, Shift, Ctrl)
@@ -116,7 +116,7 @@ inline Controllo NuovoControllo(TipoControllo tipo, const Testo& nome, const Ret
 /// A static line of a schematic, drawn below the controls; the width is in pixels at scale 1.
 struct LineaForm {
   int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
-  Colore colore = kNero;
+  Colore colore;
   int spessore = 1;
 };
 

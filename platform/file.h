@@ -53,8 +53,9 @@ inline constexpr std::size_t kRigaMassima = 1 << 20;
 /// always the next one, what is left of the item's line is passed over.
 class FileInLettura {
  public:
-  /// Nothing when the file is not there or cannot be opened; anything but a regular file cannot be.
-  [[nodiscard]] static std::optional<FileInLettura> Apri(const Testo& percorso);
+  /// Nothing when the file is not there or cannot be opened, and the system's reason to `motivo`; anything
+  /// but a regular file cannot be.
+  [[nodiscard]] static std::optional<FileInLettura> Apri(const Testo& percorso, Testo* motivo = nullptr);
 
   // --- Of a file that may be short or spoiled: nothing past its end, for a line longer than
   // kRigaMassima and for a fault of the host. Views hold until the next call.
@@ -79,8 +80,8 @@ class FileInLettura {
   /// Nothing but blank lines follows, and the character 26 that some editors put last.
   void PretendiFine();
 
-  /// The last reading had nothing because the host failed.
-  bool Guasto() const { return mancanza_ == Mancanza::Guasto; }
+  /// The system's reason why the last reading had nothing; "" where the host did not fail.
+  const Testo& MotivoGuasto() const { return guasto_; }
   /// Of all that was read, of the whole file once its end was.
   std::uint64_t ImprontaLetta() const { return impronta_; }
   /// Where the next item begins: its line, from 1, and how many characters of it belong to items before.
@@ -95,10 +96,10 @@ class FileInLettura {
   [[noreturn]] void Malformato(const Testo& cosa) const;
 
  private:
-  enum class Mancanza { FineFile, RigaLunga, Guasto };
+  enum class Mancanza { FineFile, RigaLunga };
 
   FileInLettura(const Testo& percorso, FileAperto file) : percorso_(percorso), file_(std::move(file)) {}
-  /// Makes the current line ready to be read from; otherwise mancanza_ says why there is none.
+  /// Makes the current line ready to be read from; otherwise mancanza_ and guasto_ say why there is none.
   bool Prepara();
   bool Riempi();
   std::optional<std::string_view> Voce(bool fineAlBlanco);
@@ -110,6 +111,7 @@ class FileInLettura {
   std::size_t letti_ = 0;    // characters of riga_ already taken
   bool rigaAperta_ = false;  // false: the next reading takes a new line
   Mancanza mancanza_ = Mancanza::FineFile;
+  Testo guasto_;
   int numero_ = 0;  // of riga_ in the file
   Testo buffer_;
   std::size_t posto_ = 0;  // of the next character in buffer_

@@ -8,7 +8,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
+
+#include "base/testo.h"
 
 namespace tarvel {
 
@@ -51,6 +54,9 @@ struct Ospite {
   /// Returns when the file's name, an entry of its folder, is on the disk.
   bool (*NomeSulDisco)(const std::string& percorso);
   bool (*Togli)(const std::string& percorso);
+
+  /// Why the last of these calls that failed did so; another call may change it.
+  std::error_code (*Motivo)();
 };
 
 /// The system's own calls.
@@ -58,5 +64,8 @@ extern const Ospite kOspiteSistema;
 
 /// The calls in use.
 const Ospite& OspiteDeiFile();
+
+/// Motivo in the user's words: "disco pieno"; the system's own number for what has none here.
+Testo MotivoOspite();
 
 }  // namespace tarvel

@@ -27,9 +27,9 @@ Reale AreaSolette(const GeometriaSezione& g) {
 
   const Punto superiore[] = {O(1), O(13), O(12), O(11), O(10), O(9), O(8), O(7), C(8),
                              C(7), C(6),  C(5),  C(4),  C(3),  C(2), O(4), O(3), O(2)};
-  // Bounded by verticals through the ends of the soffit: the lean of the webs is left out. The points
-  // left at (0, 0) are a detour that cancels on paper but not always in the last digit of a double, and
-  // the section file is to hold the digit with it.
+  // Verticals through the ends of the soffit bound the slab: the lean of the webs is left out. The nine
+  // points that stay at (0, 0) add an edge there and one back. On paper both cancel, in a double not always
+  // to the last digit, and the section file holds the digit with them.
   const Punto inferiore[18] = {{O(5).z, yR}, C(1), C(11), C(10),       C(9),
                                {O(6).z, yR}, O(6), O(5),  {O(5).z, yR}};
   return AreaPoligono(superiore) + AreaPoligono(inferiore);

@@ -1,5 +1,5 @@
-// Shear areas: strips of web and of slab, bounded by verticals. The strips overlap, which is
-// intended: Aty + Atz exceeds An.
+// Shear areas: strips of web and of slab, bounded by verticals. The strips are meant to overlap: Aty + Atz
+// exceeds An.
 #pragma once
 
 #include "model/parametri.h"
@@ -7,11 +7,11 @@
 
 namespace tarvel {
 
-/// Area of the two web strips, with the full depth of both slabs: the shear area along y. Their
-/// top is the top surface recomputed from its two outer slopes.
+/// The shear area along y: both web strips, with the full depth of the slabs. The top of a strip is the top
+/// surface, calculated anew from its outer slope.
 Reale AreaAnime(const GeometriaSezione& g, const VettoreParametri& p);
 
-/// Area of top and bottom slab: the shear area along z.
+/// The shear area along z: top and bottom slab.
 Reale AreaSolette(const GeometriaSezione& g);
 
 }  // namespace tarvel

@@ -40,8 +40,8 @@ struct CopieLavoro {
 inline void TraslaBaricentro(CopiaLavoro& copia) {
   for (Poligono* poligono : {&copia.poligono1, &copia.poligono2})
     for (int v = 1; v <= poligono->n; ++v) {
-      Estremo& e = poligono->vertici[v];
-      e = {e.z - copia.ZG, e.y - copia.YG};
+      const Punto p = (*poligono)[v];
+      poligono->vertici[v] = {p.z - copia.ZG, p.y - copia.YG};
     }
 }
 

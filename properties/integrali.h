@@ -11,18 +11,31 @@
 
 namespace tarvel {
 
-/// A vertex that keeps the powers of its abscissa: the integrals over both its edges need them, and so
-/// does every cut that passes through it. They are not checked, as not every integral reads them all: an
-/// outline too large for fourth powers still has an area.
-struct Estremo : Punto {
+/// A vertex with the powers of its abscissa: the integrals over both its edges need them, and so does every
+/// cut that passes through it. It is never moved, only replaced, so the powers always are its own. They are
+/// not checked, as not every integral reads them all: an outline too large for fourth powers still has an
+/// area.
+class Estremo {
+ public:
   Estremo() = default;
-  Estremo(Reale ascissa, Reale ordinata)
-      : Punto{ascissa, ordinata},
-        potenze{ascissa.Valore(), Potenza(ascissa.Valore(), 2), Potenza(ascissa.Valore(), 3),
-                Potenza(ascissa.Valore(), 4)} {}
-  Estremo(Punto p) : Estremo(p.z, p.y) {}
+  Estremo(Reale z, Reale y) : Estremo(Punto{z, y}) {}
+  Estremo(Punto p)
+      : punto_(p),
+        potenze_{p.z.Valore(), Potenza(p.z.Valore(), 2), Potenza(p.z.Valore(), 3), Potenza(p.z.Valore(), 4)} {
+  }
 
-  std::array<double, 4> potenze{};  // z, z², z³, z⁴
+  operator const Punto&() const { return punto_; }
+  /// The same abscissa at another height.
+  Estremo AllaQuota(Reale y) const {
+    Estremo e = *this;
+    e.punto_.y = y;
+    return e;
+  }
+  double PotenzaDiZ(int n) const { return potenze_[static_cast<std::size_t>(n - 1)]; }
+
+ private:
+  Punto punto_;
+  std::array<double, 4> potenze_{};  // z, z², z³, z⁴
 };
 
 /// An edge that is not vertical, on its line y = PendenzaSegmento z + TermineNotoSegmento.
@@ -32,29 +45,28 @@ struct Segmento {
   Reale PendenzaSegmento, TermineNotoSegmento;
 
   /// The value of formula(d, m, q), where d(n) is z2^n - z1^n. It is evaluated in plain doubles, with one
-  /// check at the end: sums, products and powers never turn finite again what is not. Only after a fault
-  /// it is gone through once more in checked numbers, for the very operation that failed to report it.
-  /// So a formula neither compares nor divides by anything but constants.
+  /// check at the end: sums, products and powers never make a finite number of one that is not. Only after a
+  /// fault the formula is evaluated once more in checked numbers, so that the operation that failed reports
+  /// it. So a formula neither compares nor divides by anything but constants.
   template <class Formula>
   Reale Integra(const Formula& formula) const {
-    const auto d = [this](int n) {
-      const auto i = static_cast<std::size_t>(n - 1);
-      return a.potenze[i] - da.potenze[i];
-    };
-    const double valore = formula(d, PendenzaSegmento.Valore(), TermineNotoSegmento.Valore());
+    const double valore = formula([this](int n) { return a.PotenzaDiZ(n) - da.PotenzaDiZ(n); },
+                                  PendenzaSegmento.Valore(), TermineNotoSegmento.Valore());
     if (Finito(valore)) [[likely]]
       return valore;
-    return formula([this](int n) { return Potenza(a.z, n) - Potenza(da.z, n); }, PendenzaSegmento,
+    const Punto &p1 = da, &p2 = a;
+    return formula([&](int n) { return Potenza(p2.z, n) - Potenza(p1.z, n); }, PendenzaSegmento,
                    TermineNotoSegmento);
   }
 };
 
 /// Nothing for an edge with |z1 - z2| within the tolerance: it contributes to no integral.
 inline std::optional<Segmento> SegmentoDi(const Estremo& da, const Estremo& a) {
-  const Reale corsa = a.z - da.z;
+  const Punto &p1 = da, &p2 = a;
+  const Reale corsa = p2.z - p1.z;
   if (Assoluto(corsa) <= kTolleranza) return std::nullopt;
-  const Reale m = (a.y - da.y) / corsa;
-  return Segmento{da, a, m, da.y - m * da.z};
+  const Reale m = (p2.y - p1.y) / corsa;
+  return Segmento{da, a, m, p1.y - m * p1.z};
 }
 
 /// Integral of dA by the trapezoid, also for vertical edges.
@@ -95,17 +107,19 @@ inline Reale MomCentrifugo(const Segmento& s) {
   });
 }
 
-/// Calls lavoro(from, to) for each edge of a closed polygon, the closing one last.
-template <class Vertice, class Lavoro>
-void PerOgniLato(std::span<const Vertice> vertici, const Lavoro& lavoro) {
+/// Calls lavoro(edge) for each edge of a closed polygon that is not vertical, the closing one last.
+template <class Lavoro>
+void PerOgniSegmento(std::span<const Estremo> vertici, const Lavoro& lavoro) {
   const std::size_t n = vertici.size();
-  for (std::size_t v = 0; v < n; ++v) lavoro(vertici[v], vertici[v + 1 < n ? v + 1 : 0]);
+  for (std::size_t v = 0; v < n; ++v)
+    if (const auto s = SegmentoDi(vertici[v], vertici[v + 1 < n ? v + 1 : 0])) lavoro(*s);
 }
 
 /// Sum of AreaTrapezio over a closed polygon.
 inline Reale AreaPoligono(std::span<const Punto> vertici) {
   Reale area;
-  PerOgniLato<Punto>(vertici, [&](Punto da, Punto a) { area += AreaTrapezio(da, a); });
+  const std::size_t n = vertici.size();
+  for (std::size_t v = 0; v < n; ++v) area += AreaTrapezio(vertici[v], vertici[v + 1 < n ? v + 1 : 0]);
   return area;
 }
 

@@ -1,4 +1,4 @@
-// The first edge that qualifies wins; horizontal edges take one of their ends.
+// Of the edges that the axis crosses, the first one counts.
 #include "sheartorsion/asse.h"
 
 namespace tarvel {
@@ -7,35 +7,16 @@ namespace {
 constexpr int kUltimoLato = 5;
 constexpr int kLatoDiChiusura = 11;
 
-Reale Interpola(Punto a, Punto b, Reale y) {
-  return a.z + (b.z - a.z) / (b.y - a.y) * (y - a.y);
-}
-
-bool Orizzontale(Punto a, Punto b) {
-  return Assoluto(b.y - a.y) <= kTolleranza;
-}
-
 int Cerca(const auto& attraversato) {
   for (int lato = 1; lato <= kUltimoLato; ++lato)
     if (attraversato(lato)) return lato;
   return 0;
 }
 
-// On horizontal edges the choice of the end compares an abscissa with an ordinate. As geometry it means
-// nothing, but the stored stresses of point 14 depend on it.
-Reale AscissaEsterna(Punto a, Punto b, Reale y) {
-  if (Orizzontale(a, b)) return b.z >= a.y ? b.z : a.z;
-  return Interpola(a, b, y);
-}
-
-Reale AscissaInterna(Punto a, Punto b, Reale y) {
-  if (Orizzontale(a, b)) return b.z <= a.y ? b.z : a.z;
-  return Interpola(a, b, y);
-}
-
-Reale AscissaChiusura(Punto c11, Punto c1, Reale y) {
-  if (Orizzontale(c11, c1)) return c1.z > c11.y ? c11.z : c1.z;
-  return Interpola(c11, c1, y);
+// Where the edge from a to b has the height y; of a horizontal edge its first or its second end.
+Reale Ascissa(Punto a, Punto b, Reale y, bool secondo) {
+  if (Assoluto(b.y - a.y) <= kTolleranza) return secondo ? b.z : a.z;
+  return a.z + (b.z - a.z) / (b.y - a.y) * (y - a.y);
 }
 
 }  // namespace
@@ -50,9 +31,12 @@ AsseBaricentrico CercaAsseBaricentrico(RecordSezione& r) {
 
   r.PuntoY[14] = YG;
   r.PuntoY[15] = YG;
-  r.PuntoZ[14] = AscissaEsterna(r.O(esterno), r.O(esterno + 1), YG);
-  r.PuntoZ[15] = interno == kLatoDiChiusura ? AscissaChiusura(r.C(11), r.C(1), YG)
-                                            : AscissaInterna(r.C(interno), r.C(interno + 1), YG);
+  // Comparing an abscissa with an ordinate to choose the end means nothing as geometry, but the stored
+  // stresses of point 14 depend on it.
+  const Punto o1 = r.O(esterno), o2 = r.O(esterno + 1);
+  r.PuntoZ[14] = Ascissa(o1, o2, YG, o2.z >= o1.y);
+  const Punto c1 = r.C(interno), c2 = r.C(interno == kLatoDiChiusura ? 1 : interno + 1);
+  r.PuntoZ[15] = Ascissa(c1, c2, YG, c2.z <= c1.y);
   return {true, esterno, interno};
 }
 

@@ -1,40 +1,59 @@
 // The width of the wall at each characteristic point, by which its shear flow is divided.
 #pragma once
 
-#include "model/parametri.h"
-#include "properties/copia_lavoro.h"
+#include "model/geometria.h"
+#include "sheartorsion/tagli.h"
 
 namespace tarvel {
 
-/// What widths are measured on.
-struct Pareti {
-  const RecordSezione& r;  // as built, with its characteristic points
-  const CopiaLavoro& SezioneBaricentrica;
-  const VettoreParametri& p;
-};
-
-using Larghezza = Reale (*)(const Pareti&);
+using Larghezza = Reale (*)(const SezioneInEsame&);
 
 namespace larghezza {
 
-Reale Nulla(const Pareti&);                     // points 1 and 5, at the tips
-Reale SolettaAlColmoSinistro(const Pareti& s);  // point 2, signed
-Reale SolettaInMezzeria(const Pareti& s);       // point 3, signed
-Reale SolettaAlColmoDestro(const Pareti& s);    // point 4, signed
-Reale Piede(const Pareti& s);                   // points 6 and 7, across the fillet of the bottom slab
-Reale Anima(const Pareti& s);                   // points 8 and 9, across the lean of the web
-Reale AnimaPerTorsione(const Pareti& s);        // points 8 and 9
-Reale SommitaAnima(const Pareti& s);            // point 8, from the top surface down to O4
-Reale SolettaInferiore(const Pareti& s);        // point 10, the dimension as it is, signed
-Reale SolettaAlRaccordo(const Pareti& s);       // point 11, signed
-Reale Fondo(const Pareti& s);                   // point 12, and 10 along z: the slab as built, signed
-Reale AttaccoSbalzo(const Pareti& s);           // point 13
-Reale AnimaSullAsse(const Pareti& s);           // point 14, at the height of the centroid, signed
+// The height of the triangle between O5 and the fillet's slope, as twice its area over its side; the distance
+// of O5 from the fillet where the triangle has no area.
+inline Reale AttraversoRaccordo(const CopiaLavoro& c) {
+  const Punto triangolo[] = {c.O(5), c.C(1), c.C(11)};
+  const Reale A = Assoluto(AreaPoligono(triangolo));
+  return A > kTolleranza ? 2 * A / Distanza(c.C(1), c.C(11)) : Distanza(c.C(1), c.O(5));
+}
+
+// clang-format off
+
+inline constexpr Larghezza
+    // Points 1 and 5, at the tips.
+    Nulla                  = [](auto&)   { return Reale(0); },
+    // Points 2, 3 and 4, signed.
+    SolettaAlColmoSinistro = [](auto& s) { return s.r.O(13).y - s.r.C(4).y; },
+    SolettaInMezzeria      = [](auto& s) { return s.r.O(12).y - s.r.C(5).y; },
+    SolettaAlColmoDestro   = [](auto& s) { return s.r.O(11).y - s.r.C(6).y; },
+    // Points 6 and 7, across the fillet of the bottom slab.
+    Piede                  = [](auto& s) { return AttraversoRaccordo(s.copie.SezioneBaricentrica); },
+    // Points 8 and 9, across the lean of the web. The one for torsion lacks the root: the stored stresses and
+    // labels depend on both.
+    Anima                  = [](auto& s) {
+      return Assoluto((s.r.C(2).z - s.r.O(4).z) * Radice(1 + Potenza(s.p[kInclinazioneAnime] / 100, 2)));
+    },
+    AnimaPerTorsione       = [](auto& s) {
+      return Assoluto((1 + Potenza(s.p[kInclinazioneAnime] / 100, 2)) * (s.r.C(2).z - s.r.O(4).z));
+    },
+    // Point 8 along z, from the top surface down to O4.
+    SommitaAnima           = [](auto& s) { return Assoluto(TettoSinistro(s.p, s.r.O(4).z) - s.r.O(4).y); },
+    // Point 10, the dimension as it is, signed.
+    SolettaInferiore       = [](auto& s) { return s.p[kSolettaInferiore]; },
+    // Point 11, signed.
+    SolettaAlRaccordo      = [](auto& s) { return s.r.P(11).y - s.r.C(3).y; },
+    // Point 12, and 10 along z: the slab as built, signed.
+    Fondo                  = [](auto& s) { return s.r.C(11).y - s.r.O(5).y; },
+    // Point 13.
+    AttaccoSbalzo          = [](auto& s) { return Assoluto(s.r.P(13).y - s.r.O(3).y); },
+    // Point 14, at the height of the centroid, signed.
+    AnimaSullAsse          = [](auto& s) { return s.r.P(15).z - s.r.P(14).z; };
+
+// clang-format on
 
 template <Larghezza L>
-Reale Modulo(const Pareti& s) {
-  return Assoluto(L(s));
-}
+inline constexpr Larghezza Modulo = [](auto& s) { return Assoluto(L(s)); };
 
 }  // namespace larghezza
 }  // namespace tarvel

@@ -1,25 +1,15 @@
 // The cut-off parts of the section, whose static moments give the shear flows (Jourawski).
 #pragma once
 
-#include <span>
-
 #include "model/parametri.h"
 #include "properties/copia_lavoro.h"
 #include "sheartorsion/asse.h"
 
 namespace tarvel {
 
-struct MomentiStatici {
-  Reale MomStaticoParteZ;  // ∫ y dA
-  Reale MomStaticoParteY;  // ∫ z dA
-};
-
-/// Static moments of a closed polygon times the sign k, by the edge integrals; vertical edges
-/// contribute nothing.
-[[nodiscard]] MomentiStatici MomentiStaticiPoligono(std::span<const Estremo> vertici, int k);
-
-/// What the cuts are made on.
-struct Tagliabile {
+/// The section whose stresses are calculated: what parts are cut from and widths are measured on.
+struct SezioneInEsame {
+  const RecordSezione& r;  // as built, with its characteristic points
   const CopieLavoro& copie;
   const VettoreParametri& p;
   const AsseBaricentrico& asse;
@@ -38,10 +28,10 @@ CoefficientiVz CoefficientiDi(const CopiaLavoro& parte, Reale quota);
 
 /// The flow of a unit shear along y at points 2, 6, 8, 9, 10, 11, 13 and 14. At point 14 the crossings of
 /// the centroidal axis bound the part; crossings that need more than 13 corners are a fatal index error.
-[[nodiscard]] Reale FlussoVy(const Tagliabile& s, int punto, const CoefficientiVy& c);
+[[nodiscard]] Reale FlussoVy(const SezioneInEsame& s, int punto, const CoefficientiVy& c);
 
 /// The flow of a unit shear along z, on the upper part at points 2, 3, 4, 8 and 11, on the lower one at 10
 /// and 12, on the whole section at 13.
-[[nodiscard]] Reale FlussoVz(const Tagliabile& s, int punto, const CoefficientiVz& c);
+[[nodiscard]] Reale FlussoVz(const SezioneInEsame& s, int punto, const CoefficientiVz& c);
 
 }  // namespace tarvel

@@ -1,6 +1,8 @@
-// Points first, then torsion with the labels, then the two shear directions: the order in which the
-// fields are written. One table for each, one row a point, in the order in which they are written too.
+// Points, torsion with the labels, shear along y and along z: the fields are written in this order, since a
+// fault leaves what was written before it. The rows of a table, one a point, are in that order too.
 #include "sheartorsion/tau_punti.h"
+
+#include <algorithm>
 
 #include "base/numeri.h"
 #include "base/tronca.h"
@@ -14,85 +16,81 @@ namespace {
 
 using namespace larghezza;  // for the tables
 
-enum class TensioneT {
-  Zero,
-  Piu,           // qT by the width
-  Meno,          // -qT by the width
-  Del2,          // that of point 2
-  Del10,         // that of point 10
-  MinoreDi9e10,  // the smaller magnitude, negative
-};
+Reale Tensione(Reale flusso, Reale larghezza) {
+  return larghezza > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
+}
+
+// Torsion tests the magnitude of a width, and divides by the width with its sign.
+Reale TensioneConSegno(Reale flusso, Reale larghezza) {
+  return Assoluto(larghezza) > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
+}
 
 struct RigaTorsione {
   int punto;
-  int tag;              // of the label; -1: none is written here
-  Larghezza larghezza;  // in the label, and of the wall
-  TensioneT tensione;
+  int tag;              // in the label; -1: the label is written with the shear along y
+  Larghezza larghezza;  // of the wall, also in the label
+  Reale (*tensione)(const RecordSezione& r, Reale qT, Reale larghezza);
   int indicatore;
 };
 
-enum class TensioneVy {
-  Zero,
-  Intero,  // the flow by the width
-  Meta,    // half of it: it parts to both sides
-  OppostoDel2,
-  OppostoDel6,
-};
-
-struct RigaVy {
+struct RigaTaglio {
   int punto;
   Larghezza larghezza;
-  TensioneVy tensione;
+  double quota;  // of the flow, with its sign: a half where it parts to both sides, 0 where there is none
   int indicatore;
-};
-
-struct RigaVz {
-  int punto;
-  Larghezza larghezza;
-  int segno;  // of the flow; 0: no stress
-  int indicatore;
+  int opposto = 0;  // the point whose stress is taken, with the other sign
 };
 
 // clang-format off
 
+constexpr auto Zero         = [](auto&, Reale, Reale) { return Reale(0); };
+constexpr auto Piu          = [](auto&, Reale qT, Reale w) { return TensioneConSegno(qT, w); };
+constexpr auto Meno         = [](auto&, Reale qT, Reale w) { return TensioneConSegno(-qT, w); };
+constexpr auto Del2         = [](auto& r, Reale, Reale) { return r.TauT[2]; };
+constexpr auto Del10        = [](auto& r, Reale, Reale) { return r.TauT[10]; };
+constexpr auto MinoreDi9e10 = [](auto& r, Reale, Reale) {
+  return -std::min(Assoluto(r.TauT[9]), Assoluto(r.TauT[10]));
+};
+
+// Point 14 is the last row of torsion and of shear along y, which leave it out where the axis crosses no web.
 constexpr RigaTorsione kTorsione[] = {
     // point, TAG, width, stress, indicator
-    { 1,  2, Nulla,                  TensioneT::Zero,         2},
-    { 2,  0, SolettaAlColmoSinistro, TensioneT::Piu,          2},
-    { 3,  2, SolettaInMezzeria,      TensioneT::Piu,          2},
-    { 4,  0, SolettaAlColmoDestro,   TensioneT::Del2,         2},
-    { 5,  2, Nulla,                  TensioneT::Zero,         2},
-    { 8,  0, AnimaPerTorsione,       TensioneT::Meno,         1},
-    { 9,  0, AnimaPerTorsione,       TensioneT::Meno,         1},
-    {10,  2, SolettaInferiore,       TensioneT::Meno,         2},
-    { 6, -1, Nulla,                  TensioneT::MinoreDi9e10, 2},
-    { 7, -1, Nulla,                  TensioneT::MinoreDi9e10, 2},
-    {11,  2, SolettaAlRaccordo,      TensioneT::Piu,          2},
-    {12,  2, Fondo,                  TensioneT::Del10,        2},
-    {13,  1, AttaccoSbalzo,          TensioneT::Zero,         1},
-    {14,  1, AnimaSullAsse,          TensioneT::Piu,          1},
+    { 1,  2, Nulla,                  Zero,         2},
+    { 2,  0, SolettaAlColmoSinistro, Piu,          2},
+    { 3,  2, SolettaInMezzeria,      Piu,          2},
+    { 4,  0, SolettaAlColmoDestro,   Del2,         2},
+    { 5,  2, Nulla,                  Zero,         2},
+    { 8,  0, AnimaPerTorsione,       Meno,         1},
+    { 9,  0, AnimaPerTorsione,       Meno,         1},
+    {10,  2, SolettaInferiore,       Meno,         2},
+    { 6, -1, Nulla,                  MinoreDi9e10, 2},
+    { 7, -1, Nulla,                  MinoreDi9e10, 2},
+    {11,  2, SolettaAlRaccordo,      Piu,          2},
+    {12,  2, Fondo,                  Del10,        2},
+    {13,  1, AttaccoSbalzo,          Zero,         1},
+    {14,  1, AnimaSullAsse,          Piu,          1},
 };
 
-constexpr RigaVy kTaglioVy[] = {
-    // point, width, stress, indicator
-    { 1, Nulla,                          TensioneVy::Zero,        2},
-    { 5, Nulla,                          TensioneVy::Zero,        2},
-    { 8, Anima,                          TensioneVy::Intero,      1},
-    { 9, Anima,                          TensioneVy::Intero,      1},
-    {10, SolettaInferiore,               TensioneVy::Meta,        2},
-    {12, Nulla,                          TensioneVy::Zero,        2},
-    { 6, Piede,                          TensioneVy::Meta,        2},
-    { 7, Piede,                          TensioneVy::OppostoDel6, 2},
-    { 2, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta,        2},
-    { 4, Nulla,                          TensioneVy::OppostoDel2, 2},
-    { 3, Nulla,                          TensioneVy::Zero,        2},
-    {11, Modulo<SolettaAlColmoSinistro>, TensioneVy::Meta,        2},  // the width of point 2, not its own
-    {13, AttaccoSbalzo,                  TensioneVy::Intero,      2},
-    {14, Modulo<AnimaSullAsse>,          TensioneVy::Intero,      1},
+constexpr RigaTaglio kTaglioVy[] = {
+    // point, width, share of the flow, indicator, opposite point
+    { 1, Nulla,                          0,  2},
+    { 5, Nulla,                          0,  2},
+    { 8, Anima,                          1,  1},
+    { 9, Anima,                          1,  1},
+    {10, SolettaInferiore,               .5, 2},
+    {12, Nulla,                          0,  2},
+    { 6, Piede,                          .5, 2},
+    { 7, Piede,                          0,  2, 6},
+    { 2, Modulo<SolettaAlColmoSinistro>, .5, 2},
+    { 4, Nulla,                          0,  2, 2},
+    { 3, Nulla,                          0,  2},
+    {11, Modulo<SolettaAlColmoSinistro>, .5, 2},  // the width of point 2, not its own
+    {13, AttaccoSbalzo,                  1,  2},
+    {14, Modulo<AnimaSullAsse>,          1,  1},
 };
 
-constexpr RigaVz kTaglioVzSuperiore[] = {
-    // point, width, sign, indicator
+constexpr RigaTaglio kTaglioVzSuperiore[] = {
+    // point, width, share of the flow, indicator
     { 1, Nulla,                           0, 1},
     { 5, Nulla,                           0, 1},
     { 2, Modulo<SolettaAlColmoSinistro>, -1, 2},
@@ -104,7 +102,7 @@ constexpr RigaVz kTaglioVzSuperiore[] = {
     {14, Nulla,                           0, 1},
 };
 
-constexpr RigaVz kTaglioVzInferiore[] = {
+constexpr RigaTaglio kTaglioVzInferiore[] = {
     { 9, Nulla,          0, 1},
     { 6, Nulla,          0, 1},
     { 7, Nulla,          0, 1},
@@ -113,15 +111,6 @@ constexpr RigaVz kTaglioVzInferiore[] = {
 };
 
 // clang-format on
-
-Reale Tensione(Reale flusso, Reale larghezza) {
-  return larghezza > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
-}
-
-// For torsion a negative width counts by its magnitude and divides with its sign.
-Reale TensioneConSegno(Reale flusso, Reale larghezza) {
-  return Assoluto(larghezza) > kTolleranza ? flusso / larghezza : Reale(kSenzaLarghezza);
-}
 
 void ScriviEtichetta(RecordSezione& r, int punto, int tag, Reale larghezza) {
   r.EtichettaPunto[punto].Componi({"NODO ", std::to_string(punto), " TAG", std::to_string(tag), "_",
@@ -140,76 +129,48 @@ void ScriviPunti(RecordSezione& r, const VettoreParametri& p) {
   r.ImpostaPunto(13, sulTetto(r.O(3).z));
 }
 
-void Torsione(RecordSezione& r, const Pareti& pareti, bool TrovatoAsse, Reale qT) {
-  const auto tensione = [&](TensioneT quale, Reale larghezza) -> Reale {
-    switch (quale) {
-      case TensioneT::Zero:
-        return 0;
-      case TensioneT::Piu:
-        return TensioneConSegno(qT, larghezza);
-      case TensioneT::Meno:
-        return TensioneConSegno(-qT, larghezza);
-      case TensioneT::Del2:
-        return r.TauT[2];
-      case TensioneT::Del10:
-        return r.TauT[10];
-      case TensioneT::MinoreDi9e10:
-        break;
-    }
-    return -Minimo(Assoluto(r.TauT[9]), Assoluto(r.TauT[10]));
-  };
-  for (const auto& riga : kTorsione) {
-    if (riga.punto == 14 && !TrovatoAsse) continue;
-    const Reale larghezza = riga.larghezza(pareti);
+void Torsione(RecordSezione& r, const SezioneInEsame& s, Reale qT) {
+  for (const auto& riga : std::span(kTorsione).first(s.asse.TrovatoAsse ? 14 : 13)) {
+    const Reale larghezza = riga.larghezza(s);
     if (riga.tag >= 0) ScriviEtichetta(r, riga.punto, riga.tag, larghezza);
-    r.TauT[riga.punto] = tensione(riga.tensione, larghezza);
+    r.TauT[riga.punto] = riga.tensione(r, qT, larghezza);
     r.IndicatoreTauT[riga.punto] = riga.indicatore;
   }
-  r.NumPunti = TrovatoAsse ? 14 : 13;
+  r.NumPunti = s.asse.TrovatoAsse ? 14 : 13;
 }
 
-void TaglioLungoY(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
-  const CoefficientiVy c = CoefficientiDi(s.copie.SezioneBaricentrica);
-  const auto tensione = [&](TensioneVy quale, int punto, Reale larghezza) -> Reale {
-    switch (quale) {
-      case TensioneVy::Zero:
-        return 0;
-      case TensioneVy::Intero:
-        return Tensione(FlussoVy(s, punto, c), larghezza);
-      case TensioneVy::Meta:
-        return Tensione(FlussoVy(s, punto, c) / 2, larghezza);
-      case TensioneVy::OppostoDel2:
-        return -r.TauVy[2];
-      case TensioneVy::OppostoDel6:
-        break;
-    }
-    return -r.TauVy[6];
-  };
-  for (const auto& riga : kTaglioVy) {
-    if (riga.punto == 14 && !s.asse.TrovatoAsse) continue;
-    const Reale larghezza = riga.larghezza(pareti);
-    r.TauVy[riga.punto] = tensione(riga.tensione, riga.punto, larghezza);
-    r.IndicatoreTauVy[riga.punto] = riga.indicatore;
-    // Points 6 and 7 have no width of torsion to show.
-    if (riga.larghezza == &Piede) ScriviEtichetta(r, riga.punto, 2, larghezza);
+// `flusso` gives the flow of a unit shear at a point.
+void Taglio(RecordSezione& r, const SezioneInEsame& s, std::span<const RigaTaglio> righe, auto& tau,
+            auto& indicatori, const auto& flusso) {
+  for (const auto& [punto, larghezza, quota, indicatore, opposto] : righe) {
+    const Reale w = larghezza(s);
+    tau[punto] = opposto > 0 ? -tau[opposto] : quota != 0 ? Tensione(quota * flusso(punto), w) : Reale(0);
+    indicatori[punto] = indicatore;
+    // The labels of points 6 and 7, whose torsion has no width.
+    if (larghezza == Piede) ScriviEtichetta(r, punto, 2, w);
   }
 }
 
-void TaglioLungoZ(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
+void TaglioLungoY(RecordSezione& r, const SezioneInEsame& s) {
+  const CoefficientiVy c = CoefficientiDi(s.copie.SezioneBaricentrica);
+  Taglio(r, s, std::span(kTaglioVy).first(s.asse.TrovatoAsse ? 14 : 13), r.TauVy, r.IndicatoreTauVy,
+         [&](int punto) { return FlussoVy(s, punto, c); });
+}
+
+void TaglioLungoZ(RecordSezione& r, const SezioneInEsame& s) {
   const CopiaLavoro& superiore = s.copie.ParteSuperiore;
   const CopiaLavoro& inferiore = s.copie.ParteInferiore;
   const Reale area = inferiore.An + superiore.An;
   if (Assoluto(area) <= kTolleranza) {
-    for (int punto = 1; punto <= 14; ++punto) r.TauVz[punto] = 0;
+    for (int punto = 1; punto <= 14; ++punto) {
+      r.TauVz[punto] = 0;
+      r.IndicatoreTauVz[punto] = 2;
+    }
     for (const int punto : {1, 5, 6, 7, 9}) r.IndicatoreTauVz[punto] = 1;
-    for (const int punto : {2, 3, 4, 8, 10, 11, 12, 13, 14}) r.IndicatoreTauVz[punto] = 2;
     return;
   }
-  const auto scrivi = [&](std::span<const RigaVz> righe, const CoefficientiVz& c) {
-    for (const auto& [punto, larghezza, segno, indicatore] : righe) {
-      r.TauVz[punto] = segno == 0 ? Reale(0) : Tensione(segno * FlussoVz(s, punto, c), larghezza(pareti));
-      r.IndicatoreTauVz[punto] = indicatore;
-    }
+  const auto scrivi = [&](std::span<const RigaTaglio> righe, const CoefficientiVz& c) {
+    Taglio(r, s, righe, r.TauVz, r.IndicatoreTauVz, [&](int punto) { return FlussoVz(s, punto, c); });
   };
   scrivi(kTaglioVzSuperiore, CoefficientiDi(superiore, superiore.An / area));
   scrivi(kTaglioVzInferiore, CoefficientiDi(inferiore, inferiore.An / area));
@@ -218,16 +179,14 @@ void TaglioLungoZ(RecordSezione& r, const Pareti& pareti, const Tagliabile& s) {
 }  // namespace
 
 void CalcolaTauPunti(RecordSezione& r, CopieLavoro& copie, const VettoreParametri& p, Reale qT) {
-  CopiaLavoro& intera = copie.SezioneBaricentrica;
   ScriviPunti(r, p);
   const AsseBaricentrico asse = CercaAsseBaricentrico(r);
-  for (const int punto : {9, 13, 14, 15}) intera.punti[punto] = {r.P(punto).z - r.ZG, r.P(punto).y - r.YG};
-
-  const Pareti pareti{r, intera, p};
-  const Tagliabile tagliabile{copie, p, asse};
-  Torsione(r, pareti, asse.TrovatoAsse, qT);
-  TaglioLungoY(r, pareti, tagliabile);
-  TaglioLungoZ(r, pareti, tagliabile);
+  for (const int punto : {9, 13, 14, 15})
+    copie.SezioneBaricentrica.punti[punto] = {r.P(punto).z - r.ZG, r.P(punto).y - r.YG};
+  const SezioneInEsame s{r, copie, p, asse};
+  Torsione(r, s, qT);
+  TaglioLungoY(r, s);
+  TaglioLungoZ(r, s);
 }
 
 }  // namespace tarvel

@@ -6,7 +6,7 @@
 
 namespace tarvel {
 
-/// A stress whose width is within the tolerance of zero.
+/// Stands for a stress where the wall has no width: none greater than the tolerance.
 inline constexpr double kSenzaLarghezza = 1e10;
 
 /// Writes the points, labels, indicators and stresses of `r` for a unit torque (flow qT = 1/(2Ω)),

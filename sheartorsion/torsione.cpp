@@ -27,7 +27,7 @@ LineaMediana Mediana(const GeometriaSezione& g, const VettoreParametri& p) {
   M[8] = {(C(8).z + O(7).z) / 2, (O(7).y + C(8).y) / 2};
   M[9] = {(O(7).z - C(8).z) / 2 + C(9).z, C(9).y};
   M[10] = {C(10).z, (O(6).y + C(10).y) / 2};
-  M[11] = {C(11).z, M[10].y};  // the ordinate of the right end for both: a level slab
+  M[11] = {C(11).z, M[10].y};  // the bottom slab is level: both ends have the ordinate of the right one
   M[12] = {C(1).z - (C(2).z - O(4).z) / 2, C(1).y};
   M[13] = {(O(4).z + C(2).z) / 2, (O(4).y + C(2).y) / 2};
   return M;
@@ -75,7 +75,8 @@ std::optional<Reale> TrattoSpessoreVariabile(Reale t1, Reale t2, Reale s) {
   if (s <= kTolleranza) return 0;
   if (t1 < kTolleranza || t2 < kTolleranza) return std::nullopt;
   const Reale salto = Assoluto(t2 - t1);
-  // A thickness, or a difference of both, of exactly the tolerance is neither one case nor the other.
+  // A thickness of exactly the tolerance, or such a difference of both, belongs to neither case and adds
+  // nothing.
   if (t1 == kTolleranza || t2 == kTolleranza || salto == kTolleranza) return 0;
   return salto > kTolleranza ? s / (t2 - t1) * Logaritmo(t2 / t1) : s / t1;
 }

@@ -13,7 +13,7 @@ namespace tarvel {
 [[nodiscard]] Reale CalcolaTorsione(const GeometriaSezione& g, const VettoreParametri& p, Reale& Jt);
 
 /// ∫ds/t of a wall of length s whose thickness varies linearly from t1 to t2: s/(t2-t1)·ln(t2/t1), or
-/// s/t where it is even; 0 without a length. Nothing for a wall of no thickness.
+/// s/t where the thickness is constant; 0 without a length. Nothing for a wall of no thickness.
 [[nodiscard]] std::optional<Reale> TrattoSpessoreVariabile(Reale t1, Reale t2, Reale s);
 
 }  // namespace tarvel

@@ -26,8 +26,6 @@ inline VettoreParametri Esempio() {
 /// The program's state as the main form's load leaves it, with these parameters and an empty table.
 inline void Prepara(const VettoreParametri& p) {
   ParametriSezione = p;
-  VerticiPoligono[1] = 13;
-  VerticiPoligono[2] = 11;
   NumeroSezioni = NumeroSezioniFile = 0;
   SezioneCorrente = 1;
   SezioneCalcolata = false;

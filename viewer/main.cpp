@@ -1,9 +1,9 @@
-// The companion viewer: started beside the program it shows its drawings in a window; with
-// --esporta it converts drawings without a window.
+// The companion viewer shows the program's drawings in a window; with --esporta it converts drawings without
+// one.
 #include <QApplication>
+#include <QLocale>
 #include <QScreen>
 #include <algorithm>
-#include <cstdio>
 #include <variant>
 
 #include "platform/comune/argomenti.h"
@@ -20,7 +20,7 @@ namespace {
 
 constexpr char kFileAvvio[] = "ostrel.inp";
 
-// The working folder is the program's own where the preview starts it.
+// The preview starts the viewer with the viewer's own folder as the working folder; others may not.
 std::optional<Avvio> CercaAvvio() {
   if (auto avvio = LeggiAvvio(kFileAvvio)) return avvio;
   const std::string cartella = QCoreApplication::applicationDirPath().toStdString();
@@ -40,7 +40,7 @@ void Disponi(QWidget& finestra, const tarvel::Rettangolo& posto) {
 
 int MostraInFinestra(const Richieste& richieste) {
   const auto avvio = CercaAvvio();
-  Finestra finestra(richieste.sorveglia);
+  Finestra finestra(richieste.sorveglia, QLocale::system().decimalPoint());
   Disponi(finestra, avvio.value_or(Avvio{}).posto);
   finestra.show();
   if (!richieste.disegni.isEmpty())
@@ -55,28 +55,20 @@ int MostraInFinestra(const Richieste& richieste) {
 
 int Esegui(int argc, char** argv) {
   const auto lette = LeggiRichieste(tarvel::Argomenti(argc, argv));
-  const auto* const richieste = std::get_if<Richieste>(&lette);
-  if (!richieste) {
+  if (const auto* const congedo = std::get_if<tarvel::Congedo>(&lette)) {
     tarvel::PreparaFlussi();
-    Dice(*std::get_if<QString>(&lette));
-    std::fputs("Come si usa: ostrel --aiuto\n", stderr);
-    return 2;
+    return tarvel::Congeda(*congedo);
   }
-  if (richieste->aiuto || richieste->versione) {
-    tarvel::PreparaFlussi();
-    const char* const testo = richieste->aiuto ? kAiuto : "ostrel " VERSIONE "\n";
-    return std::fputs(testo, stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
-  }
-  const bool esporta = !richieste->esporta.isEmpty();
+  const auto& richieste = *std::get_if<Richieste>(&lette);
+  const bool esporta = !richieste.esporta.isEmpty();
   if (esporta) {
-    // An export needs no display, nor does it look for one. Where the toolkit came without its plugin for
-    // that, the host's own will do.
+    // An export needs no display. A toolkit without the plugin for that uses its host's own.
     qputenv("QT_QPA_PLATFORM", "offscreen;windows");
     tarvel::PreparaFlussi();
   }
   const auto applicazione = tarvel::ApreSchermo(argc, argv);
   ParlaItaliano(*applicazione);
-  return esporta ? EsportaTutti(*richieste) : MostraInFinestra(*richieste);
+  return esporta ? EsportaTutti(richieste) : MostraInFinestra(richieste);
 }
 
 }  // namespace

@@ -1,19 +1,14 @@
-// Dimensions stand in tables, as on a drawing; the order of drawing is the order of the file.
+// Dimensions stand in tables. They are drawn in this order, which is the order of the file.
 #include "drawing/sezione/disegno_sezione.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/errore.h"
 #include "base/numeri.h"
 #include "base/tronca.h"
 #include "drawing/funz_disegno.h"
-#include "drawing/quota.h"
-#include "drawing/salva_dis_cond.h"
-#include "lavoro/cartelle.h"
-#include "lavoro/nome_disegno.h"
 #include "model/geometria.h"
-#include "model/tabella_sezioni.h"
-#include "options/opzioni.h"
 #include "platform/regione.h"
 
 namespace tarvel {
@@ -21,35 +16,6 @@ namespace tarvel {
 namespace {
 
 using disegno::Lato;
-
-// Of the dimension lines from the outline.
-Reale DistanzaQuote() {
-  return Minimo(Opzioni[kDistanzaMassima], ParametriSezione[kAltezzaTotale] / 2);
-}
-
-// Distances of a label from its dimension line: the standard side, and the other one.
-struct DistanzeTesto {
-  Reale standard, opposta;
-};
-
-DistanzeTesto DistanzeDelTesto() {
-  const Reale q = Opzioni[kSopraSotto] * Opzioni[kDistanzaTesto];
-  const int segno = q > 0 ? 1 : q < 0 ? -1 : 0;
-  const Reale altezza = Opzioni[kAltezzaTestoQuota];
-  return {Reale(segno - 1) / 2 * altezza + q, Reale(-1 - segno) / 2 * altezza - q};
-}
-
-disegno::StileQuota StileDelleQuote(Lato lato, Reale distanzaTesto) {
-  return {.coloreLinea = InteroPari(Opzioni[kColoreQuota]),
-          .coloreTesto = InteroPari(Opzioni[kColoreTestoQuota]),
-          .diametroPallino = Opzioni[kDimensionePallino],
-          .base = Opzioni[kBaseTestoQuota],
-          .altezza = Opzioni[kAltezzaTestoQuota],
-          .distanzaTesto = distanzaTesto,
-          .scala = Opzioni[kScalaQuote],
-          .estensione = Opzioni[kEstensione],
-          .lato = lato};
-}
 
 void DisegnaContorni(const GeometriaSezione& g) {
   for (const int p : {1, 2}) {
@@ -60,27 +26,27 @@ void DisegnaContorni(const GeometriaSezione& g) {
     };
     Durante(operazione, [&] {
       for (int k = 1; k < n; ++k) disegno::Linea(punto(k), punto(k + 1));
-      // Of a polygon without vertices too: that is fatal, rather than a drawing that lacks it.
+      // A polygon without vertices is fatal here, rather than missing in the drawing.
       disegno::Linea(punto(n), punto(1));
     });
   }
 }
 
-void DisegnaTitolo(const RecordSezione& r, Reale d) {
+void DisegnaTitolo(const RecordSezione& r, const StileSezione& stile, Reale d) {
   const disegno::StileQuota solaEtichetta{.coloreLinea = disegno::kSolaEtichetta,
-                                          .coloreTesto = InteroPari(Opzioni[kColoreTesti]),
+                                          .coloreTesto = stile.coloreTesti,
                                           .diametroPallino = 0,
-                                          .base = Opzioni[kBaseTesti],
-                                          .altezza = Opzioni[kAltezzaTesti],
-                                          .distanzaTesto = -Opzioni[kAltezzaTesti] / 2,
+                                          .base = stile.baseTesti,
+                                          .altezza = stile.altezzaTesti,
+                                          .distanzaTesto = -stile.altezzaTesti / 2,
                                           .scala = 1,
                                           .estensione = 0,
                                           .lato = Lato::Destra};
-  const Reale y = Massimo(r.O(1).y, r.O(10).y) + 3 * d;
+  const Reale y = std::max(r.O(1).y, r.O(10).y) + 3 * d;
   disegno::Quota("SEZIONE " + r.Nome, {r.O(1).z, y}, {r.O(10).z, y}, solaEtichetta);
 }
 
-void DisegnaCatene(const GeometriaSezione& g, Reale d, Reale T) {
+void DisegnaCatene(const GeometriaSezione& g, disegno::StileQuota stile, Reale d) {
   const auto O = [&](int v) { return g.O(v); };
   const auto C = [&](int v) { return g.C(v); };
   const Reale sopra = O(10).y;
@@ -91,25 +57,26 @@ void DisegnaCatene(const GeometriaSezione& g, Reale d, Reale T) {
     Reale y;
     Lato lato;
   } catene[] = {
-      {{O(1).z, O(10).z},                            2, sopra + 2 * d,                  Lato::Destra},    // overall
-      {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                      Lato::Destra},    // top
-      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, Minimo(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
-      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, Minimo(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
+      {{O(1).z, O(10).z},                            2, sopra + 2 * d,                    Lato::Destra},    // overall
+      {{O(1).z, O(13).z, O(12).z, O(11).z, O(10).z}, 5, sopra + d,                        Lato::Destra},    // top
+      {{O(1).z, O(3).z, O(4).z, C(2).z, C(3).z},     5, std::min(O(4).y, C(2).y) - d / 4, Lato::Sinistra},  // left
+      {{C(7).z, C(8).z, O(7).z, O(8).z, O(10).z},    5, std::min(O(7).y, C(8).y) - d / 4, Lato::Sinistra},  // right
   };
   // clang-format on
-  for (const auto& c : catene)
-    disegno::CatenaQuote(disegno::EtichetteCatena::Misure, {c.ascisse.data(), c.quante}, c.y,
-                         StileDelleQuote(c.lato, T));
+  for (const auto& c : catene) {
+    stile.lato = c.lato;
+    disegno::CatenaQuote(disegno::EtichetteCatena::Misure, {c.ascisse.data(), c.quante}, c.y, stile);
+  }
 }
 
 enum class Verso { Orizzontale, Verticale };
 
-void DisegnaQuote(const GeometriaSezione& g, Reale d, const DistanzeTesto& distanze) {
+void DisegnaQuote(const GeometriaSezione& g, const VettoreParametri& p, const StileSezione& stile, Reale d) {
   const auto O = [&](int v) { return g.O(v); };
   const auto C = [&](int v) { return g.C(v); };
-  // Height at a point's abscissa of the line of slope p16 through the top of the left tip.
-  const auto S = [&](Punto p) { return O(1).y + TettoSinistro(ParametriSezione, p.z); };
-  const auto [T, opposta] = distanze;
+  // Height, at a point's abscissa, of the line through the top of the left tip with the left slope.
+  const auto S = [&](Punto punto) { return O(1).y + TettoSinistro(p, punto.z); };
+  const Reale T = stile.quota.distanzaTesto, opposta = stile.distanzaOpposta;
   constexpr auto oriz = Verso::Orizzontale;
   constexpr auto vert = Verso::Verticale;
   constexpr auto sx = Lato::Sinistra, dx = Lato::Destra;
@@ -137,15 +104,17 @@ void DisegnaQuote(const GeometriaSezione& g, Reale d, const DistanzeTesto& dista
   };
   // clang-format on
   for (const auto& q : quote) {
-    const disegno::StileQuota stile = StileDelleQuote(q.lato, q.distanzaTesto);
+    disegno::StileQuota quota = stile.quota;
+    quota.lato = q.lato;
+    quota.distanzaTesto = q.distanzaTesto;
     if (q.verso == Verso::Orizzontale)
-      disegno::Quota({q.da, q.posto}, {q.a, q.posto}, stile);
+      disegno::Quota({q.da, q.posto}, {q.a, q.posto}, quota);
     else
-      disegno::Quota({q.posto, q.da}, {q.posto, q.a}, stile);
+      disegno::Quota({q.posto, q.da}, {q.posto, q.a}, quota);
   }
 }
 
-void DisegnaProprieta(const RecordSezione& r, Reale d) {
+void DisegnaProprieta(const RecordSezione& r, const StileSezione& stile, Reale d) {
   // clang-format off
   const struct {
     const char* etichetta;
@@ -162,44 +131,56 @@ void DisegnaProprieta(const RecordSezione& r, Reale d) {
       {"Jt :  ", r.Jt,  0},
   };
   // clang-format on
-  const Reale passo = Arrotondato(2 * Opzioni[kAltezzaTesti]);
-  const Intero16 colore = InteroPari(Opzioni[kColoreTesti]);
+  const Reale passo = Arrotondato(2 * stile.altezzaTesti);
   int n = 0;
   for (const auto& riga : righe) {
     Testo testo = riga.etichetta;
     AccodaNumero(testo, Tronca(riga.valore, riga.decimali), SeparatoreDecimale(), true);
     const Reale y = r.O(6).y - d / 2 - n++ * passo;
-    disegno::Testo(testo, {r.O(6).z + d, y}, 0, Opzioni[kBaseTesti], Opzioni[kAltezzaTesti], colore);
+    disegno::ScriviTesto(testo, {r.O(6).z + d, y}, 0, stile.baseTesti, stile.altezzaTesti, stile.coloreTesti);
   }
 }
 
 }  // namespace
 
-void DisegnaSezione(const RecordSezione& r) {
-  disegno::OrigineX = disegno::OrigineY = 0;
-  disegno::ColoreCorrente = InteroPari(Opzioni[kColoreSezione]);
-  disegno::TipoLineaCorrente = InteroPari(Opzioni[kTipoLineaSezione]);
-  DisegnaContorni(r);
-
-  const Reale d = DistanzaQuote();
-  const DistanzeTesto distanze = DistanzeDelTesto();
-  DisegnaTitolo(r, d);
-  DisegnaCatene(r, d, distanze.standard);
-  DisegnaQuote(r, d, distanze);
-  if (SezioneCalcolata) DisegnaProprieta(r, d);
+StileSezione StileDi(const VettoreOpzioni& opzioni) {
+  // Of a label from its dimension line: above it, or below where the option's sign says so.
+  const Reale q = opzioni[kSopraSotto] * opzioni[kDistanzaTesto];
+  const int segno = q > 0 ? 1 : q < 0 ? -1 : 0;
+  const Reale altezza = opzioni[kAltezzaTestoQuota];
+  return {.colore = InteroPari(opzioni[kColoreSezione]),
+          .tipoLinea = InteroPari(opzioni[kTipoLineaSezione]),
+          .distanzaMassima = opzioni[kDistanzaMassima],
+          .quota = {.coloreLinea = InteroPari(opzioni[kColoreQuota]),
+                    .coloreTesto = InteroPari(opzioni[kColoreTestoQuota]),
+                    .diametroPallino = opzioni[kDimensionePallino],
+                    .base = opzioni[kBaseTestoQuota],
+                    .altezza = altezza,
+                    .distanzaTesto = Reale(segno - 1) / 2 * altezza + q,
+                    .scala = opzioni[kScalaQuote],
+                    .estensione = opzioni[kEstensione],
+                    .lato = Lato::Destra},
+          .distanzaOpposta = Reale(-1 - segno) / 2 * altezza - q,
+          .coloreTesti = InteroPari(opzioni[kColoreTesti]),
+          .baseTesti = opzioni[kBaseTesti],
+          .altezzaTesti = opzioni[kAltezzaTesti]};
 }
 
-void GeneraDisegno(disegno::ModoAvviso avvisi) {
-  RecordSezione& r = TabellaSezioni[SezioneCorrente];
-  const auto genera = [&] {
-    disegno::SvuotaDisegno();
-    disegno::FlagDisegno = true;
-    if (!SezioneCalcolata) RifaiContorno(r, ParametriSezione);
-    DisegnaSezione(r);
-    disegno::FlagDisegno = false;
-    static_cast<void>(disegno::SalvaDisegno(DirLavori + NomeFileDisegno, avvisi));
-  };
-  Durante([&] { return SullaSezione("disegno", r.Nome); }, genera, kNonCassone);
+void DisegnaSezione(const RecordSezione& r, const VettoreParametri& p, const StileSezione& stile,
+                    bool calcolata) {
+  disegno::SvuotaDisegno();
+  disegno::FlagDisegno = true;
+  disegno::OrigineX = disegno::OrigineY = 0;
+  disegno::ColoreCorrente = stile.colore;
+  disegno::TipoLineaCorrente = stile.tipoLinea;
+  DisegnaContorni(r);
+
+  const Reale d = std::min(stile.distanzaMassima, p[kAltezzaTotale] / 2);
+  DisegnaTitolo(r, stile, d);
+  DisegnaCatene(r, stile.quota, d);
+  DisegnaQuote(r, p, stile, d);
+  if (calcolata) DisegnaProprieta(r, stile, d);
+  disegno::FlagDisegno = false;
 }
 
 }  // namespace tarvel

@@ -1,18 +1,28 @@
-// The current section as a dimensioned drawing.
+// A section as a dimensioned drawing.
 #pragma once
 
-#include "drawing/salva_dis_cond.h"
+#include "drawing/quota.h"
+#include "model/parametri.h"
 #include "model/sezione.h"
+#include "options/opzioni.h"
 
 namespace tarvel {
 
-/// Draws the current section anew and writes the drawing file DirLavori + NomeFileDisegno. A section
-/// that is not calculated has its outline rebuilt from ParametriSezione first. A file that cannot be
-/// written is told as `avvisi` says and is no reason for the caller to stop.
-void GeneraDisegno(disegno::ModoAvviso avvisi);
+/// How a section is drawn: the drawing options in the terms of the drawing.
+struct StileSezione {
+  Intero16 colore, tipoLinea;  // of the outline; the type is that of every line
+  Reale distanzaMassima;       // of the dimension lines from the outline
+  disegno::StileQuota quota;   // of a dimension with its label on the standard side
+  Reale distanzaOpposta;       // of a label on the other side
+  Intero16 coloreTesti;        // of the title and the table of properties
+  Reale baseTesti, altezzaTesti;
+};
 
-/// Adds a section to the drawing: outline, title, dimension chains, single dimensions and, when it
-/// is calculated, the table of its properties. Sizes, colours and distances are those of Opzioni.
-void DisegnaSezione(const RecordSezione& r);
+StileSezione StileDi(const VettoreOpzioni& opzioni);
+
+/// Makes Disegno the drawing of a section: outline, title, dimension chains, single dimensions and, where it
+/// is calculated, the table of its properties. `p`: the dimensions that its outline was built from.
+void DisegnaSezione(const RecordSezione& r, const VettoreParametri& p, const StileSezione& stile,
+                    bool calcolata);
 
 }  // namespace tarvel

@@ -1,4 +1,4 @@
-// Copies are found by what they hold: a section is its lines.
+// A copy is recognised by its content; two sections are equal when their lines in a file are.
 #include "model/archivio/copie_sezioni.h"
 
 #include <algorithm>
@@ -13,8 +13,8 @@
 namespace tarvel {
 namespace {
 
-// Of every section of a file the record and its lines, as they would be written. False where the file cannot
-// be read to its end.
+// Calls `guarda` with each section of a file and with the lines that would be written for it. False when the
+// file cannot be read to its end.
 bool Scorri(const Testo& percorso, const std::function<void(const RecordSezione&, const Testo&)>& guarda) {
   auto file = FileInLettura::Apri(percorso);
   if (!file) return false;
@@ -33,8 +33,8 @@ bool Scorri(const Testo& percorso, const std::function<void(const RecordSezione&
   }
 }
 
-// Whether the sections stand in a file: to the letter, or as they are once they are read from it, since a
-// figure that is cut again may lose a hundredth more.
+// Whether a file holds the sections, to the letter or as they would be written after reading the file: a
+// figure that is cut twice may lose a hundredth twice.
 bool Contiene(const Testo& percorso, std::span<const Testo> sezioni) {
   Testo tutto = "\r\n" + LeggiTutto(percorso).value_or("");
   Scorri(percorso, [&](const RecordSezione&, const Testo& righe) { tutto += "\r\n" + righe; });
@@ -73,19 +73,16 @@ std::vector<Testo> SezioniScrivibili() {
 }
 
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda) {
-  // A name that seems free may be a link that leads nowhere; where no name will do, the folder takes no file.
+  // A name that seems free may be a dangling link. After three failures the folder itself takes no file.
   constexpr int kProve = 3;
   for (int n = 1, falliti = 0; falliti < kProve; ++n) {
     Testo nome = file + coda + (n == 1 ? Testo() : std::to_string(n));
     const TipoVoce voce = GenereFile(nome);
     if (voce == TipoVoce::Ignota) break;
-    if (voce != TipoVoce::Assente) {
-      if (LeggiTutto(nome) == testo) return nome;
-    } else if (CreaFile(nome, testo, file)) {
+    const bool libero = voce == TipoVoce::Assente;
+    if (libero ? CreaFile(nome, testo, file) == EsitoScrittura::Scritto : LeggiTutto(nome) == testo)
       return nome;
-    } else {
-      ++falliti;
-    }
+    if (libero) ++falliti;
   }
   return {};
 }
@@ -100,12 +97,11 @@ Confronto ConfrontaSezioni(const Testo& altro, std::span<const Testo> sezioni) {
   Confronto esito;
   esito.leggibile = Scorri(altro, [&](const RecordSezione& r, const Testo& righe) {
     const int i = CercaSezione(r.Nome);
-    if (i == 0) {
+    if (i == 0)
       ++esito.mancanti;
-      return;
-    }
-    const Testo& nostra = sezioni[static_cast<std::size_t>(i - 1)];
-    if (righe != nostra && tutto.find("\r\n" + nostra) == Testo::npos) ++esito.diverse;
+    else if (const Testo& nostra = sezioni[static_cast<std::size_t>(i - 1)];
+             righe != nostra && tutto.find("\r\n" + nostra) == Testo::npos)
+      ++esito.diverse;
   });
   return esito;
 }

@@ -1,5 +1,5 @@
-// What is kept beside a section file so that no section is lost: sections that could not be saved, the file
-// as another program has left it.
+// Files written beside a section file so that no section is lost: the sections that could not be saved, and
+// the file that another program had changed.
 #pragma once
 
 #include <span>
@@ -9,31 +9,31 @@
 
 namespace tarvel {
 
-/// The text of a section file; each section as its lines.
+/// The text of a section file. A section is given as its lines.
 Testo ComponiFileSezioni(std::span<const Testo> sezioni);
 
-/// The sections of the table, each as its lines; one that cannot be written is fatal.
+/// The lines of each section of the table. A section that cannot be written is fatal.
 std::vector<Testo> RigheSezioni();
 
-/// Those that can be written.
+/// The same without the sections that cannot be written.
 std::vector<Testo> SezioniScrivibili();
 
-/// Keeps the text as `file` + `coda`, + "2", + "3"...: in the first of these names that is free, or in the
-/// one that holds it already. The name; "" where it cannot be kept.
+/// Writes the text under the first free name of `file` + `coda`, + "2", + "3"..., unless one of the files
+/// before it holds the text already. Returns that file's name, "" when it cannot be written.
 Testo Conserva(const Testo& testo, const Testo& file, const char* coda);
 
-/// Keeps the sections as a section file, `file` + ".salvataggio", ".salvataggio2"... The name of the one that
-/// holds them all; "" where `file` itself does and is whole, and where they cannot be kept.
+/// Writes the sections as a section file in the same way, with the ending ".salvataggio". Returns "" also
+/// when `file` itself is whole (`intero`) and holds them all.
 Testo ConservaSezioni(const Testo& file, bool intero, std::span<const Testo> sezioni);
 
-/// What the sections of another section file are to these.
+/// How the sections of another file compare with the table's.
 struct Confronto {
-  bool leggibile = true;  // the other file, to its end
-  int mancanti = 0;       // sections of names that these have not
-  int diverse = 0;        // and of the same name that are not the same
+  bool leggibile = true;  // the other file could be read to its end
+  int mancanti = 0;       // its sections whose names the table lacks
+  int diverse = 0;        // its sections that differ from the table's of the same name
 };
 
-/// `sezioni`: those of the table, in its order.
+/// `sezioni`: RigheSezioni.
 Confronto ConfrontaSezioni(const Testo& altro, std::span<const Testo> sezioni);
 
 }  // namespace tarvel

@@ -8,20 +8,14 @@
 #include "base/numeri.h"
 #include "model/archivio/righe_sezione.h"
 #include "model/tabella_sezioni.h"
-#include "platform/desktop.h"
 #include "platform/scrittura.h"
 
 namespace tarvel {
 
-Testo FileSezioni;
-bool FileSezioniIntero = true;
-Testo PrefissoNome;
-Intero16 NumeroProposto = 1;
-
 namespace {
 
-// A file that was there and could not be opened when it was to be read: the table does not hold its
-// sections, so it is not replaced until it has been read.
+// The section file that existed and could not be opened for reading. The table does not hold its sections, so
+// it is not replaced until it has been read.
 Testo gIntoccabile;
 
 Testo FileCopia() {
@@ -32,11 +26,11 @@ Testo DoveLaCopia(const Testo& copia) {
   return "la versione precedente è in "_t + copia;
 }
 
-// The file as it was last read or written here, to tell whether it still is; none where there was none.
+// Fingerprint of the file as this program last read or wrote it; another one betrays another program.
 std::optional<std::uint64_t> gImpronta;
 
-// Puts the text in the place of a file that is there, once that is kept whole under another name. What
-// another program has left may be half a file: it never takes the place of the copy.
+// Replaces the text of an existing file, after copying the old text to another file. A text that another
+// program has written may be half of what it meant, so it never replaces the copy.
 void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
   auto file = FileDaRiscrivere::Apri(FileSezioni);
   const auto vecchio = file ? file->Contenuto() : std::nullopt;
@@ -51,36 +45,35 @@ void Riscrivi(const Testo& testo, EsitoSezioni& esito) {
   if (nostro && !SostituisciFile(FileCopia(), *vecchio, FileSezioni)) {
     esito.scritte = file->Sostituisci(testo);
     if (!esito.scritte)
-      esito.ostacolo = "Non si può fare né la copia "_t + FileCopia() + " né un file nuovo accanto."_t;
+      esito.ostacolo = "Non si può fare né la copia "_t + FileCopia() + " né un file nuovo accanto: "_t +
+                       esito.scritte.motivo + ".";
     return;
   }
-  const EsitoScrittura scritto = file->Riscrivi(testo);
-  FileSezioniIntero = scritto != EsitoScrittura::Incompleto;
+  esito.scritte = file->Riscrivi(testo);
+  FileSezioniIntero = esito.scritte != EsitoScrittura::Incompleto;
   if (!FileSezioniIntero)
-    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita",
+    throw ErroreFatale(TipoErrore::File, "scrittura del file non riuscita: " + esito.scritte.motivo,
                        "il file " + FileSezioni + " può essere incompleto; "_t +
                            DoveLaCopia(nostro ? FileCopia() : esito.altro));
-  esito.scritte = scritto == EsitoScrittura::Scritto;
 }
 
 }  // namespace
 
-void LeggiFileSezioni(bool mostraErrore) {
-  // Another program may be writing it: half a file is not read. Who may not write it reads it all the same.
+std::optional<Guasto> LeggiFileSezioni() {
+  // Waits for a program that is writing the file. Without the right to write, it is read without waiting.
   const auto daSoli = FileDaRiscrivere::Apri(FileSezioni);
-  auto file = FileInLettura::Apri(FileSezioni);
+  Testo motivo;
+  auto file = FileInLettura::Apri(FileSezioni, &motivo);
   gImpronta.reset();
   gIntoccabile = file || GenereFile(FileSezioni) == TipoVoce::Assente ? Testo() : FileSezioni;
-  if (!file) {
-    if (mostraErrore) MostraMessaggio("File " + FileSezioni + " non trovato", "ERRORE", Icona::Stop);
-    return;
-  }
+  if (!file) return Guasto{TipoErrore::File, "File " + FileSezioni + " non trovato", motivo};
   try {
     NumeroSezioniFile = LeggiConteggio(*file, kMaxSezioni, "sezioni");
     NumeroSezioni = NumeroSezioniFile;
     for (int i = 1; i <= NumeroSezioni; ++i) LeggiSezione(*file, TabellaSezioni[i]);
     file->PretendiFine();
     gImpronta = file->ImprontaLetta();
+    return {};
   } catch (ErroreFatale& errore) {
     if (GenereFile(FileCopia()) == TipoVoce::File) errore.dove += "; " + DoveLaCopia(FileCopia());
     throw;
@@ -92,13 +85,14 @@ EsitoSezioni ScriviFileSezioni() {
   EsitoSezioni esito;
   if (FileSezioni == gIntoccabile) return esito;
   const Testo testo = ComponiFileSezioni(sezioni);
-  // A file that another program makes meanwhile is there the second time.
+  // CreaFile fails where another program makes the file at the same moment; it is then rewritten.
   if (GenereFile(FileSezioni) == TipoVoce::Assente) esito.scritte = CreaFile(FileSezioni, testo);
   if (!esito.scritte) Riscrivi(testo, esito);
   if (esito.scritte) gImpronta = Impronta(testo);
   if (esito.altro.empty()) return esito;
   esito.confronto = ConfrontaSezioni(esito.altro, sezioni);
-  // What that one held before it stopped half-way is whole in its copy, whose place the next save here takes.
+  // The other program stopped half-way: its sections are whole only in the copy, which the next save
+  // replaces.
   const auto copia = esito.confronto.leggibile ? std::nullopt : LeggiTutto(FileCopia());
   if (copia) esito.copia = Conserva(*copia, FileSezioni, ".altro");
   return esito;

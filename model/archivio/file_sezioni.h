@@ -4,51 +4,52 @@
 
 #include <string_view>
 
+#include "base/guasto.h"
 #include "base/intero.h"
 #include "base/testo.h"
 #include "model/archivio/copie_sezioni.h"
+#include "platform/scrittura.h"
 
 namespace tarvel {
 
 /// Full path of the current section file: the job's or the general one.
-extern Testo FileSezioni;
-/// No write of a section file has stopped half-way: one that did may be read whole and not be on the disk.
-extern bool FileSezioniIntero;
+inline Testo FileSezioni;
+/// False once a write of a section file has stopped half-way: it may be read whole and not be on the disk.
+inline bool FileSezioniIntero = true;
 /// What proposed names begin with: "U_PO_" in the job's file, "G_PO_" in the general one.
-extern Testo PrefissoNome;
+inline Testo PrefissoNome;
 /// Counter of proposed names, 1 at start.
-extern Intero16 NumeroProposto;
+inline Intero16 NumeroProposto = 1;
 
-/// Replaces the table by the file's content, once nobody writes it; slots above the file's count keep theirs.
-/// A file that is missing or cannot be opened leaves everything as it is, with a message when `mostraErrore`.
-/// A malformed file is fatal, with file and line and the copy to go back to, if there is one; what was read
-/// before stays in the table.
-void LeggiFileSezioni(bool mostraErrore);
+/// Reads the file into the table, once no other program is writing it; slots above its count stay as they
+/// are. A file that is missing or cannot be opened changes nothing. A malformed file is fatal: the error has
+/// file and line, and names the copy if there is one. The sections read before stay in the table.
+[[nodiscard]] std::optional<Guasto> LeggiFileSezioni();
 
 /// What became of writing the table.
 struct EsitoSezioni {
-  bool scritte = false;  // otherwise nothing has changed
-  Testo ostacolo;        // what could not be made, in a sentence, where it is not the file itself
-  Testo altro;           // where the file is kept as another program had left it; "" where none had
-  Testo copia;           // where its copy is kept, if it is no section file; "" where there was none
-  Confronto confronto;   // of that one's sections with the table's
+  EsitoScrittura scritte{EsitoScrittura::NonAperto};
+  Testo ostacolo;       // a sentence on what else could not be written; "" when it is the file itself
+  Testo altro;          // file with the text that another program had written; "" when none had
+  Testo copia;          // file with the old copy, where `altro` is no section file; "" when there was none
+  Confronto confronto;  // of the sections in `altro` with the table's
 };
 
-/// Writes the whole table, on the disk when it returns. A record that cannot be written (a number too large
-/// to be cut) is fatal before anything has changed. While one program writes, another one waits.
+/// Writes the whole table, on the disk when this returns. A record that cannot be written (a number too large
+/// to be cut) is fatal before anything has changed. Only one program writes at a time; another one waits.
 ///
-/// The file as it was is first kept whole, as FileSezioni + ".bak", then written in place; where there can be
-/// no such copy, the new file is written whole beside the old one and takes its name. A file that is not any
-/// more what was last read or written here is kept as FileSezioni + ".altro" instead, and where it is no
-/// section file so is its copy. Nothing changes where that cannot be done, the file cannot be opened or has
-/// never been readable. A failure in the middle of writing is fatal; the message names the copy.
+/// The old text is first copied to FileSezioni + ".bak", then the file is written in place; where no copy can
+/// be made, the new file is written beside the old one and takes its name. A file that another program has
+/// changed since it was last read or written here is copied to FileSezioni + ".altro" instead, and the old
+/// copy with it where that is no section file. Nothing changes when this copy fails, the file cannot be
+/// opened or could not be read. A failure in the middle of writing is fatal; the message names the copy.
 [[nodiscard]] EsitoSezioni ScriviFileSezioni();
 
 /// PrefissoNome and the last three digits of the number: 42 gives 'U_PO_042', 1000 'U_PO_000'.
 Testo ProponiNome(Intero16 numero);
 
-/// The name with the prefix `voluto` ("U_" or "G_") in place of `altro`; put before a name that has
-/// neither. A prefix counts in either case; the rest of the name is kept.
+/// The name with the prefix `voluto` ("U_" or "G_") in place of `altro`, or before a name without either.
+/// Prefixes are compared without regard to case.
 Testo NormalizzaNome(const Testo& nome, const Testo& voluto, const Testo& altro);
 
 }  // namespace tarvel

@@ -16,8 +16,8 @@ constexpr int kDecimali = 2;
 constexpr int kDecimaliTensioni = 14;
 constexpr std::size_t kPassoColonne = 20;  // column stops 21, 41 and 61
 
-// A figure that another one follows on its line: a blank at least stands between the two, or they would be
-// read as one.
+// A figure that another one follows on its line. At least one blank separates the two, or they would be read
+// as one.
 void AccodaColonna(Testo& testo, Reale tagliato) {
   const std::size_t inizio = testo.size();
   AccodaNumeroEntro(testo, tagliato, kPassoColonne - 1);
@@ -70,7 +70,7 @@ void AccodaPunto(Testo& testo, RecordSezione& r, int j) {
 class RigaParole {
  public:
   explicit RigaParole(FileInLettura& file) : file_(file), resto_(SenzaBlanchi(file.LeggiRiga())) {
-    // What a disk leaves of lost blocks would end a number, and be passed over.
+    // A disk that has lost blocks leaves NULs. One would end a number, and the loss would pass unseen.
     if (resto_.find('\0') != std::string_view::npos) file_.Malformato("un carattere nullo");
   }
 
@@ -80,10 +80,10 @@ class RigaParole {
     return parola;
   }
   std::string_view Resto() const { return resto_; }
-  // A word is 0, but a number beyond all others could never be cut and written again.
+  // A word counts as 0. The largest number stands for one beyond the range: it could not be written again.
   Reale Numero() { return Entro(Parola()); }
   Reale NumeroFinale() { return Entro(resto_); }
-  // The points are for the program that uses the file, which takes no word for a number: strictly.
+  // Points are read strictly: the program that uses the file takes no word for a number.
   Reale NumeroStretto() {
     const std::string_view parola = Parola();
     const auto valore = NumeroInvariante(parola);

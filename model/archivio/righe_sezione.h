@@ -6,7 +6,7 @@
 
 namespace tarvel {
 
-/// Adds the section's lines: figures cut to two decimals, stresses to fourteen and without their sign. A
+/// Appends the section's lines: figures cut to two decimals, stresses to fourteen and without their sign. A
 /// number too large to be cut is fatal.
 void AccodaSezione(Testo& testo, RecordSezione& r);
 
@@ -14,7 +14,7 @@ void AccodaSezione(Testo& testo, RecordSezione& r);
 /// with file and line; what was read before stays in the record.
 void LeggiSezione(FileInLettura& file, RecordSezione& r);
 
-/// A count from 0 to `massimo`, fatal otherwise; `cosa` are counted.
+/// A count of `cosa`; one below 0 or above `massimo` is fatal.
 Intero16 LeggiConteggio(FileInLettura& file, int massimo, const char* cosa);
 
 }  // namespace tarvel

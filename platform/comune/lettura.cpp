@@ -42,8 +42,9 @@ std::optional<Testo> LeggiTutto(const Testo& percorso) {
   return file ? file->Resto() : std::nullopt;
 }
 
-std::optional<FileInLettura> FileInLettura::Apri(const Testo& percorso) {
+std::optional<FileInLettura> FileInLettura::Apri(const Testo& percorso, Testo* motivo) {
   auto file = ApriLettura(percorso);
+  if (!file && motivo != nullptr) *motivo = MotivoOspite();
   if (!file) return std::nullopt;
   return FileInLettura(percorso, std::move(*file));
 }
@@ -58,8 +59,8 @@ void FileInLettura::Malformato(const Testo& cosa) const {
 
 std::string_view FileInLettura::Preteso(std::optional<std::string_view> letto) const {
   if (letto) return *letto;
-  if (mancanza_ == Mancanza::Guasto)
-    throw ErroreFatale(TipoErrore::File, "lettura del file non riuscita", Luogo());
+  if (!guasto_.empty())
+    throw ErroreFatale(TipoErrore::File, "lettura del file non riuscita: " + guasto_, Luogo());
   Malformato(mancanza_ == Mancanza::RigaLunga ? "riga troppo lunga" : "fine del file inattesa");
 }
 
@@ -67,10 +68,11 @@ std::string_view FileInLettura::Preteso(std::optional<std::string_view> letto) c
 bool FileInLettura::Riempi() {
   buffer_.resize(kBlocco);
   const auto letti = OspiteDeiFile().Leggi(*file_, buffer_);
+  guasto_ = letti ? Testo() : MotivoOspite();
   buffer_.resize(letti.value_or(0));
   posto_ = 0;
   impronta_ = Impronta(buffer_, impronta_);
-  mancanza_ = letti ? Mancanza::FineFile : Mancanza::Guasto;
+  mancanza_ = Mancanza::FineFile;
   return !buffer_.empty();
 }
 
@@ -82,7 +84,7 @@ bool FileInLettura::Prepara() {
   for (bool intera = false; !intera;) {
     if (posto_ == buffer_.size() && !Riempi()) {
       // The last line may lack its end; a fault leaves no line.
-      if (riga_.empty() || mancanza_ == Mancanza::Guasto) return false;
+      if (riga_.empty() || !guasto_.empty()) return false;
       break;
     }
     const auto fine = std::min(buffer_.find('\n', posto_), buffer_.size());
@@ -164,7 +166,7 @@ void FileInLettura::PretendiFine() {
       Malformato("righe in più dopo l'ultima, o un conteggio sbagliato: \""_t + resto.substr(0, 40) + '"');
     fine = true;
   }
-  if (mancanza_ != Mancanza::FineFile) static_cast<void>(Preteso(std::nullopt));
+  if (mancanza_ != Mancanza::FineFile || !guasto_.empty()) static_cast<void>(Preteso(std::nullopt));
 }
 
 }  // namespace tarvel

@@ -17,21 +17,24 @@ std::string Provvisorio(const std::string& file) {
   return nome + ".tmp";
 }
 
-bool Riempi(Ospite::Maniglia file, std::string_view testo, bool sulDisco) {
-  return OspiteDeiFile().Scrivi(file, testo) && (!sulDisco || OspiteDeiFile().SulDisco(file));
+EsitoScrittura NonRiuscito(EsitoScrittura::Stato stato) {
+  return {stato, MotivoOspite()};
+}
+
+// Of a file that is empty; it is closed in any case.
+EsitoScrittura Riempi(FileAperto& file, std::string_view testo, bool sulDisco) {
+  const Ospite& ospite = OspiteDeiFile();
+  EsitoScrittura esito;
+  if (!ospite.Scrivi(*file, testo) || (sulDisco && !ospite.SulDisco(*file)))
+    esito = NonRiuscito(EsitoScrittura::Incompleto);
+  if (!file.Chiudi() && esito) esito = NonRiuscito(EsitoScrittura::Incompleto);
+  return esito;
 }
 
 EsitoScrittura InPosto(FileAperto& file, std::string_view testo, bool sulDisco) {
-  if (!OspiteDeiFile().Svuota(*file)) return EsitoScrittura::NonAperto;
-  const bool scritto = Riempi(*file, testo, sulDisco);
-  return file.Chiudi() && scritto ? EsitoScrittura::Scritto : EsitoScrittura::Incompleto;
+  if (!OspiteDeiFile().Svuota(*file)) return NonRiuscito(EsitoScrittura::NonAperto);
+  return Riempi(file, testo, sulDisco);
 }
-
-enum class Accanto {
-  Riuscito,
-  NonScritto,  // no room for another file
-  NonAmmesso,  // no other file may be made here, or none may take the name
-};
 
 struct Sostituzione {
   std::string file, come;  // whose name it takes, whose rights
@@ -41,26 +44,34 @@ struct Sostituzione {
 };
 
 // Writes another file beside this one and gives it the name; what was written is taken away where that fails.
-Accanto ScriviAccanto(const Sostituzione& s, std::string_view testo) {
+// NonAperto: no other file may be made here, or none may take the name. Incompleto: there is no room for it.
+EsitoScrittura ScriviAccanto(const Sostituzione& s, std::string_view testo) {
   const Ospite& ospite = OspiteDeiFile();
   const std::string provvisorio = Provvisorio(s.file);
   const auto creato = ospite.Crea(provvisorio, s.come);
-  if (!creato) return Accanto::NonAmmesso;
+  if (!creato) return NonRiuscito(EsitoScrittura::NonAperto);
   FileAperto file(*creato);
-  const bool scritto = Riempi(*file, testo, s.sulDisco);
-  const bool chiuso = file.Chiudi();
+  EsitoScrittura esito = Riempi(file, testo, s.sulDisco);
   const auto rinomina = [&] { return ospite.Rinomina(provvisorio, s.file, s.sostituisci); };
-  if (scritto && chiuso && (rinomina() || (s.aperto != nullptr && s.aperto->Chiudi() && rinomina())))
-    return !s.sulDisco || ospite.NomeSulDisco(s.file) ? Accanto::Riuscito : Accanto::NonAmmesso;
+  if (esito && (rinomina() || (s.aperto != nullptr && s.aperto->Chiudi() && rinomina())))
+    return !s.sulDisco || ospite.NomeSulDisco(s.file) ? esito : NonRiuscito(EsitoScrittura::NonAperto);
+  if (esito) esito = NonRiuscito(EsitoScrittura::NonAperto);
   ospite.Togli(provvisorio);
-  return scritto && chiuso ? Accanto::NonAmmesso : Accanto::NonScritto;
+  return esito;
 }
 
-bool Scrivi(const Testo& percorso, std::string_view testo, const Testo& come, bool sostituisci) {
+// The same, for whom nothing else is left to try.
+EsitoScrittura Sostituisci(const Sostituzione& s, std::string_view testo) {
+  EsitoScrittura esito = ScriviAccanto(s, testo);
+  if (!esito) esito.stato = EsitoScrittura::NonAperto;
+  return esito;
+}
+
+EsitoScrittura Scrivi(const Testo& percorso, std::string_view testo, const Testo& come, bool sostituisci) {
   const auto host = PercorsoHost(percorso);
+  if (!host) return NonRiuscito(EsitoScrittura::NonAperto);
   const auto modello = come.empty() ? std::string() : PercorsoHost(come);
-  return host && ScriviAccanto({.file = *host, .come = modello.value_or(""), .sostituisci = sostituisci},
-                               testo) == Accanto::Riuscito;
+  return Sostituisci({.file = *host, .come = modello.value_or(""), .sostituisci = sostituisci}, testo);
 }
 
 }  // namespace
@@ -69,30 +80,30 @@ EsitoScrittura ScriviFile(const Testo& percorso, std::string_view testo, bool su
   const Ospite& ospite = OspiteDeiFile();
   const auto host = PercorsoHost(percorso);
   const TipoVoce voce = host ? ospite.Genere(*host) : TipoVoce::Ignota;
-  if (voce == TipoVoce::Ignota || voce == TipoVoce::Cartella) return EsitoScrittura::NonAperto;
+  if (voce == TipoVoce::Ignota) return NonRiuscito(EsitoScrittura::NonAperto);
   if (voce != TipoVoce::Assente) {
     // Who may not write into a file may not put another in its place.
     const auto aperto = ospite.ApriRiscrittura(*host);
-    if (!aperto) return EsitoScrittura::NonAperto;
+    if (!aperto) return NonRiuscito(EsitoScrittura::NonAperto);
     FileAperto file(*aperto);
     if (voce == TipoVoce::Altro) return InPosto(file, testo, sulDisco);
   }
   const std::string reale = PercorsoReale(*host);
-  const Accanto esito = ScriviAccanto(
+  const EsitoScrittura accanto = ScriviAccanto(
       {.file = reale, .come = voce == TipoVoce::File ? reale : "", .sulDisco = sulDisco}, testo);
-  if (esito == Accanto::Riuscito) return EsitoScrittura::Scritto;
-  const auto aperto =
-      esito == Accanto::NonAmmesso && voce == TipoVoce::File ? ospite.ApriRiscrittura(*host) : std::nullopt;
-  if (!aperto) return EsitoScrittura::NonAperto;
+  if (accanto) return {};
+  const bool daProvare = accanto == EsitoScrittura::NonAperto && voce == TipoVoce::File;
+  const auto aperto = daProvare ? ospite.ApriRiscrittura(*host) : std::nullopt;
+  if (!aperto) return {EsitoScrittura::NonAperto, accanto.motivo};
   FileAperto file(*aperto);
   return InPosto(file, testo, sulDisco);
 }
 
-bool SostituisciFile(const Testo& percorso, std::string_view testo, const Testo& come) {
+EsitoScrittura SostituisciFile(const Testo& percorso, std::string_view testo, const Testo& come) {
   return Scrivi(percorso, testo, come, true);
 }
 
-bool CreaFile(const Testo& percorso, std::string_view testo, const Testo& come) {
+EsitoScrittura CreaFile(const Testo& percorso, std::string_view testo, const Testo& come) {
   return Scrivi(percorso, testo, come, false);
 }
 
@@ -112,9 +123,9 @@ EsitoScrittura FileDaRiscrivere::Riscrivi(std::string_view testo) {
   return InPosto(file_, testo, true);
 }
 
-bool FileDaRiscrivere::Sostituisci(std::string_view testo) {
+EsitoScrittura FileDaRiscrivere::Sostituisci(std::string_view testo) {
   const std::string reale = PercorsoReale(host_);
-  return ScriviAccanto({.file = reale, .come = reale, .aperto = &file_}, testo) == Accanto::Riuscito;
+  return tarvel::Sostituisci({.file = reale, .come = reale, .aperto = &file_}, testo);
 }
 
 }  // namespace tarvel

@@ -1,8 +1,8 @@
-// What a filter asks of its host: whether somebody is watching, where its rows go, and to be told of a pipe
-// that was closed.
+// What a filter asks of its host: whether somebody is watching, where its rows go, how it ends.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace tarvel {
 
@@ -14,5 +14,8 @@ bool UscitaNelFile(const std::string& percorso);
 
 /// From now on writing into a pipe that nobody reads any more fails, rather than ends the program.
 void NonFinireColTubo();
+
+/// Writes a last message on the standard error and ends the program. A signal's handler may call it.
+[[noreturn]] void FinisciSubito(std::string_view messaggio, int stato);
 
 }  // namespace tarvel

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/comune/desktop/scrivania.h"
+#include "platform/file.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/verbale.h"
 #include "platform/headless/verbi.h"
@@ -17,7 +18,6 @@
 namespace tarvel::headless {
 namespace {
 
-constexpr std::size_t kRigaMassima = 1 << 20;
 constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
 constexpr long long kAttesaFinaleMassima = 60'000;
 

@@ -1,9 +1,9 @@
-// The driver: every result is accumulated in the record itself, so that a fault leaves what came
-// before it.
+// The driver accumulates every result in the record itself: a fault leaves the results before it.
 #include "properties/calcolo/caratteristiche.h"
 
+#include <algorithm>
+
 #include "base/errore.h"
-#include "base/tronca.h"
 #include "model/tabella_sezioni.h"
 #include "properties/aree_taglio.h"
 #include "properties/copia_lavoro.h"
@@ -21,22 +21,18 @@ struct Sommatori {
 // `segno`: -1 for the whole section (counter-clockwise outline), +1 for the clockwise parts.
 // Vertical edges contribute nothing, not even to the area.
 void SommaAreaStatici(const Poligono& poligono, int segno, Reale& An, Sommatori& somme) {
-  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    An += segno * AreaTrapezio(da, a);
-    somme.MomStaticoYTot += segno * MomStaticoY(*s);
-    somme.MomStaticoZTot += segno * MomStaticoZ(*s);
+  PerOgniSegmento(poligono, [&](const Segmento& s) {
+    An += segno * AreaTrapezio(s.da, s.a);
+    somme.MomStaticoYTot += segno * MomStaticoY(s);
+    somme.MomStaticoZTot += segno * MomStaticoZ(s);
   });
 }
 
 void SommaInerzie(const Poligono& poligono, int segno, Reale& Jyg, Reale& Jzg, Reale& Jyz) {
-  PerOgniLato<Estremo>(poligono, [&](const Estremo& da, const Estremo& a) {
-    const auto s = SegmentoDi(da, a);
-    if (!s) return;
-    Jyg += segno * MomInerziaY(*s);
-    Jzg += segno * MomInerziaZ(*s);
-    Jyz += segno * MomCentrifugo(*s);
+  PerOgniSegmento(poligono, [&](const Segmento& s) {
+    Jyg += segno * MomInerziaY(s);
+    Jzg += segno * MomInerziaZ(s);
+    Jyz += segno * MomCentrifugo(s);
   });
 }
 
@@ -51,11 +47,11 @@ void ImpostaBaricentro(Record& r, const Sommatori& somme) {
 void Ingombri(RecordSezione& r) {
   const Reale yS = r.O(5).y;
   r.AltezzaTotale = Assoluto(r.O(1).y - yS);
-  for (const int v : {13, 12, 11, 10}) r.AltezzaTotale = Massimo(r.AltezzaTotale, Assoluto(r.O(v).y - yS));
-  r.BaseTotale = Massimo(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
+  for (const int v : {13, 12, 11, 10}) r.AltezzaTotale = std::max(r.AltezzaTotale, Assoluto(r.O(v).y - yS));
+  r.BaseTotale = std::max(Assoluto(r.O(10).z - r.O(1).z), Assoluto(r.O(6).z - r.O(5).z));
 }
 
-void Copia(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {
+void CopiaVertici(const GeometriaSezione& g, const ConteggiVertici& vertici, CopiaLavoro& copia) {
   for (int v = 1; v <= vertici[1]; ++v) copia.poligono1.Aggiungi(g.O(v));
   for (int v = 1; v <= vertici[2]; ++v) copia.poligono2.Aggiungi(g.C(v));
 }
@@ -90,7 +86,7 @@ void CalcolaCaratteristiche(RecordSezione& sezione, const VettoreParametri& p,
 
   sezione.An = sezione.Jt = sezione.Jzg = sezione.Jyg = 0;
   Durante("area e baricentro", [&] {
-    Copia(sezione, vertici, SezioneBaricentrica);
+    CopiaVertici(sezione, vertici, SezioneBaricentrica);
     EstraiSuperiore(SezioneBaricentrica, ParteSuperiore.poligono1);
     EstraiInferiore(SezioneBaricentrica, ParteInferiore.poligono1);
     Sommatori somme;

@@ -11,7 +11,7 @@ namespace tarvel {
 /// axes, torsion constant, shear areas, characteristic points with their unit stresses, Sigla. Lengths L
 /// give areas in L², moments in L⁴. The outline is neither rebuilt nor judged; of the dimensions the
 /// slopes of the outer top surface, the inclination of the webs and the thicknesses of the slabs count
-/// beside it, as they are now. It reads and writes nothing else: any thread may calculate any section.
+/// beside it. Nothing else is read or written.
 ///
 /// An arithmetic fault (overflow, an enclosed area or a moment of zero) is fatal: fields written before
 /// it keep their new values.

@@ -8,11 +8,11 @@ One section of 25 is saved by itself, which draws it; a table holds 500.
 import os
 import random
 import shlex
-import subprocess
 import sys
 import tempfile
+from pathlib import Path
 
-from installazione import dimensioni, installa
+from installazione import dimensioni, installa, recita
 
 TABELLA = 500
 
@@ -29,18 +29,11 @@ def copione(caso, quante):
 
 def file_scritti(comando, testo):
     with tempfile.TemporaryDirectory(prefix="DueSistemi_") as radice:
-        lavoro = installa(radice)
-        with open(os.path.join(radice, "copione"), "w") as file:
-            file.write(testo)
-        esito = subprocess.run([*comando, "--script", os.path.join(radice, "copione"), "--", f"|diroot={radice}|"],
-                               cwd=radice, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-        if esito.returncode != 0 or not os.path.exists(os.path.join(lavoro, "sezio_ut")):
-            sys.exit(f"{comando[-1]}: {esito.stdout[-500:].decode('utf-8', 'replace')}")
-        scritti = {}
-        for nome in os.listdir(lavoro):
-            with open(os.path.join(lavoro, nome), "rb") as file:
-                scritti[nome] = file.read()
-        return scritti
+        lavoro = Path(installa(radice))
+        esito = recita(comando, radice, testo)
+        if esito.returncode != 0 or not (lavoro / "sezio_ut").exists():
+            sys.exit(f"{comando[-1]}: {esito.stdout[-500:]}{esito.stderr}")
+        return {file.name: file.read_bytes() for file in lavoro.iterdir()}
 
 
 def main():

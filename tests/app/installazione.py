@@ -1,18 +1,21 @@
-"""A fresh installation, dimensions for it, and the names of a section file that is whole."""
+"""A fresh installation, dimensions for it, and a user who follows a script there."""
 import os
+import subprocess
 
 # The worked example as a defaults file.
 ESEMPIO = "".join(p + "\r\n" for p in
                   "200 25 20 35 45 50 30 25 20 250 50 60 150 50 40 1200 2.5 2.5 -2.5 -2.5 20".split())
 
 
-def installa(radice):
+def installa(radice, valori=None):
+    """The job's folder of a new installation, with these defaults in the boxes."""
     for cartella in ("impostazioni", "custom", "progra", "driver", "Lavori/PR0001"):
         os.makedirs(os.path.join(radice, cartella))
     for nome, testo in (("impostazioni/dirlav", os.path.join(radice, "Lavori") + "\r\n"),
-                        ("impostazioni/lavoro", " PR0001 \r\n"), ("progra/ostrel.exe", "")):
-        with open(os.path.join(radice, nome), "w", newline="") as file:
-            file.write(testo)
+                        ("impostazioni/lavoro", " PR0001 \r\n"), ("progra/ostrel.exe", ""), ("custom/CapSezDe.txt", valori)):
+        if testo is not None:
+            with open(os.path.join(radice, nome), "w", newline="") as file:
+                file.write(testo)
     return os.path.join(radice, "Lavori", "PR0001")
 
 
@@ -27,29 +30,7 @@ def dimensioni(caso):
     return [f"{v:.2f}" for v in alte + basi + pendenze]
 
 
-def nomi(percorso):
-    """The names in order; nothing where the file is missing or not whole, to its last line end."""
-    try:
-        with open(percorso, newline="", encoding="cp1252") as file:
-            righe = file.read().split("\r\n")
-    except FileNotFoundError:
-        return None
-    posto = iter(righe)
-    try:
-        trovati = []
-        for _ in range(int(next(posto))):
-            trovati.append(next(posto))
-            assert len(next(posto).split()) == 4
-            for _ in range(int(next(posto))):
-                for _ in range(int(next(posto))):
-                    assert len(next(posto).split()) == 3
-            assert len(next(posto).split()) == 3 and len(next(posto).split()) == 4
-            for _ in range(int(next(posto))):
-                next(posto)
-                assert [len(next(posto).split()) for _ in range(3)] == [2, 2, 2]
-            next(posto)
-            float(next(posto))
-        assert list(posto) == [""]
-        return trovati
-    except (StopIteration, ValueError, AssertionError):
-        return None
+def recita(comando, radice, copione, **altro):
+    """The scripted desktop, started by these words, on this installation: what has become of it."""
+    return subprocess.run([*comando, f"|diroot={radice}|"], input=copione, capture_output=True, encoding="utf-8",
+                          errors="replace", timeout=120, **altro)

@@ -19,7 +19,7 @@ TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
   std::vector<Estremo> estremi;
   int contorno = 0, quote = 0, oblique = 0;
   for (const LineaForm& l : LineeSchema()) {
-    if (l.colore == kNero) {
+    if (l.colore == Colore{0, 0, 0}) {
       estremi.insert(estremi.end(), {{contorno, l.x1, l.y1}, {contorno, l.x2, l.y2}});
       ++contorno;
     } else if (l.colore == Colore{255, 255, 0}) {
@@ -40,7 +40,7 @@ TEST(Schema, IlContornoSiChiudeELeQuoteSonoDritte) {
 }
 
 TEST(Schema, AltezzeNereBasiBluPendenzeVerdi) {
-  constexpr Colore kBlu{0, 0, 255}, kVerde{0, 128, 0};
+  constexpr Colore kNero{0, 0, 0}, kBlu{0, 0, 255}, kVerde{0, 128, 0};
   const auto& caselle = dynamic_cast<const tarvel1&>(FormPrincipale()).Text1;
   for (std::size_t i = 0; i < caselle.size(); ++i)
     EXPECT_EQ(caselle[i].coloreTesto, i < 9 ? kNero : i < 16 ? kBlu : kVerde) << i;

@@ -33,7 +33,7 @@ import tempfile
 from installazione import ESEMPIO, installa
 
 QUI = os.path.dirname(os.path.realpath(__file__))
-# What a program for another system is run with.
+# The command that runs a program for another system.
 EMULATORE = shlex.split(os.environ.get("TARVEL_EMULATORE", ""))
 CODICE = {"encoding": "utf-8", "errors": "surrogateescape", "newline": ""}
 
@@ -49,13 +49,13 @@ def scrivi(percorso, testo):
         file.write(testo)
 
 
-# What opens most transcripts; the sessions that these are taken from keep it whole.
+# Most transcripts open with one of these; the sessions named here keep it whole.
 APERTURE = {"main form": ("principale", r"show tarvel1\n(?:text Text1.*\n){21}text nome .*\ntext nomute .*\n"),
             "options form": ("opzioni", r"show FormOpt\n(?:text TextOpt.*\n){15}")}
 
 
 def in_breve(testo, nome):
-    """Openings in a line, with what differs from the whole one; the status once."""
+    """The transcript with each opening in one line, which says what differs from the whole one, and the status once."""
     for titolo, (intera, forma) in APERTURE.items():
         if nome == intera:
             continue
@@ -184,7 +184,7 @@ def recitata(programma, nome, previsto):
                      flags=re.M)
     testo = ""
     for parte in parti[1:] or parti:
-        # The full device is none for the emulated host.
+        # The emulated host has no full device.
         if EMULATORE and re.search(r"\n#: (pieno |solo_posix)", parte):
             testo += blocco(previsto, "#" + parte.split("\n")[0])
             continue

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Includes point downward only, never in a ring: docs/piani.md and every #include of the sources are read.
+"""Includes point downward only, never in a ring, and only app/ talks to the user: docs/piani.md and every
+#include of the sources are read.
 
     piani.py SOURCES
 """
@@ -15,7 +16,7 @@ errori, grafo, visti = [], {}, set()
 
 
 def piano(file):
-    """Of the innermost room."""
+    """The floor of the innermost room that the file lies in."""
     return PIANI[max((s for s in PIANI if file.startswith(s)), key=len)]
 
 
@@ -44,6 +45,8 @@ for cartella in sorted({s.split("/")[0] for s in PIANI if s}):
                         grafo[file].append(trovato[1])
                         if not 0 <= piano(trovato[1]) <= piano(file):
                             errori.append(f"{file}:{n}: include {trovato[1]}, di nessun piano o di uno superiore")
+                        if trovato[1] == "platform/desktop.h" and not file.startswith(("app/", "platform/")):
+                            errori.append(f"{file}:{n}: soltanto app/ parla con l'utente")
 if len(grafo) < 40:
     errori.append(f"soltanto {len(grafo)} sorgenti")
 for file in sorted(grafo):

@@ -1,4 +1,4 @@
-// What the tests of the drawing share: a clean drawing, a picture of its tables, what the user saw.
+// What the tests of the drawing share: a clean drawing, a picture of its tables.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,7 +8,6 @@
 #include <tuple>
 
 #include "drawing/quota.h"
-#include "platform/headless/verbale.h"
 #include "tests/aiuti.h"
 
 namespace tarvel::disegno {
@@ -48,16 +47,6 @@ inline std::string Fotografia() {
     return std::tuple(t.posizione, t.angolo, t.base10, t.altezza10, t.colore, t.stringa);
   });
   return s.str();
-}
-
-/// What was shown to the user during `lavoro`.
-template <class Lavoro>
-std::string Mostrato(Lavoro lavoro) {
-  std::ostringstream verbale;
-  headless::ApriVerbale(&verbale);
-  lavoro();
-  headless::ApriVerbale(nullptr);
-  return verbale.str();
 }
 
 }  // namespace tarvel::disegno

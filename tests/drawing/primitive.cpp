@@ -49,16 +49,18 @@ TEST_F(Primitive, CoordinateVicineESegmentiCheSiVedono) {
 
 TEST_F(Primitive, TabellePiene) {
   const auto riempie = [](std::int32_t& numero, int capienza, const std::string& cosa, auto aggiungi) {
+    Disegno.avvisi.clear();
     numero = capienza - 2;
-    EXPECT_EQ(Mostrato(aggiungi), "");
-    EXPECT_EQ(Mostrato(aggiungi),
-              "message exclamation \"Problema\" \" Numero eccessivo di " + cosa + " \" -> ok\n");
-    EXPECT_EQ(Mostrato(aggiungi), "");
+    aggiungi();
+    EXPECT_EQ(Disegno.avvisi.size(), 0u);
+    for (int volte = 0; volte < 2; ++volte) aggiungi();
+    ASSERT_EQ(Disegno.avvisi.size(), 1u);
+    EXPECT_EQ(Disegno.avvisi[0], " Numero eccessivo di " + cosa + " ");
     EXPECT_EQ(numero, capienza) << cosa;
   };
   riempie(Disegno.Linee.numero, 50000, "elementi di disegno", [] { Linea({0, 0}, {1, 1}); });
   riempie(Disegno.Archi.numero, 15000, "elementi di disegno", [] { Cerchio({0, 0}, 1); });
-  riempie(Disegno.Testi.numero, 15000, "testi", [] { Testo("a", {0, 0}, 0, 1, 1, 1); });
+  riempie(Disegno.Testi.numero, 15000, "testi", [] { ScriviTesto("a", {0, 0}, 0, 1, 1, 1); });
   Disegno.Coordinate.numero = 32768;
   Disegno.Coordinate[32767] = {3, 4};
   EXPECT_EQ(AggiungiCoordinata({3, 4}), 32767);
@@ -76,17 +78,17 @@ TEST_F(Primitive, RegistranoConOrigineColoreETipo) {
   Cerchio({0, 0}, 2, 0);
   Cerchio({1, 2}, 2, {}, 0, std::numbers::pi / 2);
   Cerchio({0, 0}, 0.0001);
-  Testo("x", {1, 2}, -90, 1.25, 0.04, 0);
-  Testo("senza base", {0, 0}, 0, 0, 1, 1);
+  ScriviTesto("x", {1, 2}, -90, 1.25, 0.04, 0);
+  ScriviTesto("senza base", {0, 0}, 0, 0, 1, 1);
   EXPECT_EQ(Fotografia(),
             "0x1.6p+3 -0x1p+0 ; 0x1.4p+3 -0x1p+0 ; 0x1.6p+3 0x1p+0 ; 0x1.8p+3 0x1p+0 ; 0x1.6p+3 0x1p+1 ; \n\n"
             "0 1 4 2 ; 2 0 0 2 ; \n1 0 1 0 1 0 ; 2 3 2 4 4 0 ; \n2 -90 12 0 1 x ; \n");
   for (const auto& [misura, decimi] :
        {std::pair{0.05, 0}, {0.15, 2}, {0.25, 2}, {-3, -30}, {3276.74, 32767}}) {
-    Testo("a", {0, 0}, 0, misura, 1, 1);
+    ScriviTesto("a", {0, 0}, 0, misura, 1, 1);
     EXPECT_EQ(Disegno.Testi[Disegno.Testi.numero - 1].base10, decimi) << misura;
   }
-  EXPECT_THROW(Testo("a", {0, 0}, 0, 1, 3276.75, 1), ErroreFatale);
+  EXPECT_THROW(ScriviTesto("a", {0, 0}, 0, 1, 3276.75, 1), ErroreFatale);
 }
 
 TEST_F(Primitive, SuUnaSuperficie) {
@@ -113,10 +115,10 @@ TEST_F(Primitive, CaratteriATratti) {
   FontPunti[0xE0] = 2;
   FontX[0xE0][1] = FontY[0xE0][1] = 99;
   FontY[0xE0][0] = 30;
-  Testo("a\xE0", {100, 200}, 90, 10, 6, 3);
+  ScriviTesto("a\xE0", {100, 200}, 90, 10, 6, 3);
   EXPECT_EQ(Linee(), "100 210 94 215; ");
   FontPunti[0xE0] = 101;  // the last point has no partner
-  EXPECT_THROW(Testo("\xE0", {0, 0}, 0, 10, 6, 3), ErroreFatale);
+  EXPECT_THROW(ScriviTesto("\xE0", {0, 0}, 0, 10, 6, 3), ErroreFatale);
   FontPunti[0xE0] = SpaziaturaCaratteri = 0;
 }
 

@@ -19,7 +19,7 @@ std::string Righe(const std::string& testo) {
 class FileDisegno : public ConDisegno {
  protected:
   std::string Salvato(Intestazione intestazione = Intestazione::Tre) {
-    EXPECT_TRUE(SalvaDisegno(nome_, ModoAvviso::Nessuno, intestazione));
+    EXPECT_FALSE(SalvaDisegno(nome_, intestazione));
     return prove::Contenuto(nome_);
   }
 
@@ -30,9 +30,9 @@ class FileDisegno : public ConDisegno {
 TEST_F(FileDisegno, TutteLeSezioni) {
   TipoLineaCorrente = 2;
   Linea({-0.25, 0}, {1e16, 12.5}, 3);
-  Testo("A b", {-0.25, -1e-5}, 0, 1.5, 2.5, 0);
-  Testo("due\r\nrighe", {-0.25, 0}, -90, 0.5, 1, 4);
-  Testo("sparisce", {70, 80}, 0, 0.04, 1, 4);
+  ScriviTesto("A b", {-0.25, -1e-5}, 0, 1.5, 2.5, 0);
+  ScriviTesto("due\r\nrighe", {-0.25, 0}, -90, 0.5, 1, 4);
+  ScriviTesto("sparisce", {70, 80}, 0, 0.04, 1, 4);
   Cerchio({1e16, 12.5}, 8, 6);
   Cerchio({1e16, 12.5}, 8, 6);
   Disegno.Punti.numero = 1;
@@ -52,29 +52,6 @@ TEST_F(FileDisegno, Vuoto) {
   EXPECT_EQ(
       Salvato(Intestazione::Quattro),
       Righe("                   4|-1.5 -1.5 | 4  4 |-10000.000000        10000.000000| 0 | 0 | 0 | 0 | 0 |"));
-}
-
-TEST_F(FileDisegno, Avvisi) {
-  const std::string riuscito =
-      "message information \"SALVA FILE DISEGNO\" \"File " + nome_ + " salvato.\" -> ok\n";
-  const auto fallito = [](const std::string& nome) {
-    return "message none \"ERRORE\" \"Errore durante la scrittura sul file" + nome + "\" -> ok\n";
-  };
-  const std::string senzaCartella = (cartella_ / "manca/x.dis").string(), pieno = "/dev/full";
-  const std::tuple<std::string, ModoAvviso, bool, std::string> casi[] = {
-      {nome_, ModoAvviso::Tutti, true, riuscito},
-      {nome_, ModoAvviso::Nessuno, true, ""},
-      {nome_, ModoAvviso::Errori, true, ""},
-      {senzaCartella, ModoAvviso::Tutti, false, fallito(senzaCartella)},
-      {senzaCartella, ModoAvviso::Nessuno, false, ""},
-      {senzaCartella, ModoAvviso::Errori, false, fallito(senzaCartella)},
-      {pieno, ModoAvviso::Tutti, false, fallito(pieno)},  // opens, and refuses every write
-  };
-  for (const auto& [nome, modo, scritto, messaggio] : casi) {
-    bool esito = !scritto;
-    EXPECT_EQ(Mostrato([&, &n = nome, m = modo] { esito = SalvaDisegno(n, m); }), messaggio) << nome;
-    EXPECT_EQ(esito, scritto) << nome;
-  }
 }
 
 TEST(NomeDisegno, UnNomeDiFileDentroLaCartella) {

@@ -95,7 +95,7 @@ GRUPPI = dict.fromkeys(SESSIONI, ("normale", RIGHE_SESSIONE)) | {
 }
 
 
-# On Windows there is a screen, and nothing to minimize a form of these with.
+# For X only: Windows always has a screen, and a form of these cannot be minimized there.
 DI_X = ["ridotte", "senza-schermo"]
 
 
@@ -174,7 +174,7 @@ def prova(gruppo, programmi, cartella, schermo=None):
 def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     programmi, falliti = Path(sys.argv[1]).resolve(), 0
-    # Windows is started at the one screen that it then shows its windows at.
+    # The emulated Windows is started at one screen and shows all its windows there.
     solo_qui = [*DI_X, "sessione-media", "sessione-grande"] if EMULATORE else ["contratto", "unita"]
     gruppi = sys.argv[2:] or [g for g in (*GRUPPI, "senza-schermo", "contratto") if g not in solo_qui]
     with contextlib.ExitStack() as pila:

@@ -2,10 +2,13 @@
 import os
 import shlex
 import subprocess
+import sys
 from pathlib import Path
 
-from impianto import EMULATORE, Impianto
-from schermo import PAZIENZA, attendi, finisce
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "app"))
+from formati import disposizioni  # noqa: E402
+from impianto import EMULATORE, Impianto  # noqa: E402
+from schermo import PAZIENZA, attendi, finisce  # noqa: E402
 
 IMMAGINI = os.environ.get("TARVEL_IMMAGINI")
 PRIMA_VOCE = 100  # twips from the upper edge of a list to its first entry
@@ -15,17 +18,12 @@ def forme(programmi, cartella):
     """The program's own word for its forms: each one's width and, in tab order, the controls that can have
     the focus, with their kind and where the mouse meets them; twips."""
     copione = "layout,click Command6,layout,click Chiudi,click Command7,layout,close,type nome ?,click Command1,layout"
-    trovate = {}
-    for riga in recita_senza_schermo(programmi, cartella / "forme", copione.replace(",", "\n")).splitlines():
-        match riga.split():
-            case ["layout", nome, larghezza, _]:
-                controlli = {}
-                trovate[nome] = int(larghezza), controlli
-            case ["place", nome, tipo, *posto] if tipo != "label":
-                sinistra, alto, larga, alta = map(int, posto)
-                controlli[nome] = tipo, (sinistra + larga // 2,
-                                         alto + (PRIMA_VOCE if tipo == "list" else alta // 2))
-    return trovate
+    detto = recita_senza_schermo(programmi, cartella / "forme", copione.replace(",", "\n"))
+    return {nome: (larghezza, {controllo: (tipo, (sinistra + larga // 2,
+                                                  alto + (PRIMA_VOCE if tipo == "list" else alta // 2)))
+                               for controllo, (tipo, (sinistra, alto, larga, alta)) in controlli.items()
+                               if tipo != "label"})
+            for nome, (larghezza, _, controlli) in disposizioni(detto).items()}
 
 
 def recita_senza_schermo(programmi, radice, copione, decimale="."):

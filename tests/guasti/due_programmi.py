@@ -13,7 +13,8 @@ import threading
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
-from installazione import ESEMPIO, installa, nomi  # noqa: E402
+from formati import nomi  # noqa: E402
+from installazione import ESEMPIO, installa  # noqa: E402
 
 ALTRO = r"^message exclamation \"ATTENZIONE\" \"Un altro programma ha cambiato il file \S+ dopo che era stato letto o " \
         r"salvato qui\.\\nCom'era è conservato in \S+\\(sezio_ut\.altro\d*)\.\\n(.*)\" -> ok$"
@@ -58,10 +59,8 @@ def altro(detto):
 
 
 with tempfile.TemporaryDirectory(prefix="Due_") as radice:
-    lavoro = installa(radice)
+    lavoro = installa(radice, ESEMPIO)
     file = os.path.join(lavoro, "sezio_ut")
-    with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as d:
-        d.write(ESEMPIO)
     uno, due = Programma(radice), Programma(radice)
     assert altro(uno.salva("A")) is None and altro(uno.ancora()) is None
     assert altro(due.salva("B")) == ("sezio_ut.altro", SEZIONI.format(1, 0)), "B"

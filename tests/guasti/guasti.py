@@ -9,12 +9,14 @@ name before the one that stands for it is whole and on the disk.
 """
 import os
 import re
-import subprocess
+import shutil
 import sys
 import tempfile
+from concurrent.futures import ThreadPoolExecutor
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
-from installazione import ESEMPIO, installa, nomi  # noqa: E402
+from formati import nomi  # noqa: E402
+from installazione import ESEMPIO, installa, recita  # noqa: E402
 
 PROGRAMMA = sys.argv[1]
 PRIME = "type nome A\nclick Calcolo\nclick Command2\ntype nome B\nclick Calcolo\nclick Command2\n" \
@@ -24,10 +26,10 @@ SCENA = "type nome C\nclick Calcolo\nclick Command2\nclick Command4\n" \
 PREVISTI = re.compile("|".join((
     "Calcolo eseguito", "File salvato", r"Sezione non salvata\. Salvare\?",
     r"Errore: file \S+impostazioni\\(dirlav|lavoro) errato o mancante",
-    r"Problemi nella scrittura del file \S+\\sezio_ut(\\nNon si può fare né .*)?(\\nLe sezioni non ancora salvate .*)?",
-    r"Lettura del file \S+CapOpSez\.txt non riuscita", r"Problemi con la scrittura del file \S+ostrel\.inp",
+    r"Problemi nella scrittura del file \S+\\sezio_ut(\\nNon si può fare né .*: guasto del disco\.)?(\\nLe sezioni non ancora salvate .*)?",
+    r"Lettura del file \S+CapOpSez\.txt non riuscita: guasto del disco", r"Problemi con la scrittura del file \S+ostrel\.inp",
     r"Problemi con l'apertura dell'applicazione \S+ostrel\.exe", r"File \S+CapOpSez\.txt non valido.*",
-    "Errore irreversibile: (?!fine del file inattesa).*")))  # whole files do not end early
+    "Errore irreversibile: (calcolo della sezione .*|.*: guasto del disco .*)")))
 guasti = 0
 
 
@@ -56,9 +58,13 @@ def in_ordine(diario):
             yield f"{nome} vuotato, e accanto c'era posto per un altro file"
 
 
+def cartella():
+    """In memory, where the host has such a folder: the calls show what the program asks of the disk."""
+    return tempfile.TemporaryDirectory(prefix="Guasti_", dir="/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
+
+
 def gioca(radice, copione, guasto):
-    return subprocess.run([PROGRAMMA, "--", f"|diroot={radice}|"], input=copione, capture_output=True, timeout=60,
-                          encoding="utf-8", env={**os.environ, "TARVEL_GUASTO": guasto})
+    return recita([PROGRAMMA], radice, copione, env={**os.environ, "TARVEL_GUASTO": guasto})
 
 
 def diario_di(esito):
@@ -67,11 +73,9 @@ def diario_di(esito):
 
 def iniziali(guasto):
     """Whether the defaults were not read, and what the file holds once the program is closed."""
-    with tempfile.TemporaryDirectory(prefix="Guasti_") as radice:
-        installa(radice)
+    with cartella() as radice:
+        installa(radice, ESEMPIO)
         file = os.path.join(radice, "custom", "CapSezDe.txt")
-        with open(file, "w", newline="") as valori:
-            valori.write(ESEMPIO)
         diario = diario_di(gioca(radice, "type Text1(0) 7\nclick Command5\ntick 10\n", guasto))
         with open(file, newline="") as valori:
             return any(c in "l<" and not r and n == "CapSezDe.txt" for c, r, n in diario), valori.read()
@@ -79,13 +83,10 @@ def iniziali(guasto):
 
 def esamina(guasto, solo):
     """Plays the scene with these calls failing; says what is wrong and returns the number of calls."""
-    with tempfile.TemporaryDirectory(prefix="Guasti_") as radice:
-        lavoro = installa(radice)
-        with open(os.path.join(radice, "custom", "CapSezDe.txt"), "w", newline="") as file:
-            file.write(ESEMPIO)
-        assert gioca(radice, PRIME, "").returncode == 0
-        # Found by a listing of its folder, which may fail too.
-        os.rename(os.path.join(lavoro, "sezio_ut"), os.path.join(lavoro, "SEZIO_UT"))
+    with cartella() as radice:
+        lavoro = installa(radice, ESEMPIO)
+        for parte in ("custom", "Lavori"):
+            shutil.copytree(os.path.join(PARTENZA, parte), os.path.join(radice, parte), dirs_exist_ok=True)
         esito = gioca(radice, SCENA, guasto)
         messaggi = re.findall(r'^message \S+ ".*?" "(.*)" -> ', esito.stdout, re.M)
         file = {"": "SEZIO_UT", ".bak": "sezio_ut.bak", ".salvataggio": "sezio_ut.salvataggio"}
@@ -106,7 +107,7 @@ def esamina(guasto, solo):
         for nome in (".bak", ".salvataggio"):
             esige(stato[nome] is not None or file[nome] not in os.listdir(lavoro), nome + " non intero")
         esige(stato[""] is not None or "sezio_ut.bak" in fatale, "un file rovinato senza dire della copia")
-        # "File salvato" follows also the message of a file that could not be written.
+        # The program says "File salvato" also after the message of a file that it could not write.
         salvato = ["File salvato" == m and not messaggi[i - 1].startswith("Problemi nella")
                    for i, m in enumerate(messaggi)]
         esige(salvato.count(True) < 1 or any({"A", "B", "C"} <= n for n in intere), "salvato, e non lo era")
@@ -128,17 +129,22 @@ def esamina(guasto, solo):
         return int(re.search(r"chiamate (\d+)", esito.stderr).group(1)), diario
 
 
+partenza = cartella()
+PARTENZA = partenza.name
+lavoro = installa(PARTENZA, ESEMPIO)
+assert gioca(PARTENZA, PRIME, "").returncode == 0
+# Found by a listing of its folder, which may fail too.
+os.rename(os.path.join(lavoro, "sezio_ut"), os.path.join(lavoro, "SEZIO_UT"))
 # Defaults that the host did not let read stay as they are.
 non_letti = [testo for male, testo in (iniziali(str(n)) for n in range(1, 60)) if male]
 assert non_letti and set(non_letti) == {ESEMPIO}, non_letti
 chiamate, diario = esamina("", True)
 assert chiamate > 100
-# From the disk's side: the start waits for who writes the file. At Salva the old file is read while it is held, its
-# copy is whole, then it is emptied.
+# What the disk sees of the section file: the start opens it and waits for another program that is writing. Salva holds
+# the file, reads it, writes its copy to the disk, and only then empties it.
 sezioni = [c for c, _, n in diario if n.lower().startswith("sezio_ut")]
 assert "".join(sezioni).startswith("al<<cca<<n>dcrDv>dc"), "".join(sezioni)
-for n in range(1, chiamate + 1):
-    esamina(str(n), True)
-    esamina(f"{n}-999999", False)
+with ThreadPoolExecutor(os.cpu_count()) as mani:
+    list(mani.map(lambda n: (esamina(str(n), True), esamina(f"{n}-999999", False)), range(1, chiamate + 1)))
 print(f"{2 * chiamate - guasti} passed, {guasti} failed")
 sys.exit(guasti > 0)

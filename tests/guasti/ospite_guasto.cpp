@@ -23,11 +23,13 @@ struct Conto {
   long chiamate = 0, primo = 0, ultimo = 0;
 };
 
+bool gFinto = false;  // the last call was one that fails
+
 // True when this call is one that fails.
 bool Fallisce() {
   static Conto conto;
   ++conto.chiamate;
-  return conto.chiamate >= conto.primo && conto.chiamate <= conto.ultimo;
+  return gFinto = conto.chiamate >= conto.primo && conto.chiamate <= conto.ultimo;
 }
 
 using tarvel::kOspiteSistema;
@@ -92,7 +94,8 @@ constexpr Ospite kGuasto = {
           return Annota(sostituisci ? "r" : "R", da, riuscito);
         },
     .NomeSulDisco = ONiente<&Ospite::NomeSulDisco, 'D', const std::string&>,
-    .Togli = ONiente<&Ospite::Togli, 't', const std::string&>};
+    .Togli = ONiente<&Ospite::Togli, 't', const std::string&>,
+    .Motivo = [] { return gFinto ? std::make_error_code(std::errc::io_error) : kOspiteSistema.Motivo(); }};
 
 }  // namespace
 

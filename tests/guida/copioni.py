@@ -1,12 +1,18 @@
-"""The sessions in the guide's pages, played.
+"""Plays the sessions in the guide's pages.
 
-A page's comment "<!-- prova" holds a session of the scripted desktop, on a fresh installation with the worked
-example in the boxes, and what it comes to. "riavvia" starts the program anew on the same installation, "ripeti N
-LINE / LINE" writes lines N times; "zeri" empties the boxes, "tabella" types the page's table of values, "ordine N"
-presses the buttons of the steps in the Nth column of the page's table of orders. "$ COMMAND" ends the program and runs
-a command in the job's folder, which has to stand in the text; "guasta COMMAND" one that does not. Of a line "= ..." the last word,
-or after a name of CAMPI_INTERI the whole rest, has to stand in the text under the same heading too; a line "~ ..."
-is compared with the program alone:
+A page's comment "<!-- prova" holds a session of the scripted desktop and what comes of it. It is played on a fresh
+installation with the worked example in the boxes. Beside the desktop's lines a session has:
+    riavvia              starts the program again on the same installation
+    ripeti N LINE / LINE writes the lines N times; %d in a line is the number of the time
+    zeri                 empties the boxes
+    tabella              types the page's table of values
+    ordine N             presses the buttons of the Nth column of the page's table of orders
+    $ COMMAND            ends the program and runs a command in the job's folder; the command has to stand in the text
+    guasta COMMAND       the same with a command that the text does not give
+    = ...                compares the program with the last word of the line, or with all that follows one of CAMPI_INTERI;
+                         this has to stand in the text under the same heading too
+    ~ ...                compares the program alone
+What is compared:
     = NAME FIELD VALUE           a section of the file: larghezza, ZG, An, O10y, P14.tauVy, punti, ...
     = calcolo EXPRESSION VALUE   of such values of the only section
     = casella N TEXT             what a box shows     = messaggio TEXT    a message box has said
@@ -23,7 +29,8 @@ import tempfile
 
 QUI = os.path.dirname(os.path.realpath(__file__))
 sys.path.insert(0, os.path.join(QUI, "..", "app"))
-from installazione import ESEMPIO, installa  # noqa: E402
+from formati import sezioni  # noqa: E402
+from installazione import ESEMPIO, installa, recita  # noqa: E402
 
 HEADLESS, LOTTO, OSTREL, *_ = [*(os.path.abspath(p) for p in sys.argv[1:]), None]
 DOMANDA_FINALE = 'a question without an answer: "INFORMAZIONE" "Sezione non salvata. Salvare?"'
@@ -41,26 +48,6 @@ def controlla(dove, cosa, avuto, atteso):
 def leggi(percorso, codice="utf-8"):
     with open(percorso, encoding=codice) as file:
         return file.read()
-
-
-def sezioni(percorso):
-    """What a section file holds: by name, its figures as they are written."""
-    righe = iter(leggi(percorso, "cp1252").splitlines())
-    trovate = {}
-    for _ in range(int(next(righe))):
-        voci = trovate[next(righe)] = {}
-        voci.update(zip(("larghezza", "altezza", "ZG", "YG"), next(righe).split()))
-        for lettera in "OC"[:int(next(righe))]:
-            for v in range(int(next(righe)), 0, -1):
-                voci[f"{lettera}{v}z"], voci[f"{lettera}{v}y"] = next(righe).split()[:2]
-        voci.update(zip(("An", "Aty", "Atz"), next(righe).split()))
-        voci.update(zip(("Jt", "Jyg", "Jzg"), next(righe).split()))
-        voci["punti"] = next(righe)
-        for k in range(1, int(voci["punti"]) + 1):
-            voci[f"P{k}.z"], voci[f"P{k}.y"] = next(righe).split()[:2]
-            voci.update((f"P{k}.{tau}", next(righe).split()[0]) for tau in ("tauT", "tauVy", "tauVz"))
-        next(righe), next(righe)
-    return trovate
 
 
 class Prova:
@@ -99,9 +86,7 @@ class Prova:
 
     def nuova(self):
         self.inizio = self.radice = os.path.join(self.base, "inst")
-        installa(self.radice)
-        with open(os.path.join(self.radice, "custom", "CapSezDe.txt"), "w", newline="") as file:
-            file.write(ESEMPIO)
+        installa(self.radice, ESEMPIO)
 
     def fine(self):
         self.gioca()
@@ -127,12 +112,11 @@ class Prova:
             file.write(os.path.join(self.radice, "Lavori") + "\r\n")
         for fine in ([], ["answer no", "close"]):
             testo = "\n".join([*self.copione, *altre, *fine]) + "\n"
-            esito = subprocess.run([HEADLESS, f"|diroot={self.radice}|"], input=testo, capture_output=True, text=True,
-                                   timeout=120)
+            esito = recita([HEADLESS], self.radice, testo)
             if DOMANDA_FINALE not in esito.stdout + esito.stderr:
                 break
         self.detto = esito.stdout
-        # A fatal error's message is one of those that the guide tells of.
+        # The guide tells of fatal errors, so a session may end with one.
         if esito.returncode and "Errore irreversibile" not in self.detto:
             controlla(self.dove, "la sessione", (esito.stdout + esito.stderr)[-300:], "giocata fino in fondo")
 
@@ -166,7 +150,7 @@ class Prova:
         if campo == "nomi":
             quale, *nomi = resto.split(" ")
             posto = os.path.join(self.radice, "custom", "sezio_ut") if quale == "generale" else self.nel_lavoro("sezio_ut")
-            controlla(self.dove, resto, list(sezioni(posto)), nomi)
+            controlla(self.dove, resto, [nome for nome, _ in sezioni(posto)], nomi)
             return valore
         file = self.nel_lavoro("sezio_ut")
         if campo == "riga":
@@ -178,7 +162,7 @@ class Prova:
             cifre, _, potenza = intero.partition("E")
             attese, _, sua = valore.partition("E")
             return cifre[:len(attese)] + ("E" + potenza if sua else "")
-        lette = sezioni(file)
+        lette = dict(sezioni(file))
         if campo == "calcolo":
             voci, = lette.values()
             espressione = re.sub(r"P\d+\.\w+|[A-Z]\w+", lambda m: voci[m[0]], resto.split(" ")[0])

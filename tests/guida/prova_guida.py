@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The guide says what the program does: the sessions in its pages are played, its numbers compared, its sketches
-remade, its links followed.
+"""The guide says what the program does: the sessions in its pages are played, its numbers, messages and pictures
+compared, its links followed.
 
     prova_guida.py HEADLESS LOTTO [OSTREL]
 """
@@ -12,12 +12,12 @@ import tempfile
 
 sys.dont_write_bytecode = True
 from copioni import HEADLESS, OSTREL, QUI, Prova, controlla, errori, leggi  # noqa: E402
+from formati import disegno, disposizioni  # noqa: E402
+from immagini import LETTERE, confronta  # noqa: E402
+from installazione import ESEMPIO, installa, recita  # noqa: E402
 
 DOCS = os.path.join(QUI, "..", "..", "docs")
-sys.path.insert(0, os.path.join(DOCS, "immagini"))
-from finestre import LETTERE  # noqa: E402
-from installazione import ESEMPIO, installa  # noqa: E402
-from schizzi import SCHIZZI, TOZZA, Foglio  # noqa: E402
+SESSIONI = os.path.join(QUI, "..", "app", "sessioni")
 
 
 def testo_visibile(testo):
@@ -33,56 +33,28 @@ def prove():
         pagina = leggi(os.path.join(DOCS, nome))
         for parte in re.split(r"^(?=#)", pagina, flags=re.M):
             for blocco in re.findall(r"<!-- prova\n(.*?)-->", parte, re.S):
-                # What a step comes to is told in the steps after it too.
+                # The text may tell the outcome of a step under the headings of later steps.
                 Prova(f"{nome}, {parte.splitlines()[0]}", blocco.splitlines(),
                       testo_visibile(pagina if "tabella" in blocco else parte), pagina)
                 quante += 1
     controlla("pagine", "sessioni", quante > 15, True)
 
 
-def schizzi():
-    # What a dimension line measures is the dimension whose number follows it.
-    misure = {}
-    quota, numero = Foglio.quota, Foglio.numero
-
-    def quotata(foglio, a, b, colore):
-        misure["ultima"] = abs(a[0] - b[0]) + abs(a[1] - b[1]), foglio.scala
-        quota(foglio, a, b, colore)
-
-    def numerata(foglio, p, n, colore):
-        if isinstance(n, int) and n < 16 and "ultima" in misure:
-            lunga, scala = misure.pop("ultima")
-            misure[n] = round(lunga / scala)
-        numero(foglio, p, n, colore)
-
-    Foglio.quota, Foglio.numero = quotata, numerata
-    SCHIZZI["dimensioni.svg"](HEADLESS)
-    Foglio.quota, Foglio.numero = quota, numero
-    controlla("dimensioni.svg", "quote", [misure.get(n) for n in range(16)], [int(v) for v in TOZZA[:16]])
-    for nome, disegna in SCHIZZI.items():
-        fatto = leggi(os.path.join(DOCS, "immagini", nome))
-        controlla(nome, "schizzo", "da rifare con docs/immagini/fai" if disegna(HEADLESS) != fatto else "", "")
+def detto_da(copione, valori=None):
+    """What the program answers to a script on a new installation."""
+    with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
+        installa(radice, valori)
+        return recita([HEADLESS], radice, copione).stdout
 
 
-def rettangoli(disegno):
-    """Of a drawing's texts, along the axes: left, bottom, right, top."""
-    righe = iter(leggi(disegno, "cp1252").splitlines()[4:])
-    punti = [tuple(map(float, next(righe).split()[:2])) for _ in range(int(next(righe)))]
-    for _ in range(int(next(righe))):
-        next(righe)
-    for _ in range(int(next(righe))):
-        next(righe)
-    for _ in range(int(next(righe))):
-        posto, _, angolo = map(int, next(righe).split())
-        base, alta = map(float, next(righe).split()[:2])
-        testo = next(righe)
-        x, y = punti[posto]
-        larga = base * len(testo)
-        yield testo, (x, y, x + larga, y + alta) if angolo == 0 else (x - alta, y, x, y + larga)
+def ingombro(inizio, angolo, base, alta, testo):
+    """Of a drawing's text, along the axes: left, bottom, right, top."""
+    (x, y), larga = inizio, base * len(testo)
+    return (x, y, x + larga, y + alta) if angolo == 0 else (x - alta, y, x, y + larga)
 
 
 def opzioni():
-    """The columns of the table of options, as typed into the form: texts that do not lie one over another."""
+    """With the columns of the table of options typed into the form, no text of the drawing lies over another."""
     tabella = re.findall(r"^\| ([^|]+?) \| ([\d.]+) \| ([\d.*]+) \| ([\d.*]+) \| ([\d.*]+) \|$",
                          leggi(os.path.join(DOCS, "guida-disegno.md")), re.M)
     numeri = {"Scala quote": 3, "Distanza massima quote-disegno": 4, "Lunghezza linee di estensione delle quote": 5,
@@ -97,9 +69,8 @@ def opzioni():
             copione += "click Command6\n" + "".join(
                 f"type TextOpt({numeri[riga[0]]}) {riga[colonna].strip('*')}\n" for riga in tabella)
             copione += "click FormOpt.Applica\nclick FormOpt.Chiudi\ntype nome S\nclick Calcolo\nclick Command2\n"
-            subprocess.run([HEADLESS, f"|diroot={radice}|"], input=copione, text=True, check=True,
-                           stdout=subprocess.DEVNULL, timeout=60)
-            testi = list(rettangoli(os.path.join(lavoro, "S.dis")))
+            recita([HEADLESS], radice, copione)
+            testi = [(testo[-1], ingombro(*testo)) for testo in disegno(os.path.join(lavoro, "S.dis"))[1]]
         coppie = [(a, b) for n, (a, r) in enumerate(testi) for b, s in testi[:n]
                   if r[0] < s[2] and s[0] < r[2] and r[1] < s[3] and s[1] < r[3]]
         controlla("opzioni", f"colonna {colonna}: sovrapposti {coppie}", bool(coppie), sovrapposti)
@@ -108,15 +79,13 @@ def opzioni():
 
 
 def comandi():
-    """The viewer's command lines, as they stand there: each writes what it names, the drawing at 1:50 fits."""
+    """Each command line of the viewer writes the file that it names."""
     righe = leggi(os.path.join(DOCS, "guida-disegno.md")).split("<!-- comandi -->")[1].split("\n\n")[1].splitlines()
     controlla("comandi", "righe", len(righe) > 3, True)
     with tempfile.TemporaryDirectory(prefix="Guida_") as cartella:
-        lavoro = installa(os.path.join(cartella, "inst"))
-        copione = "".join(f"type Text1({i}) {v}\n" for i, v in enumerate(ESEMPIO.split()))
-        copione += "".join(f"type nome {nome}\nclick Calcolo\nclick Command2\n" for nome in ("PONTE", "ALTRA"))
-        subprocess.run([HEADLESS, f"|diroot={cartella}/inst|"], input=copione, text=True, check=True,
-                       stdout=subprocess.DEVNULL, timeout=60)
+        lavoro = installa(os.path.join(cartella, "inst"), ESEMPIO)
+        recita([HEADLESS], f"{cartella}/inst", "".join(
+            f"type nome {nome}\nclick Calcolo\nclick Command2\n" for nome in ("PONTE", "ALTRA")))
         os.mkdir(os.path.join(lavoro, "tavole"))
         for riga in righe:
             programma, *argomenti = riga.split()
@@ -130,14 +99,15 @@ def comandi():
 def rimandi():
     """Every link leads to a page, a heading or a picture; every picture is shown somewhere."""
     mostrate = set()
-    pagine = [n for n in os.listdir(DOCS) if n.endswith(".md")]
+    pagine = ["../README.md", *(n for n in os.listdir(DOCS) if n.endswith(".md"))]
     ancore = {n: {re.sub(r"[^\w\- ]", "", t.lower()).replace(" ", "-")
                   for t in re.findall(r"^#+ (.*)$", leggi(os.path.join(DOCS, n)), re.M)} for n in pagine}
     for nome in pagine:
         for meta in re.findall(r"\]\(([^)]+)\)", leggi(os.path.join(DOCS, nome))):
             file, _, ancora = meta.partition("#")
             mostrate.add(os.path.basename(file))
-            controlla(nome, meta, (os.path.exists(os.path.join(DOCS, file)), not ancora or ancora in ancore.get(file or nome, ())),
+            posto = os.path.join(DOCS, os.path.dirname(nome), file)
+            controlla(nome, meta, (os.path.exists(posto), not ancora or ancora in ancore.get(file or nome, ())),
                       (True, True))
     immagini = {n for n in os.listdir(os.path.join(DOCS, "immagini")) if n.endswith((".png", ".svg"))}
     controlla("immagini", "mostrate", sorted(immagini - mostrate), [])
@@ -147,17 +117,14 @@ def rimandi():
 
 def controlli():
     """The letters stand at the commands that the table gives them; each box calls itself by its number, group and
-    name in the table of dimensions."""
+    name in the table of dimensions; the pictures of the forms show both."""
     guida = leggi(os.path.join(DOCS, "guida.md"))
     tabella = dict(re.findall(r"\*\*([A-L])\*\* \| ([^|]+?) (?=\|)", guida))
     gruppi, _, *righe = [[cella.strip() for cella in riga.strip("|").split("|")]
                          for riga in re.search(r"^\| n\. \|(?:.*\n\|)*.*", guida, re.M)[0].split("\n")]
     dimensioni = {int(riga[k]): f"{riga[k]}, {gruppi[k + 1]}: {riga[k + 1]}" for riga in righe for k in (0, 2, 4) if riga[k]}
-    with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
-        installa(radice)
-        detto = subprocess.run([HEADLESS, f"|diroot={radice}|"], text=True, stdout=subprocess.PIPE, timeout=60, check=True,
-                               input="".join([*(f"print {nome}\n" for nome in LETTERE.values()),
-                                               *(f"tip Text1({i})\n" for i in range(21))]) + "close\n").stdout
+    detto = detto_da("".join([*(f"print {nome}\n" for nome in LETTERE.values()), *(f"tip Text1({i})\n" for i in range(21)),
+                              "layout\nclick Command6\nlayout\nclose\nclose\n"]))
     scritte = dict(re.findall(r'^text (\w+) "(.*)"$', detto, re.M))
     for lettera, nome in LETTERE.items():
         if nome not in ("nome", "nomute"):
@@ -165,30 +132,39 @@ def controlli():
     controlla("guida.md", "lettere", sorted(tabella), sorted(LETTERE))
     controlla("guida.md", "dimensioni", re.findall(r'^tip Text1\(\d+\) "(.*)"$', detto, re.M),
               [dimensioni.get(i) for i in range(21)])
+    for form, immagine in (("tarvel1", "finestra.png"), ("FormOpt", "opzioni.png")):
+        controlla(immagine, "da rifare con docs/immagini/fai", [*confronta(
+            os.path.join(DOCS, "immagini", immagine), disposizioni(detto)[form], form == "tarvel1")], [])
 
 
 def messaggi():
-    """The messages of the table are said by a source; the keys of the viewer's table are those of its menus."""
-    sorgenti = "".join(leggi(os.path.join(radice, n)) for cartella in ("app", "base", "model", "options", "lavoro", "preview",
-                                                                       "drawing", "platform", "viewer")
-                       for radice, _, nomi in os.walk(os.path.join(QUI, "..", "..", cartella)) for n in nomi
-                       if n.endswith((".cpp", ".h")))
-    sorgenti = re.sub(r'"_t\b', '"', sorgenti)
-    sorgenti = re.sub(r'"\s*\n\s*"', "", sorgenti)
-    menu = leggi(os.path.join(QUI, "..", "..", "viewer", "menu.cpp"))
-    tasti = re.findall(r"`(.)`", leggi(os.path.join(DOCS, "guida-disegno.md")).split("| per | si fa |")[1].split("\n\n")[0])
-    controlla("tasti", "del visualizzatore", [t for t in tasti if f'"{t}"' not in menu] or len(tasti) > 8, True)
-    livelli = re.search(r"`1`.*", leggi(os.path.join(DOCS, "guida-disegno.md")))[0]
-    for tasto, voce in re.findall(r"`(\d)` (?:\w+ )*(\w+)", livelli):
-        controlla("tasti", voce, re.search(r'"&?Mostra [^"]*?(\w+)", \{?(?:QKeySequence\()?"%s"' % tasto, menu.replace("&", ""))[1], voce)
+    """A session says each message of the table. Here a program says two more: one whose options cannot be read, and
+    that saves over the file of another."""
+    with tempfile.TemporaryDirectory(prefix="Guida_") as radice:
+        lavoro = installa(radice, ESEMPIO)
+        os.symlink("/proc/self/mem", os.path.join(radice, "custom", "CapOpSez.txt"))
+        with subprocess.Popen([HEADLESS, f"|diroot={radice}|"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              text=True) as gioco:
+            gioco.stdin.write("click Command6\nclick Chiudi\ntype nome A\nclick Calcolo\nclick Command2\n")
+            gioco.stdin.flush()
+            detto = ""
+            for riga in gioco.stdout:
+                detto += riga
+                if "File salvato" in riga and not gioco.stdin.closed:
+                    with open(os.path.join(lavoro, "sezio_ut"), "a") as file:
+                        file.write("altro")
+                    print("click Command2", file=gioco.stdin)
+                    gioco.stdin.close()
+    detto += "".join(leggi(os.path.join(SESSIONI, n)) for n in os.listdir(SESSIONI) if n.endswith(".atteso"))
+    detti = re.findall(r'^message \S+ ".*?" "(.*)" -> ', detto, re.M)
     righe = re.findall(r"^\| ([^|]+?) \| .* \|$", leggi(os.path.join(DOCS, "guida-messaggi.md")).split("|---|---|")[1], re.M)
     controlla("messaggi", "righe", len(righe) > 10, True)
     for messaggio in righe:
-        for parte in filter(None, (p.strip() for p in messaggio.split("…"))):
-            controlla("messaggi", messaggio, parte if parte in sorgenti else "in nessun sorgente", parte)
+        forma = re.compile(".*".join(map(re.escape, re.split(" ?… ?", messaggio))))
+        controlla("messaggi", messaggio, any(map(forma.match, detti)), True)
 
 
-for passo in (prove, schizzi, opzioni, *([comandi] if OSTREL else []), rimandi, controlli, messaggi):
+for passo in (prove, opzioni, *([comandi] if OSTREL else []), rimandi, controlli, messaggi):
     passo()
 print(f"{len(errori)} errori")
 sys.exit(bool(errori))

@@ -4,6 +4,7 @@
 set -euo pipefail
 dove=$(mktemp -d)
 trap 'rm -rf "$dove"' EXIT
+docs=$(cd "$(dirname "$0")/../../docs" && pwd)
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 cmake --install "$1" --prefix "$dove" >/dev/null
 parole() { tr -d '":' | tr -s ' \n' '\n' | tr '[:lower:]' '[:upper:]'; }
@@ -23,7 +24,10 @@ cd "$dove/share"
 for file in doc/tarvel1/guida{,-esempio}.md doc/tarvel1/immagini/{finestra.png,punti.svg} icons/hicolor/scalable/apps/{tarvel1,ostrel}.svg mime/packages/ostrel.xml; do
   [ -s "$file" ] || { echo "manca $file"; exit 1; }
 done
-! command -v cmark-gfm >/dev/null || [ -s doc/tarvel1/guida-esempio.html ] || { echo "manca la guida per il browser"; exit 1; }
+if command -v cmark-gfm >/dev/null; then
+  [ -s doc/tarvel1/guida-esempio.html ] || { echo "manca la guida per il browser"; exit 1; }
+  "$docs/html" doc/tarvel1 # written again over what is there
+fi
 # Every link of what is read there leads somewhere.
 (
   cd doc/tarvel1

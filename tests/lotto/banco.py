@@ -1,4 +1,5 @@
 """What the tests of the filter share: the programs under trial, the worked example as a row, what went wrong."""
+import csv
 import os
 import shlex
 import subprocess
@@ -36,7 +37,8 @@ def lotto(argomenti, ingresso=b"", **altro):
 
 
 def tabella(esito, separatore=";"):
-    return [riga.split(separatore) for riga in esito.stdout.decode().splitlines()]
+    """The cells of each row that was written."""
+    return [*csv.reader(esito.stdout.decode().splitlines(), delimiter=separatore)]
 
 
 def byte(percorso):
@@ -44,9 +46,13 @@ def byte(percorso):
         return file.read()
 
 
+def scrivi(percorso, testo):
+    with open(percorso, "wb") as file:
+        file.write(testo if isinstance(testo, bytes) else testo.encode())
+
+
 def desktop(radice, copione, *opzioni):
-    with open(os.path.join(radice, "copione"), "w") as file:
-        file.write(copione)
+    scrivi(os.path.join(radice, "copione"), copione)
     esito = subprocess.run([*EMULATORE, HEADLESS, "--script", os.path.join(radice, "copione"), *opzioni, "--",
                             f"|diroot={radice}|"], stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
     controlla("desktop", (esito.returncode, esito.stderr), (0, b""))

@@ -2,19 +2,18 @@
 import os
 import subprocess
 
-from banco import EMULATORE, INTESTAZIONE, LOTTO, byte, cambiata, controlla, lotto, tabella
+from banco import EMULATORE, INTESTAZIONE, LOTTO, byte, cambiata, controlla, lotto, scrivi, tabella
 
 FINO = "--fin-dove-si-legge"
 
 
-def copia(base):
+def copia():
     contati = iter(range(10000))
 
     def copiata(testo, *opzioni):
         """Of a file with these bytes: status, names of the rows, the copy's bytes, what is said."""
-        da, sezio = (os.path.join(base, f"{nome}{next(contati)}") for nome in ("da", "sezio"))
-        with open(da, "wb") as file:
-            file.write(testo)
+        da, sezio = (f"{nome}{next(contati)}" for nome in ("da", "sezio"))
+        scrivi(da, testo)
         esito = lotto(["--da", da, "--sezio", sezio, *opzioni])
         scritto = byte(sezio) if os.path.exists(sezio) else b""
         if scritto:  # the program reads it, and the same sections
@@ -22,11 +21,10 @@ def copia(base):
             controlla(f"{opzioni}: riletto", (riletto.stdout, b"Errore" in riletto.stderr), (esito.stdout, False))
         return esito.returncode, [r[0] for r in tabella(esito)[1:]], scritto, esito.stderr.decode().replace(da, "DA")
 
-    primo = os.path.join(base, "primo")
     # Slopes that the outline gives back cut: rebuilt from them it would move.
-    lotto(["--sezio", primo], f"nome;{INTESTAZIONE}\n" + "".join(
+    lotto(["--sezio", "primo"], f"nome;{INTESTAZIONE}\n" + "".join(
         f"{n};{cambiata(p0=str(200 + 20 * i), p16='1.9', p17='2.55')}\n" for i, n in enumerate(("A", "perché", "C"))))
-    sano = byte(primo)
+    sano = byte("primo")
     righe = sano.split(b"\r\n")[:-1]
     quante = (len(righe) - 1) // 3
     sezioni = [b"".join(r + b"\r\n" for r in righe[1 + quante * k:1 + quante * (k + 1)]) for k in range(3)]
@@ -81,18 +79,15 @@ def copia(base):
             controlla(f"{riga} alla riga {n + 1}", buono or (bool(riga) and stato == 0 and scritto.startswith(b"3\r\n" + A)), True)
 
     # A file that is made while the rows wait for their reader is not replaced.
-    tante, sezio = os.path.join(base, "tante"), os.path.join(base, "altrui")
-    with open(tante, "wb") as scritto:
-        scritto.write(file(*[A] * 500))
-    with subprocess.Popen([*EMULATORE, LOTTO, "--punti", "--da", tante, "--sezio", sezio], stdout=subprocess.PIPE,
+    scrivi("tante", file(*[A] * 500))
+    with subprocess.Popen([*EMULATORE, LOTTO, "--punti", "--da", "tante", "--sezio", "altrui"], stdout=subprocess.PIPE,
                           stderr=subprocess.PIPE) as processo:
         processo.stdout.readline()
-        with open(sezio, "w") as scritto:
-            scritto.write("altrui")
+        scrivi("altrui", "altrui")
         detto = processo.communicate(timeout=60)[1].decode()
-    controlla("fatto intanto", (processo.returncode, byte(sezio), "non si crea" in detto), (1, b"altrui", True))
+    controlla("fatto intanto", (processo.returncode, byte("altrui"), "non si crea: il nome è già preso" in detto), (1, b"altrui", True))
 
     for argomenti, detto in ((["--senza", "A"], "--senza senza --da"), ([FINO], FINO + " senza --da"),
-                             (["--da", primo, "--sezio", primo], "non viene sostituito")):
+                             (["--da", "primo", "--sezio", "primo"], "non viene sostituito")):
         esito = lotto(argomenti)
-        controlla(argomenti, (esito.returncode, detto in esito.stderr.decode(), byte(primo) == sano), (2, True, True))
+        controlla(argomenti, (esito.returncode, detto in esito.stderr.decode(), byte("primo") == sano), (2, True, True))

@@ -1,4 +1,4 @@
-"""How the filter ends and what it takes: order, memory, Ctrl+C, a closed pipe, a full disk, a watcher's line."""
+"""How the filter ends and what it takes: memory, Ctrl+C, a closed pipe, a full disk, a watcher's line."""
 import os
 import re
 import resource
@@ -7,29 +7,16 @@ import subprocess
 import tempfile
 import time
 
-from banco import EMULATORE, LOTTO, RIGA, cambiata, controlla, lotto
+from banco import EMULATORE, LOTTO, RIGA, byte, controlla, lotto, tabella
 
 
 def memoria(righe):
-    """Rows of a pipe, and what they have taken at most."""
-    blocco = f"{RIGA}\n".encode() * 1000
-    with subprocess.Popen([LOTTO, "--processi", "2"], stdin=subprocess.PIPE, stdout=subprocess.PIPE) as processo:
-        if os.fork() == 0:
-            processo.stdout.close()
-            for _ in range(righe // 1000):
-                processo.stdin.write(blocco)
-            os._exit(0)
-        processo.stdin.close()
-        time.sleep(.5)  # a reader that is slow
-        scritte = massima = 0
-        for pezzo in iter(lambda: processo.stdout.read(1 << 16), b""):
-            scritte += pezzo.count(b"\n")
-            with open(f"/proc/{processo.pid}/status") as file:
-                massima = max([massima, *map(int, re.findall(r"VmHWM:\s+(\d+)", file.read()))])
-        stato = processo.wait()
-        os.wait()
-    controlla(f"{righe} righe", (stato, scritte), (0, righe + 1))
-    return massima
+    """What these rows have taken at most."""
+    with subprocess.Popen([LOTTO], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL) as processo:
+        for _ in range(righe // 1000):
+            processo.stdin.write(f"{RIGA}\n".encode() * 1000)
+        with open(f"/proc/{processo.pid}/status") as file:
+            return int(re.search(r"VmHWM:\s+(\d+)", file.read())[1])
 
 
 def tubo_chiuso():
@@ -38,58 +25,50 @@ def tubo_chiuso():
         with subprocess.Popen([*EMULATORE, LOTTO, "-"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
                               preexec_fn=preparazione) as processo:
             processo.stdout.close()
-            try:
-                processo.stdin.write(f"{RIGA}\n".encode() * 20000)
-                processo.stdin.flush()
-            except BrokenPipeError:
-                pass
-            controlla("tubo chiuso", (processo.wait(60), processo.stderr.read()), (141, b""))
-            try:
-                processo.stdin.close()
-            except BrokenPipeError:
-                pass
+            detto = processo.communicate(f"{RIGA}\n".encode() * 20000, timeout=60)[1]
+        controlla("tubo chiuso", (processo.returncode, detto), (141, b""))
 
 
 def righe_di(file):
     return os.pread(file.fileno(), 1 << 24, 0).count(b"\n")
 
 
-def fine(base):
-    """Order, memory, Ctrl+C, a full disk, a watcher's line."""
-    tante = "".join(cambiata(p0=str(150 + n % 200)) + "\n" for n in range(5000))
-    una, otto = (lotto(["--punti", "--processi", n], tante).stdout for n in ("1", "8"))
-    controlla("ordine", una == otto and una.count(b"\n") == 5001, True)
+def fine():
+    """Memory, Ctrl+C, a full disk, a watcher's line."""
     poche, molte = memoria(5000), memoria(100000)
     # The sanitizer keeps what is freed.
-    with open(LOTTO, "rb") as programma:
-        custodita = b"__asan_init" in programma.read()
+    custodita = b"__asan_init" in byte(LOTTO)
     controlla(f"memoria costante ({poche} e {molte} kB)", custodita or molte < poche + 2000, True)
-    for segnale in (signal.SIGINT, signal.SIGTERM):
-        with tempfile.TemporaryFile() as file, subprocess.Popen(
-                [LOTTO, "--sezio", os.path.join(base, "interrotto")], stdin=subprocess.PIPE, stdout=file,
-                stderr=subprocess.PIPE) as processo:
-            processo.stdin.write(f"{RIGA}\n".encode() * 3000)
-            processo.stdin.flush()
-            scadenza = time.monotonic() + 60  # the rows that have come are written, the others never come
-            while righe_di(file) <= 1001 and time.monotonic() < scadenza:
+    # Ctrl+C while the rows go on coming; and while the program, which reads blocks of 64 KiB, waits for the fourth.
+    attese = 3 * 65536 // len(RIGA + "\n")
+    for segnale, sorgente, scritte in ((signal.SIGINT, ["yes", RIGA], 1000),
+                                       (signal.SIGTERM, ["sh", "-c", f"yes '{RIGA}' | head -3000; sleep 60"], attese)):
+        with tempfile.TemporaryFile() as file, \
+                subprocess.Popen(sorgente, stdout=subprocess.PIPE, start_new_session=True) as righe, subprocess.Popen(
+                    [LOTTO, "--sezio", "interrotto"], stdin=righe.stdout, stdout=file, stderr=subprocess.PIPE) as processo:
+            scadenza = time.monotonic() + 20
+            while righe_di(file) <= scritte and time.monotonic() < scadenza:
                 time.sleep(.01)
             processo.send_signal(segnale)
-            controlla("interrotto", (processo.wait(10), b"interrotto dopo" in processo.stderr.read()), (130, True))
+            detto = processo.communicate(timeout=10)[1].decode()
+            os.killpg(righe.pid, signal.SIGKILL)
             file.seek(0)
             uscita = file.read()
-        larghe = {riga.count(b";") for riga in uscita.splitlines()}
-        controlla("interrotto: righe intere", (larghe, uscita[-1:], len(uscita.splitlines()) > 1000), ({11}, b"\n", True))
-    controlla("interrotto: sezio_ut", os.path.exists(os.path.join(base, "interrotto")), False)
+        avute = uscita.splitlines()
+        controlla(f"{sorgente[0]}: interrotto", (processo.returncode, detto, len(avute) > scritte),
+                  (130, f"tarvel1-lotto: interrotto dopo {len(avute) - 1} righe\n", True))
+        controlla(f"{sorgente[0]}: righe intere", ({r.count(b";") for r in avute}, uscita[-1:]), ({11}, b"\n"))
+    controlla("interrotto: sezio_ut", os.path.exists("interrotto"), False)
     with open("/dev/full", "w") as pieno:
         esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
         controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
     # A drawing that has no room is not there, and the next run writes it.
-    disegni = os.path.join(base, "disegni senza posto")
-    os.mkdir(disegni)
-    for posto, atteso in ((1000, (3, [])), (-1, (0, ["U_PO_001.dis"]))):
-        esito = lotto(["--disegni", disegni], RIGA,
+    os.mkdir("senza posto")
+    senza_posto = "Errore durante la scrittura sul filesenza posto\\U_PO_001.dis: file troppo grande"
+    for posto, atteso in ((1000, (3, [], senza_posto)), (-1, (0, ["U_PO_001.dis"], ""))):
+        esito = lotto(["--disegni", "senza posto"], RIGA,
                       preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (posto, -1)))
-        controlla("disegno senza posto", (esito.returncode, os.listdir(disegni)), atteso)
+        controlla("disegno senza posto", (esito.returncode, os.listdir("senza posto"), tabella(esito)[1][-1]), atteso)
     padrone, terminale = os.openpty()
-    subprocess.run([LOTTO], input=tante.encode() * 40, stdout=subprocess.DEVNULL, stderr=terminale)
+    subprocess.run([LOTTO], input=f"{RIGA}\n".encode() * 100000, stdout=subprocess.DEVNULL, stderr=terminale)
     controlla("avanzamento", b" righe, 0 con errore" in os.read(padrone, 1 << 16), True)

@@ -39,8 +39,8 @@ class ProvaFile : public testing::Test {
     Scrivi(percorso, testo);
     NumeroSezioni = 0;
     try {
-      LeggiFileSezioni(false);
-      return "";
+      const auto guasto = LeggiFileSezioni();
+      return guasto ? guasto->testo : "";
     } catch (const ErroreFatale& e) {
       return e.Messaggio();
     }
@@ -140,11 +140,14 @@ TEST_F(ProvaFile, QuelloCheSiScriveSiRilegge) {
 
 TEST_F(ProvaFile, QuelloCheUnAltroHaScrittoEConservatoSeEDiverso) {
   AggiungiCalcolata(prove::Esempio(), "U_PO_001");
-  LeggiFileSezioni(false);
+  EXPECT_EQ(LeggiFileSezioni()->ConMotivo(),
+            "File " + FileSezioni + " non trovato: file o cartella inesistente");
   Scrivi(percorso, ComponiFileSezioni(RigheSezioni()));
   EXPECT_EQ(ScriviFileSezioni().altro, "");
   Scrivi(percorso, "0\r\n");
   EXPECT_EQ(ScriviFileSezioni().altro, FileSezioni + ".altro");
+  for (const char* altro : {".altro2", ".altro3", ".altro4", ".altro5", ".altro5"})
+    EXPECT_EQ(Conserva(altro, FileSezioni, ".altro"), FileSezioni + altro);
 }
 
 // One line cut off, missing, or one too many, and a count of sections that is too small.

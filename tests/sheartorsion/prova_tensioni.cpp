@@ -17,9 +17,9 @@ namespace {
 using prove::Costruita;
 using prove::Esempio;
 
-// Integrals over what lies between two broken lines that run to the right, slice by slice in long double:
-// nothing in common with the edge formulas but the vertices. Between the breaks all are cubics at most,
-// for which two points of Gauss are exact.
+// Integrals over what lies between two broken lines that run to the right, slice by slice in long double.
+// They share nothing with the edge formulas but the vertices. Between the breaks the integrands are cubics at
+// most, for which two points of Gauss are exact.
 using Spezzata = std::vector<Punto>;
 
 struct Fette {
@@ -33,7 +33,7 @@ struct Fette {
     return y1 + (s[i].y.Valore() - y1) / (z2 - z1) * (z - z1);
   }
 
-  /// Counts negative where `sopra` is the lower line. Of what is above `cima` nothing counts.
+  /// What lies between the lines counts negative where `sopra` is the lower one, and not at all above `cima`.
   Fette& Aggiungi(const Spezzata& sopra, const Spezzata& sotto, Reale da, Reale a, Reale cima = 1e9) {
     std::vector<long double> tagli = {da.Valore(), a.Valore()};
     const auto taglia = [&](double z) { tagli.push_back(std::clamp(z, da.Valore(), a.Valore())); };
@@ -206,7 +206,8 @@ TEST(Tensioni, SecondoMetodo) {
   EXPECT_GT(sulRaccordo, 20);
 }
 
-// The section file holds magnitudes only: the signs of what is negative or missing.
+// The signs of stresses on negative and missing widths, which the section file, with its magnitudes, does not
+// show.
 TEST(Tensioni, Segni) {
   const auto con = [](Dimensione quale, double misura) {
     VettoreParametri p = Esempio();
@@ -220,6 +221,17 @@ TEST(Tensioni, Segni) {
   EXPECT_EQ(senzaSoletta.TauVz[3], kSenzaLarghezza);
   EXPECT_EQ(negativa.TauVy[10], kSenzaLarghezza);
   EXPECT_NEAR((negativa.TauT[10] / negativa.TauT[2]).Valore(), 25 / 5., 1e-9);
+}
+
+TEST(Tensioni, PartiSenzaArea) {
+  RecordSezione r = Costruita(Esempio());
+  CopieLavoro copie;
+  copie.SezioneBaricentrica.Jyg = copie.SezioneBaricentrica.Jzg = 1;
+  CalcolaTauPunti(r, copie, Esempio(), 1);
+  Testo indicatori;
+  for (int punto = 1; punto <= 14; ++punto) indicatori += std::to_string(r.IndicatoreTauVz[punto]);
+  EXPECT_EQ(indicatori, "12221112122222");
+  EXPECT_TRUE(std::ranges::all_of(r.TauVz, [](Reale tensione) { return tensione == 0; }));
 }
 
 }  // namespace

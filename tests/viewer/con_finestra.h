@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -18,7 +17,7 @@
 namespace ostrel::prove {
 
 struct ConFinestra : testing::Test {
-  explicit ConFinestra(bool sorveglia = false) : finestra(sorveglia), letto(&finestra, &Finestra::Letto) {
+  explicit ConFinestra(bool sorveglia = false) : finestra(sorveglia, ",") {
     finestra.resize(900, 500);
     finestra.show();
     finestra.activateWindow();
@@ -31,6 +30,9 @@ struct ConFinestra : testing::Test {
   QString Detto(const char* riga) {
     const auto* scritta = finestra.findChild<QLabel*>(riga);
     return scritta->isVisible() ? scritta->text() : QString();
+  }
+  void DiUnita(Unita unita) {
+    finestra.findChildren<QAction*>("unita")[static_cast<qsizetype>(unita)]->trigger();
   }
   QString Avviso() { return Detto("avviso"); }
   void Rotella(int scatti, QPointF dove, int diLato = 0) {
@@ -70,7 +72,6 @@ struct ConFinestra : testing::Test {
   // Another title: the first text of the drawing.
   const std::string ritoccato = ConRiga(kEsempio, 388, "SEZIONE U_PO_002");
   Finestra finestra;
-  QSignalSpy letto;
   Tela& tela = *finestra.findChild<Tela*>("tela");
 };
 

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <deque>
+#include <filesystem>
 #include <functional>
 
 #include "tests/viewer/aiuti_viewer.h"
@@ -16,11 +17,11 @@
 #include "viewer/esporta/esporta.h"
 #include "viewer/finestra/comandi_carta.h"
 #include "viewer/finestra/dialogo_carta.h"
-#include "viewer/finestra/preferenze.h"
 
 namespace ostrel {
 namespace {
 
+namespace fs = std::filesystem;
 using prove::ConFinestra;
 
 // A user who answers each window as it appears, in this order.
@@ -108,12 +109,16 @@ TEST(DialogoCarta, LaScalaSbagliataSiDicePrima) {
 TEST(ComandiCarta, EsportaChiedeERicorda) {
   const QTemporaryDir cartella;
   const QString disegno = cartella.filePath("ponte.1.dis"), pdf = cartella.filePath("ponte.1.pdf");
-  RicordaResa({"pdf", {Unita::Centimetri, 50}});
+  SceltaResa scelta{"pdf", {Unita::Centimetri, 50}};
+  bool unitaDetta = false;
   const auto esporta = [&](std::deque<Utente::Mossa> mosse) {
     const Utente utente(std::move(mosse));
-    const Esito esito = EsportaDaFinestra(prove::Esempio(), FileDi(disegno), nullptr);
+    const Esito esito = EsportaDaFinestra(prove::Esempio(), FileDi(disegno), scelta, nullptr);
     EXPECT_EQ(utente.Restano(), 0u);
     EXPECT_EQ(esito.errore, "");
+    EXPECT_EQ(esito.scelta.has_value(), !esito.conferma.isEmpty()) << "an order taken back is not remembered";
+    scelta = esito.scelta.value_or(scelta);
+    unitaDetta = esito.unitaDetta;
     return esito.conferma;
   };
   EXPECT_TRUE(esporta({Accetta, Accetta}).endsWith("ponte.1.pdf (A4 orizzontale, 1:50)"));
@@ -130,15 +135,20 @@ TEST(ComandiCarta, EsportaChiedeERicorda) {
   EXPECT_EQ(esporta({Accetta, Preme("Sostituisci"), Rifiuta}), "");
   EXPECT_EQ(prove::Leggi(pdf.toStdString()), "di prima");
 
-  const auto scegliDxf = [](QDialog& dialogo) {
-    auto& file = dynamic_cast<QFileDialog&>(dialogo);
-    EXPECT_EQ(file.selectedNameFilter(), FiltroEsportazione("pdf"));
-    file.selectNameFilter(FiltroEsportazione("dxf"));
-    dialogo.accept();
+  const auto sceglie = [](const char* prima, const char* poi) {
+    return [=](QDialog& dialogo) {
+      auto& file = dynamic_cast<QFileDialog&>(dialogo);
+      EXPECT_EQ(file.selectedNameFilter(), FiltroEsportazione(prima));
+      file.selectNameFilter(FiltroEsportazione(poi));
+      dialogo.accept();
+    };
   };
-  EXPECT_TRUE(esporta({scegliDxf, Accetta}).endsWith("ponte.1.dxf"));
-  EXPECT_EQ(ResaRicordata().genere, "dxf");
-  EXPECT_EQ(ResaRicordata().resa.unita, Unita::Centimetri);
+  EXPECT_TRUE(esporta({sceglie("pdf", "dxf"), Accetta}).endsWith("ponte.1.dxf"));
+  EXPECT_EQ(scelta.resa.unita, Unita::Centimetri);
+  EXPECT_TRUE(unitaDetta);
+  EXPECT_TRUE(esporta({sceglie("dxf", "png")}).endsWith("ponte.1.png"));
+  EXPECT_FALSE(unitaDetta) << "a picture asks for no unit";
+  EXPECT_EQ(scelta.genere, "png");
 }
 
 TEST_F(ConFinestra, IlFoglioRestaQuelloDiQuandoSiEChiesto) {
@@ -154,10 +164,52 @@ TEST_F(ConFinestra, IlFoglioRestaQuelloDiQuandoSiEChiesto) {
   EXPECT_EQ(utente.Restano(), 0u);
 }
 
+// A drawing's unit is asked for where it has not been said, and is the one of no other; the last one said is
+// only proposed.
+TEST_F(ConFinestra, OgniDisegnoHaLaSuaUnita) {
+  const QString primo = QString::fromStdString(file), altro = cartella.filePath("altro.dis");
+  prove::Scrivi(altro.toStdString(), prove::kEsempio);
+  QString proposta;
+  // Measures; the unit is asked for where there is one to choose.
+  const auto misura = [&](const QString& percorso, std::optional<Unita> scelta) {
+    const Utente utente(scelta ? std::deque<Utente::Mossa>{[&](QDialog& domanda) {
+      auto& lista = *domanda.findChild<QComboBox*>();
+      proposta = lista.currentText();
+      lista.setCurrentIndex(static_cast<int>(*scelta));
+      domanda.accept();
+    }}
+                               : std::deque<Utente::Mossa>{});
+    finestra.Apri(percorso);
+    Comanda("misura");
+    Indica(0, 0);
+    Indica(329.5, -185);
+    const QString misurata = tela.Misura().section('\n', 0, 0);
+    Comanda("misura");
+    EXPECT_EQ(utente.Restano(), 0u) << percorso.toStdString();
+    return misurata;
+  };
+  EXPECT_EQ(misura(primo, Unita::Metri), "Distanza = 377,8826 m");
+  EXPECT_EQ(misura(altro, Unita::Ignota), "Distanza = 377,8826");
+  EXPECT_EQ(proposta, "metri (m)");
+  EXPECT_EQ(misura(altro, std::nullopt), "Distanza = 377,8826") << "not to be said, not asked again";
+  EXPECT_EQ(misura(primo, std::nullopt), "Distanza = 377,8826 m");
+
+  fs::remove(altro.toStdString());
+  finestra.ApriRecente(altro);
+  prove::Scrivi(altro.toStdString(), prove::kEsempio);
+  finestra.Apri(altro);
+  const Utente utente({Rifiuta});
+  Comanda("misura");
+  EXPECT_EQ(utente.Restano(), 0u) << "a file that was gone is another one";
+  EXPECT_EQ(tela.InUso(), Strumento::Mano) << "an order taken back";
+  EXPECT_FALSE(finestra.findChild<QAction*>("misura")->isChecked());
+}
+
 // A file that cannot be read gives the sheets of the drawing before it no name. What was chosen is remembered
-// also when no file is.
+// also when no file is; the unit as that of the drawing on the sheet.
 TEST_F(ConFinestra, IlFoglioPortaIlFileMostratoELUnitaScelta) {
   finestra.Apri(cartella.filePath("manca.dis"));
+  DiUnita(Unita::Centimetri);
   QTest::keyClick(&tela, Qt::Key_M);
   Indica(0, 0);
   Indica(329.5, -185);
@@ -180,7 +232,7 @@ TEST_F(ConFinestra, IlFoglioPortaIlFileMostratoELUnitaScelta) {
   Comanda("esporta");
   Comanda("stampa");
   EXPECT_EQ(utente.Restano(), 0u);
-  EXPECT_EQ(tela.Misura().section('\n', 0, 0), "Distanza = 377.8826 m");
+  EXPECT_EQ(tela.Misura().section('\n', 0, 0), "Distanza = 377,8826 m");
 }
 
 // Whose own name is always the same; a title may hold what a file's name may not.

@@ -1,18 +1,20 @@
 // The commands of the menus: their keys, what is shown and copied, the drawings that come to the window.
 #include <QClipboard>
 #include <QDialog>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QTableWidget>
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <map>
 #include <set>
 
 #include "tests/viewer/con_finestra.h"
-#include "viewer/finestra/recenti.h"
 #include "viewer/finestra/tabella.h"
 
 namespace ostrel {
@@ -52,6 +54,22 @@ TEST_F(ConFinestra, ITastiSonoQuelliDeiMenu) {
   EXPECT_EQ(tasti("Sposta: In alto"), "↑");
   EXPECT_EQ(tasti("Misura una distanza"), "M");
   EXPECT_TRUE(tavola.findItems("sezione.dis", Qt::MatchContains).isEmpty()) << "a file is no command";
+  // The keys of the user's guide; of the digits also what they show.
+  const auto guida = QString::fromStdString(prove::Leggi(prove::kDati + "/../../../docs/guida-disegno.md"));
+  std::map<QString, QString> effetti;
+  for (int riga = 0; riga < tavola.rowCount(); ++riga)
+    for (const QString& tasto : tavola.item(riga, 0)->text().split("   "))
+      if (const auto* effetto = tavola.item(riga, 1)) effetti[tasto] = effetto->text();
+  static const QRegularExpression kTasto("`(.)`(?: (?:il|le|i) (\\w+))?",
+                                         QRegularExpression::UseUnicodePropertiesOption);
+  int quanti = 0;
+  for (const auto& trovato : kTasto.globalMatch(guida.section("| per | si fa |", 1).section("\n\n", 0, 0))) {
+    const auto effetto = effetti.find(trovato.captured(1));
+    ASSERT_NE(effetto, effetti.end()) << trovato.captured(1).toStdString();
+    EXPECT_TRUE(effetto->second.endsWith(trovato.captured(2))) << effetto->second.toStdString();
+    ++quanti;
+  }
+  EXPECT_EQ(quanti, 10);
 }
 
 TEST_F(ConFinestra, QuelloCheENascostoNonSiVedeNeSiEsporta) {
@@ -93,7 +111,7 @@ TEST_F(ConFinestra, FondoRicordatoECopiaSuBianco) {
   EXPECT_EQ(copia.pixelColor(3, 3), QColor(Qt::white));
   QTest::keyClick(&tela, Qt::Key_B);
   EXPECT_EQ(tela.grab().toImage().pixelColor(3, 3), QColor(Qt::white));
-  const Finestra altra(false);
+  const Finestra altra(false, ",");
   EXPECT_TRUE(altra.findChild<QAction*>("fondo")->isChecked());
   QTest::keyClick(&tela, Qt::Key_B);
 }
@@ -101,7 +119,7 @@ TEST_F(ConFinestra, FondoRicordatoECopiaSuBianco) {
 TEST_F(ConFinestra, TabellaCopiata) {
   Comanda("tabella");
   EXPECT_EQ(QApplication::clipboard()->text(),
-            "ZG\t600\nYG\t-61."
+            "ZG\t600\nYG\t-61,"
             "27\nAn\t60917\nAtz\t52633\nAty\t26402\nJzg\t307923297\nJyg\t5212229845\nJt\t700779138\n");
   EXPECT_EQ(Detto("conferma"), "Copiate 8 righe di tabella.");
   Rotella(1, {100, 100});
@@ -144,7 +162,7 @@ TEST_F(ConFinestra, Recenti) {
   finestra.Apri(cartella.filePath("3.dis"));
   finestra.Apri(cartella.filePath("manca.dis"));
   QStringList nomi;
-  for (const QString& percorso : ostrel::Recenti()) nomi << percorso.section('/', -1).chopped(4);
+  for (const QString& percorso : LeggiPreferenze().recenti) nomi << percorso.section('/', -1).chopped(4);
   EXPECT_EQ(nomi.join(""), "38765421");
 
   std::filesystem::remove(cartella.filePath("8.dis").toStdString());
@@ -152,11 +170,17 @@ TEST_F(ConFinestra, Recenti) {
   finestra.ApriRecente(cartella.filePath("8.dis"));
   EXPECT_TRUE(Avviso().endsWith("8.dis: il disegno non esiste più; tolto dai recenti"));
   EXPECT_TRUE(Mostra("SEZIONE U_PO_002 - 7.dis"));
-  EXPECT_EQ(ostrel::Recenti().size(), 7);
+  EXPECT_EQ(LeggiPreferenze().recenti.size(), 7);
   QTest::keyClick(&tela, Qt::Key_Escape);
   EXPECT_EQ(Avviso(), "");
-  EXPECT_EQ(VoceRecente(2, "/a&b/c&d.dis"), "&2  c&&d.dis (/a&&b)");
-  EXPECT_TRUE(VoceRecente(3, "/" + QString(99, 'x') + "/fine/s.dis").endsWith("x/fine)"));
+
+  const QString lunga = cartella.filePath(QString(99, 'x') + "/a&b");
+  ASSERT_TRUE(QDir().mkpath(lunga));
+  prove::Scrivi((lunga + "/c&d.dis").toStdString(), prove::kEsempio);
+  finestra.Apri(lunga + "/c&d.dis");
+  QMenu& menu = *finestra.menuBar()->actions()[0]->menu();
+  emit menu.aboutToShow();
+  EXPECT_EQ(menu.findChild<QMenu*>()->actions()[0]->text(), "&1  c&&d.dis (…" + QString(56, 'x') + "/a&&b)");
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ TEST(Foglio, CioCheNonCiSta) {
     EXPECT_TRUE(!c.basta || obiezione->testo.endsWith(QString("foglio %1.").arg(c.basta)));
     EXPECT_EQ(obiezione->ciSta, c.ciSta);
   }
-  const std::string esteso = prove::ConRiga(prove::kUnoPerGenere, 8, "-1.5E+308  1.5E+308  0 ");
+  const std::string esteso = prove::ConRiga(prove::kUnoPerGenere, 8, "-1E+9  1E+9  0 ");
   const Disegno smisurato = prove::Letto(esteso);
   const Resa resa{Unita::Metri, 1};
   const Obiezione assurda = Esamina(smisurato, resa, Pagina(smisurato, resa)).value();

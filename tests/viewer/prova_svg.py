@@ -13,6 +13,9 @@ import sys
 import tempfile
 import xml.etree.ElementTree as ET
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "app"))
+import formati  # noqa: E402
+
 ATTESI = {
     "sezione": {"quote": {"line": 78, "circle": 43}, "contorno": {"line": 24}, "valori": {"text": 26},
                 "testi": {"text": 9}},
@@ -25,17 +28,6 @@ TRATTI = {(), (8, 5), (1.5, 3.5), (12, 4, 1.5, 4), (12, 4, 1.5, 4, 1.5, 4), (20,
 # The pictures are compared cell by cell, so that other smoothing of the edges does not count.
 CELLA = 20
 MASSIMO_SCARTO = 9  # 6 with hinted outlines of the letters
-
-
-def leggi_dis(nome):
-    """The points of the drawing, and of each text its start, angle, base, height and characters."""
-    with open(nome, encoding="cp1252", newline="") as file:
-        righe = iter(file.read().split("\r\n")[4:])
-    blocco = lambda n: [[next(righe) for _ in range(n)] for _ in range(int(next(righe)))]  # noqa: E731
-    punti = [tuple(map(float, riga.split()[:2])) for riga, in blocco(1)]
-    blocco(1), blocco(1)
-    testi = [(punti[int(a.split()[0])], int(a.split()[2]), *map(float, b.split()[:2]), c) for a, b, c in blocco(3)]
-    return punti, testi
 
 
 def prova_gruppi(svg, punti, testi, attesi):
@@ -94,5 +86,5 @@ with tempfile.TemporaryDirectory() as cartella:
         disegno = os.path.join(dati, nome + ".dis")
         for uscita in (nome + ".svg", nome + ".png"):
             subprocess.run([ostrel, "--esporta", uscita, disegno], check=True)
-        prova_gruppi(ET.parse(nome + ".svg").getroot(), *leggi_dis(disegno), attesi)
+        prova_gruppi(ET.parse(nome + ".svg").getroot(), *formati.disegno(disegno), attesi)
         prova_immagine(nome)

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kMassimoTitolo = 80;
 constexpr int kCorpo = 64;  // the painter's scale brings the letters to their size
-// All in parts of the block's height.
+// The next five are parts of the block's height.
 constexpr double kPenna = 0.02;
 constexpr double kBordo = 0.12;
 constexpr double kAltezzaNome = 0.16;
@@ -21,7 +21,7 @@ constexpr double kAltezzaValore = 0.23;
 constexpr double kRigaNome = 0.36;
 constexpr double kRigaValore = 0.78;
 
-// Two figures: more would promise what a sheet fitted by a printer does not keep.
+// Has two figures: a sheet that a printer fits to its paper does not keep more.
 QString Circa(double rapporto) {
   const bool ingrandito = rapporto < 1;
   const double parti = ingrandito ? 1 / rapporto : rapporto;
@@ -38,7 +38,7 @@ QString DiceScala(const Resa& resa, const Foglio& foglio) {
   return circa.isEmpty() ? "adattata" : "adattata, circa " + circa;
 }
 
-// A text too long is first condensed, then shortened.
+// Condenses a text that is too long, then shortens it.
 void Scrivi(QPainter& pittore, const QString& testo, QPointF dove, double altezza, double largo,
             Qt::TextElideMode taglio) {
   constexpr double kMassimoStretto = 0.75;
@@ -64,7 +64,7 @@ QString Titolo(const Disegno& disegno) {
 
 Cartiglio Intesta(const Disegno& disegno, const Resa& resa, const Foglio& foglio, const Origine& origine) {
   const bool nota = resa.unita != Unita::Ignota;
-  return {Titolo(disegno), DiceScala(resa, foglio), nota ? Voce(resa.unita).nome : "non detta",
+  return {Titolo(disegno), DiceScala(resa, foglio), nota ? Nome(resa.unita) : "non detta",
           origine.data.toString("dd/MM/yyyy"), QFileInfo(origine.file).fileName()};
 }
 

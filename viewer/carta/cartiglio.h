@@ -1,4 +1,4 @@
-// The title block of a sheet: what is drawn, at which scale, when, from which file.
+// The title block of a sheet: what is drawn, at which scale, on which day, from which file.
 #pragma once
 
 #include <QDate>
@@ -9,9 +9,9 @@
 
 namespace ostrel {
 
-/// What the sheet cannot know from the drawing.
+/// What a sheet says that the drawing does not know.
 struct Origine {
-  QString file;  // the drawing's, any path
+  QString file;  // of the drawing, with or without its folder
   QDate data = QDate::currentDate();
 };
 
@@ -19,13 +19,13 @@ struct Cartiglio {
   QString titolo, scala, unita, data, file;
 };
 
-/// The drawing's title, as far as it can be read at a glance; empty without one.
+/// The drawing's title, cut where it becomes too long to be read at a glance; empty without one.
 QString Titolo(const Disegno& disegno);
 
-/// `foglio` as composed with `resa`.
+/// `foglio` is the one that Componi gives for `resa`.
 Cartiglio Intesta(const Disegno& disegno, const Resa& resa, const Foglio& foglio, const Origine& origine);
 
-/// Into `posto`, in painter units; what is too long for its cell is shortened.
+/// `posto` is in painter units; a text too long for its cell is shortened.
 void DipingiCartiglio(QPainter& pittore, const Cartiglio& cartiglio, const QRectF& posto);
 
 }  // namespace ostrel

@@ -14,28 +14,18 @@ namespace {
 constexpr double kLarghezzaCartiglio = 190;  // an upright A4 has room for it
 constexpr double kAltezzaCartiglio = 11;
 constexpr double kDistacco = 3;
-constexpr double kTolleranza = 1e-6;  // millimetres
+constexpr double kSbavatura = 1e-6;  // millimetres that come from rounding
 // Sizes on paper, in millimetres, beyond which a scale or a unit must be a mistake.
 constexpr double kMinimoSensato = 5;
 constexpr double kMinimoDipinto = 1e-3;
 constexpr double kMassimoDipinto = 1e6;
-
-// What a drawing is to a sheet: reading it through each time would make a large one slow to choose for.
-struct Sagoma {
-  Riquadro tutto;
-  double unita;
-};
-
-Sagoma DaDisegno(const Disegno& disegno) {
-  return {Ingombro(disegno), disegno.unita};
-}
 
 bool InScala(const Resa& resa) {
   return resa.unita != Unita::Ignota && resa.rapporto > 0;
 }
 
 bool Contiene(const QSizeF& campo, const QSizeF& disegno) {
-  return disegno.width() <= campo.width() + kTolleranza && disegno.height() <= campo.height() + kTolleranza;
+  return disegno.width() <= campo.width() + kSbavatura && disegno.height() <= campo.height() + kSbavatura;
 }
 
 // A small sheet has a small title block.
@@ -58,10 +48,9 @@ QPageLayout ConCarta(const Resa& resa, QPageLayout::Orientation verso) {
       QPageSize(kFogli[static_cast<std::size_t>(resa.carta)]), verso, {m, m, m, m}, QPageLayout::Millimeter};
 }
 
-Foglio Disponi(const Sagoma& sagoma, const Resa& resa, const QSizeF& stampabile) {
+Foglio Disponi(const Riquadro& tutto, const Resa& resa, const QSizeF& stampabile) {
   Foglio foglio = Dividi(stampabile);
-  const Riquadro& tutto = sagoma.tutto;
-  const double vero = sagoma.unita * Voce(resa.unita).millimetri;
+  const double vero = Millimetri(resa.unita);
   foglio.vista = VistaIntera(tutto, foglio.campo);
   if (InScala(resa)) {
     const QPointF centro = foglio.campo.center();
@@ -76,59 +65,59 @@ Foglio Disponi(const Sagoma& sagoma, const Resa& resa, const QSizeF& stampabile)
   return foglio;
 }
 
-bool CiSta(const Sagoma& sagoma, const Resa& resa, const QPageLayout& pagina) {
-  const Foglio foglio = Disponi(sagoma, resa, Stampabile(pagina));
+bool CiSta(const Riquadro& tutto, const Resa& resa, const QPageLayout& pagina) {
+  const Foglio foglio = Disponi(tutto, resa, Stampabile(pagina));
   return Contiene(foglio.campo.size(), foglio.disegno);
 }
 
-QPageLayout PaginaDi(const Sagoma& sagoma, const Resa& resa) {
+QPageLayout PaginaDi(const Riquadro& tutto, const Resa& resa) {
   const QPageLayout ritta = ConCarta(resa, QPageLayout::Portrait);
   const QPageLayout distesa = ConCarta(resa, QPageLayout::Landscape);
   if (resa.orientamento != Orientamento::Automatico)
     return resa.orientamento == Orientamento::Verticale ? ritta : distesa;
   const auto scala = [&](const QPageLayout& pagina) {
-    return Disponi(sagoma, {}, Stampabile(pagina)).vista.scala;
+    return Disponi(tutto, {}, Stampabile(pagina)).vista.scala;
   };
   return scala(ritta) > scala(distesa) ? ritta : distesa;
 }
 
-double ScalaCheCiSta(const Sagoma& sagoma, Resa resa, const QPageLayout& pagina) {
+double ScalaCheCiSta(const Riquadro& tutto, Resa resa, const QPageLayout& pagina) {
   constexpr double kTonde[] = {1,   2,     5,   10,   20,   25,    50,   100,
                                200, 250,   500, 1000, 2000, 2500,  5000, 1e4,
                                2e4, 2.5e4, 5e4, 1e5,  2e5,  2.5e5, 5e5,  kMassimoRapporto};
   const double chiesto = resa.rapporto;
   for (const double rapporto : kTonde) {
     resa.rapporto = rapporto;
-    if (rapporto > chiesto && CiSta(sagoma, resa, pagina)) return rapporto;
+    if (rapporto > chiesto && CiSta(tutto, resa, pagina)) return rapporto;
   }
   return 0;
 }
 
-// The smallest, turned as is best.
-std::optional<QPageLayout> PaginaCheBasta(const Sagoma& sagoma, Resa resa) {
+// The smallest page on which the drawing fits, turned as the drawing has more room.
+std::optional<QPageLayout> PaginaCheBasta(const Riquadro& tutto, Resa resa) {
   resa.orientamento = Orientamento::Automatico;
   for (std::size_t i = 0; i < kCarte.size(); ++i) {
     resa.carta = static_cast<Carta>(i);
-    if (QPageLayout pagina = PaginaDi(sagoma, resa); CiSta(sagoma, resa, pagina)) return pagina;
+    if (QPageLayout pagina = PaginaDi(tutto, resa); CiSta(tutto, resa, pagina)) return pagina;
   }
   return std::nullopt;
 }
 
-// Whole millimetres are what can be read on a sheet.
-QString Lunghezza(double mm) {
+// Whole millimetres, as a ruler shows them on a sheet.
+QString Tonda(double mm) {
   constexpr double kPochi = 10;
   const QLocale italiano(QLocale::Italian);
   return mm < kPochi ? italiano.toString(mm, 'g', 2) : italiano.toString(mm, 'f', 0);
 }
 
 QString Lati(const QSizeF& mm) {
-  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Lunghezza(mm.width()), Lunghezza(mm.height()));
+  return QString("%1\u00A0×\u00A0%2\u00A0mm").arg(Tonda(mm.width()), Tonda(mm.height()));
 }
 
 }  // namespace
 
 Foglio Componi(const Disegno& disegno, const Resa& resa, const QSizeF& stampabile) {
-  return Disponi(DaDisegno(disegno), resa, stampabile);
+  return Disponi(Ingombro(disegno), resa, stampabile);
 }
 
 QSizeF Stampabile(const QPageLayout& pagina) {
@@ -136,7 +125,7 @@ QSizeF Stampabile(const QPageLayout& pagina) {
 }
 
 QPageLayout Pagina(const Disegno& disegno, const Resa& resa) {
-  return PaginaDi(DaDisegno(disegno), resa);
+  return PaginaDi(Ingombro(disegno), resa);
 }
 
 QString InTesto(const QPageLayout& pagina) {
@@ -154,26 +143,26 @@ QString Descrivi(const Disegno& disegno, const Resa& resa, const QPageLayout& pa
 
 std::optional<Obiezione> Esamina(const Disegno& disegno, const Resa& resa, const QPageLayout& pagina) {
   if (!InScala(resa)) return std::nullopt;
-  const Sagoma sagoma = DaDisegno(disegno);
-  const Foglio foglio = Disponi(sagoma, resa, Stampabile(pagina));
+  const Riquadro tutto = Ingombro(disegno);
+  const Foglio foglio = Disponi(tutto, resa, Stampabile(pagina));
   if (Contiene(foglio.campo.size(), foglio.disegno)) {
     const double lungo = std::max(foglio.disegno.width(), foglio.disegno.height());
     if (lungo >= kMinimoSensato) return std::nullopt;
     return Obiezione{
         QString("A %1 il disegno, in %2, misura %3: non si vedrebbe niente. L'unità o la scala non è "
                 "quella giusta.")
-            .arg(InTesto(resa.rapporto), Voce(resa.unita).nome, Lati(foglio.disegno)),
+            .arg(InTesto(resa.rapporto), Nome(resa.unita), Lati(foglio.disegno)),
         0, lungo < kMinimoDipinto};
   }
   const bool assurda = !(std::max(foglio.disegno.width(), foglio.disegno.height()) <= kMassimoDipinto);
   Obiezione obiezione{QString("A %1 il disegno, in %2, misura %3, e il foglio %4 ne ha liberi %5: una parte "
                               "ne resta fuori.")
-                          .arg(InTesto(resa.rapporto), Voce(resa.unita).nome,
+                          .arg(InTesto(resa.rapporto), Nome(resa.unita),
                                assurda ? "più di un chilometro" : Lati(foglio.disegno), InTesto(pagina),
                                Lati(foglio.campo.size())),
-                      ScalaCheCiSta(sagoma, resa, pagina), assurda};
+                      ScalaCheCiSta(tutto, resa, pagina), assurda};
   if (obiezione.ciSta > 0) obiezione.testo += QString(" Ci sta a %1.").arg(InTesto(obiezione.ciSta));
-  if (const auto basta = PaginaCheBasta(sagoma, resa))
+  if (const auto basta = PaginaCheBasta(tutto, resa))
     obiezione.testo += QString(" A %1 basta un foglio %2.").arg(InTesto(resa.rapporto), InTesto(*basta));
   return obiezione;
 }

@@ -1,5 +1,4 @@
-// A drawing on a sheet of paper: the room it has above the title block, at the scale asked for or as large as
-// it goes.
+// Places a drawing on a sheet of paper above the title block, at the scale asked for or as large as it goes.
 #pragma once
 
 #include <QPageLayout>
@@ -12,34 +11,34 @@
 
 namespace ostrel {
 
-/// Millimetres, from the upper left corner of what can be printed on.
+/// All in millimetres from the upper left corner of the printable part.
 struct Foglio {
-  QRectF campo;      // the drawing's
-  QRectF cartiglio;  // the title block's
+  QRectF campo;      // room for the drawing
+  QRectF cartiglio;  // room for the title block
   Vista vista;       // from the drawing's units to millimetres
   QSizeF disegno;    // what the drawing takes up
-  /// The drawing is one part in `rapporto` of the thing; 0 where its unit is not known.
+  /// The thing is `rapporto` times as large as the drawing of it; 0 where the unit is not known.
   double rapporto = 0;
 };
 
-/// The least that printers leave free around a sheet, in millimetres.
+/// How many millimetres around a sheet no printer can print on.
 inline constexpr double kMargineCarta = 5;
 
-/// The drawing in what can be printed on, in millimetres. Without a unit it is as large as it goes.
+/// `stampabile` is the printable part in millimetres. A drawing without a unit is as large as it goes.
 Foglio Componi(const Disegno& disegno, const Resa& resa, const QSizeF& stampabile);
 
-/// The page of `resa`, turned as it asks, otherwise as the drawing has more room.
+/// The page that `resa` asks for; where it leaves the choice, turned so that the drawing has more room.
 QPageLayout Pagina(const Disegno& disegno, const Resa& resa);
 
-/// What can be printed on of a page, in millimetres.
+/// The printable part of a page, in millimetres.
 QSizeF Stampabile(const QPageLayout& pagina);
 
 /// Why a drawing should not go to paper at the scale asked for.
 struct Obiezione {
   QString testo;
-  /// A usual scale at which the whole of it is on this page; 0: none.
+  /// A usual scale at which the whole drawing is on this page; 0 where there is none.
   double ciSta = 0;
-  /// Beyond anything paper could show: not to be painted at all.
+  /// No paper could show it: the drawing must not be painted at all.
   bool assurda = false;
 };
 

@@ -10,7 +10,7 @@ namespace ostrel {
 namespace {
 
 constexpr double kSpessoreCarta = 0.25;  // millimetres
-constexpr double kPunto = 1;             // what a painter draws at least
+constexpr double kPunto = 1;             // painter units; a painter draws no thinner line
 constexpr double kMillimetriPollice = 25.4;
 constexpr int kRisoluzionePdf = 1200;
 constexpr char kCreatore[] = "ostrel";
@@ -19,7 +19,7 @@ void DipingiPagina(QPainter& pittore, const QPagedPaintDevice& carta, const Tavo
                    const Resa& resa) {
   const double orizzontali = carta.logicalDpiX(), verticali = carta.logicalDpiY();
   pittore.save();
-  // Some printers have finer dots one way than the other.
+  // The dots of some printers are finer in one direction than in the other.
   if (orizzontali != verticali) pittore.scale(1, verticali / orizzontali);
   DipingiFoglio(pittore, *tavola.disegno, resa, tavola.origine, carta.pageLayout(),
                 orizzontali / kMillimetriPollice);
@@ -53,7 +53,7 @@ bool ScriviPdf(std::span<const Tavola> tavole, const Resa& resa, QIODevice& usci
   pdf.setResolution(kRisoluzionePdf);
   QPainter pittore;
   for (const Tavola& tavola : tavole) {
-    // A page is as it was said before it was begun.
+    // The layout of a page has to be set before the page begins.
     pdf.setPageLayout(Pagina(*tavola.disegno, resa));
     if (pittore.isActive() ? !pdf.newPage() : !pittore.begin(&pdf)) return false;
     DipingiPagina(pittore, pdf, tavola, resa);

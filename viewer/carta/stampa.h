@@ -1,4 +1,4 @@
-// Sheets of paper: a printer's and those of a PDF document.
+// Puts drawings on the sheets of a printer and of a PDF document.
 #pragma once
 
 #include <QIODevice>
@@ -14,8 +14,8 @@ class QPrinter;
 
 namespace ostrel {
 
-/// Drawing and title block on a painter: `mm` painter units to a millimetre, `pagina` says what can be
-/// printed on, whose upper left corner is the painter's origin.
+/// Paints drawing and title block on the printable part of `pagina`, whose upper left corner is the painter's
+/// origin; `mm` is the painter units to a millimetre.
 void DipingiFoglio(QPainter& pittore, const Disegno& disegno, const Resa& resa, const Origine& origine,
                    const QPageLayout& pagina, double mm);
 
@@ -24,10 +24,11 @@ struct Tavola {
   Origine origine;
 };
 
-/// One page a drawing, each turned as suits it. False when the device refuses.
+/// Writes one page for each drawing, each page turned as `resa` and its drawing ask. False when the device
+/// refuses.
 [[nodiscard]] bool ScriviPdf(std::span<const Tavola> tavole, const Resa& resa, QIODevice& uscita);
 
-/// One page of the paper and turned as the printer is set. False when the printer refuses.
+/// Prints one page on the paper that the printer is set to. False when the printer refuses.
 [[nodiscard]] bool Stampa(const Disegno& disegno, const Resa& resa, const Origine& origine,
                           QPrinter& stampante);
 

@@ -1,4 +1,4 @@
-// Six lines of 8-bit text; only the second is indispensable.
+// The file has six lines of 8-bit text; only the second is indispensable.
 #include "viewer/comando/avvio.h"
 
 #include "base/numeri.h"

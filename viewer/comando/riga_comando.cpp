@@ -2,14 +2,18 @@
 
 #include <QFileInfo>
 #include <algorithm>
-#include <iterator>
 #include <optional>
+#include <vector>
 
 #include "viewer/esporta/esporta.h"
 
 namespace ostrel {
 
-const char* const kAiuto = R"(ostrel - mostra, stampa ed esporta i disegni delle sezioni
+namespace {
+
+constexpr char kProgramma[] = "ostrel";
+
+constexpr char kPrima[] = R"(ostrel - mostra, stampa ed esporta i disegni delle sezioni
 
 uso:  ostrel [--senza-sorveglianza] [DISEGNO]
       ostrel --esporta FILE [OPZIONE]... DISEGNO
@@ -19,19 +23,9 @@ uso:  ostrel [--senza-sorveglianza] [DISEGNO]
 Mostra un DISEGNO (.dis) in una finestra; senza, quello nominato da "ostrel.inp", nella cartella corrente o in
 quella del programma. Con --esporta non apre finestre e non ha bisogno di uno schermo.
 
-  --esporta FILE         scrive il disegno in un file .png, .svg, .pdf o .dxf; un file che c'è già è sostituito
-  --esporta FILE.pdf     con più disegni: un solo documento, una pagina per disegno
-  --esporta CARTELLA     scrive ogni disegno nella cartella, che c'è già, col nome del disegno e il tipo chiesto
-  --tipo TIPO            png, svg, pdf o dxf
-  --unita UNITÀ          mm, cm o m: in che unità è il disegno (PDF e DXF); il file del disegno non lo dice
-  --scala SCALA          1:50, 50, 1:12,5... o adatta, quanto basta il foglio (PDF); una scala vuole --unita
-  --carta FOGLIO         A4, A3, A2, A1 o A0 (PDF); senza, A4
-  --orientamento VERSO   verticale, orizzontale o automatico, quello in cui il disegno ha più posto (PDF)
-  --comunque             scrive anche il disegno che a quella scala non sta nel foglio: il resto è tagliato
-  --senza-sorveglianza   nella finestra il disegno si rilegge soltanto a comando, non quando il file cambia
-  --aiuto, --help, -h    questo testo
-  --version              la versione
+)";
 
+constexpr char kDopo[] = R"(
 Un disegno che non si legge, non si scrive o non sta nel foglio è detto e saltato, gli altri proseguono.
 
 stato d'uscita:
@@ -47,89 +41,72 @@ esempi:
   ostrel --esporta tavole --tipo dxf --unita cm Lavori/PR0001/*.dis
 )";
 
-namespace {
+using tarvel::Imposta;
 
-struct Lettura {
-  Richieste richieste;
-  QStringList dette;  // the options met, in the order of the line
-  bool opzioni = true;
-};
-
-// What is wrong; nothing where all is well.
-using Errore = std::optional<QString>;
-
+// For the table: keeps what `leggi` makes of a value; where it makes nothing, `atteso` is what the option
+// wants.
 template <class Valore>
-Errore Prendi(std::optional<Valore> letto, Valore& dove, const char* atteso) {
-  if (!letto) return atteso;
-  dove = *letto;
-  return std::nullopt;
+auto Accogli(Valore& dove, std::optional<Valore> (*leggi)(const QString&), const char* atteso) {
+  return [&dove, leggi, atteso](const std::string& valore) -> std::string {
+    const auto letto = leggi(QString::fromStdString(valore));
+    dove = letto.value_or(dove);
+    return letto ? "" : atteso;
+  };
 }
 
-struct Opzione {
-  const char* nome;
-  Errore (*prendi)(Richieste&, const QString&);
-};
-const Opzione kConValore[] = {
-    {"--esporta",
-     [](Richieste& r, const QString& v) -> Errore {
-       r.esporta = v;
-       return v.isEmpty() ? Errore("il nome di un file o di una cartella") : std::nullopt;
-     }},
-    {"--tipo",
-     [](Richieste& r, const QString& v) -> Errore {
-       r.tipo = v.toLower();
-       return FinaliEsportazione().contains(r.tipo) ? std::nullopt : Errore("png, svg, pdf o dxf");
-     }},
-    {"--unita",
-     [](Richieste& r, const QString& v) { return Prendi(LeggiUnita(v), r.resa.unita, "mm, cm o m"); }},
-    {"--scala",
-     [](Richieste& r, const QString& v) {
-       return Prendi(LeggiScala(v), r.resa.rapporto, "una scala, come 1:50, o \"adatta\"");
-     }},
-    {"--carta", [](Richieste& r,
-                   const QString& v) { return Prendi(LeggiCarta(v), r.resa.carta, "A4, A3, A2, A1 o A0"); }},
-    {"--orientamento",
-     [](Richieste& r, const QString& v) {
-       return Prendi(LeggiOrientamento(v), r.resa.orientamento, "verticale, orizzontale o automatico");
-     }},
-};
-
-struct Segno {
-  const char* nome;
-  void (*prendi)(Richieste&);
-};
-const Segno kSegni[] = {
-    {"--comunque", [](Richieste& r) { r.comunque = true; }},
-    {"--senza-sorveglianza", [](Richieste& r) { r.sorveglia = false; }},
-    {"--aiuto", [](Richieste& r) { r.aiuto = true; }},
-    {"--help", [](Richieste& r) { r.aiuto = true; }},
-    {"-h", [](Richieste& r) { r.aiuto = true; }},
-    {"--version", [](Richieste& r) { r.versione = true; }},
-};
-
-template <class Voci>
-auto Trova(const Voci& voci, const QString& nome) {
-  return std::find_if(std::begin(voci), std::end(voci),
-                      [&](const auto& voce) { return nome == QLatin1StringView(voce.nome); });
+std::optional<QString> LeggiDestinazione(const QString& testo) {
+  return testo.isEmpty() ? std::nullopt : std::optional(testo);
 }
 
-Errore FuoriPosto(const QStringList& dette, const char* const (&nomi)[4], const char* dove) {
-  for (const QString& nome : dette)
-    if (std::find(std::begin(nomi), std::end(nomi), nome) != std::end(nomi))
-      return QString("%1 vale soltanto %2").arg(nome, QString(dove));
-  return std::nullopt;
+std::optional<QString> LeggiTipo(const QString& testo) {
+  return FinaliEsportazione().contains(testo.toLower()) ? std::optional(testo.toLower()) : std::nullopt;
 }
 
-Errore Controlla(const Lettura& l) {
-  const Richieste& r = l.richieste;
-  constexpr const char* kDellaCarta[] = {"--scala", "--carta", "--orientamento", "--comunque"};
+tarvel::Comando ComandoOstrel(Richieste& r) {
+  const auto esporta = Accogli(r.esporta, LeggiDestinazione, "il nome di un file o di una cartella");
+  return {
+      kProgramma,
+      VERSIONE,
+      kPrima,
+      kDopo,
+      {{"--esporta", "FILE",
+        "scrive il disegno in un file .png, .svg, .pdf o .dxf; un file che c'è già è sostituito", esporta},
+       {"--esporta", "FILE.pdf", "con più disegni: un solo documento, una pagina per disegno", esporta},
+       {"--esporta", "CARTELLA",
+        "scrive ogni disegno nella cartella, che c'è già, col nome del disegno e il tipo chiesto", esporta},
+       {"--tipo", "TIPO", "png, svg, pdf o dxf", Accogli(r.tipo, LeggiTipo, "png, svg, pdf o dxf")},
+       {"--unita", "UNITÀ",
+        "mm, cm o m: in che unità è il disegno (PDF e DXF); il file del disegno non lo dice",
+        Accogli(r.resa.unita, LeggiUnita, "mm, cm o m")},
+       {"--scala", "SCALA",
+        "1:50, 50, 1:12,5... o adatta, quanto basta il foglio (PDF); una scala vuole --unita",
+        Accogli(r.resa.rapporto, LeggiScala, "una scala, come 1:50, o \"adatta\"")},
+       {"--carta", "FOGLIO", "A4, A3, A2, A1 o A0 (PDF); senza, A4",
+        Accogli(r.resa.carta, LeggiCarta, "A4, A3, A2, A1 o A0")},
+       {"--orientamento", "VERSO",
+        "verticale, orizzontale o automatico, quello in cui il disegno ha più posto (PDF)",
+        Accogli(r.resa.orientamento, LeggiOrientamento, "verticale, orizzontale o automatico")},
+       {"--comunque", "",
+        "scrive anche il disegno che a quella scala non sta nel foglio: il resto è tagliato",
+        Imposta(r.comunque)},
+       {"--senza-sorveglianza", "",
+        "nella finestra il disegno si rilegge soltanto a comando, non quando il file cambia",
+        Imposta(r.sorveglia, false)}}};
+}
+
+// What is wrong with the whole; "" when nothing is.
+QString Controlla(const Richieste& r, const std::vector<std::string>& dette) {
+  const auto detta = [&](const char* nome) {
+    return std::find(dette.begin(), dette.end(), nome) != dette.end();
+  };
   if (r.esporta.isEmpty()) {
-    for (const QString& nome : l.dette)
-      if (nome != "--senza-sorveglianza") return nome + " vale soltanto con --esporta";
+    for (const std::string& nome : dette)
+      if (nome != "--senza-sorveglianza")
+        return QString("%1 vale soltanto con --esporta").arg(QString::fromStdString(nome));
     if (r.disegni.size() > 1) return "troppi argomenti: si mostra un disegno alla volta";
-    return std::nullopt;
+    return {};
   }
-  if (l.dette.contains("--senza-sorveglianza"))
+  if (detta("--senza-sorveglianza"))
     return "--senza-sorveglianza vale soltanto per la finestra, senza --esporta";
   if (r.disegni.isEmpty()) return "manca il disegno da esportare";
   const bool cartella = QFileInfo(r.esporta).isDir();
@@ -141,47 +118,24 @@ Errore Controlla(const Lettura& l) {
   if (finale.isEmpty()) return QString("file %1: si esporta in .png, .svg, .pdf o .dxf").arg(r.esporta);
   if (r.tipo.isEmpty() && finale != "pdf" && r.disegni.size() > 1)
     return "più disegni si esportano in un PDF, o in una cartella con --esporta CARTELLA --tipo TIPO";
-  if (finale != "pdf")
-    if (auto errore = FuoriPosto(l.dette, kDellaCarta, "per il PDF")) return errore;
-  if (finale != "pdf" && finale != "dxf" && l.dette.contains("--unita"))
-    return "--unita vale soltanto per PDF e DXF";
+  for (const char* nome : {"--scala", "--carta", "--orientamento", "--comunque"})
+    if (finale != "pdf" && detta(nome)) return QString("%1 vale soltanto per il PDF").arg(nome);
+  if (finale != "pdf" && finale != "dxf" && detta("--unita")) return "--unita vale soltanto per PDF e DXF";
   if (r.resa.rapporto > 0 && r.resa.unita == Unita::Ignota)
     return "--scala vuole anche --unita: in che unità è il disegno, mm, cm o m";
-  return std::nullopt;
+  return {};
 }
 
 }  // namespace
 
-std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> argomenti) {
-  Lettura l;
-  for (auto a = argomenti.begin(); a != argomenti.end(); ++a) {
-    const QString argomento = QString::fromStdString(*a);
-    if (!l.opzioni || !argomento.startsWith('-') || argomento == "-") {
-      l.richieste.disegni << argomento;
-      continue;
-    }
-    if (argomento == "--") {
-      l.opzioni = false;
-      continue;
-    }
-    if (const auto* s = Trova(kSegni, argomento); s != std::end(kSegni)) {
-      s->prendi(l.richieste);
-      l.dette << argomento;
-      continue;
-    }
-    const auto uguale = argomento.indexOf('=');
-    const QString nome = argomento.left(uguale);
-    const auto* p = Trova(kConValore, nome);
-    if (p == std::end(kConValore)) return "opzione sconosciuta: " + argomento;
-    if (uguale < 0 && ++a == argomenti.end()) return QString("dopo %1 manca il valore").arg(nome);
-    const QString valore = uguale < 0 ? QString::fromStdString(*a) : argomento.mid(uguale + 1);
-    if (const auto atteso = p->prendi(l.richieste, valore))
-      return QString("%1: %2, non \"%3\"").arg(nome, *atteso, valore);
-    l.dette << nome;
-  }
-  if (l.richieste.aiuto || l.richieste.versione) return l.richieste;
-  if (const auto errore = Controlla(l)) return *errore;
-  return l.richieste;
+std::variant<Richieste, tarvel::Congedo> LeggiRichieste(std::span<const std::string> argomenti) {
+  Richieste r;
+  const tarvel::ComandoLetto letto = tarvel::LeggiComando(ComandoOstrel(r), argomenti);
+  if (letto.congedo) return *letto.congedo;
+  for (const std::string& disegno : letto.argomenti) r.disegni << QString::fromStdString(disegno);
+  if (const QString errore = Controlla(r, letto.dette); !errore.isEmpty())
+    return tarvel::Sbagliato(kProgramma, errore.toStdString());
+  return r;
 }
 
 }  // namespace ostrel

@@ -1,4 +1,4 @@
-// What the user asks for on the command line.
+// Reads what the user asks for on the command line.
 #pragma once
 
 #include <QString>
@@ -7,6 +7,7 @@
 #include <string>
 #include <variant>
 
+#include "base/opzioni_comando.h"
 #include "viewer/disegno/scala.h"
 
 namespace ostrel {
@@ -14,19 +15,13 @@ namespace ostrel {
 struct Richieste {
   QStringList disegni;
   bool sorveglia = true;
-  /// A file, or with `tipo` a folder; empty: the drawing is shown in the window.
+  /// A file, or with `tipo` a folder; where it is empty the window shows the drawing.
   QString esporta;
   QString tipo;
   Resa resa;
   bool comunque = false;  // also what does not fit on its sheet
-  bool aiuto = false;
-  bool versione = false;
 };
 
-/// `argomenti` in UTF-8, without the program's name. The alternative is an Italian message on what is
-/// wrong with them.
-std::variant<Richieste, QString> LeggiRichieste(std::span<const std::string> argomenti);
-
-extern const char* const kAiuto;
+std::variant<Richieste, tarvel::Congedo> LeggiRichieste(std::span<const std::string> argomenti);
 
 }  // namespace ostrel

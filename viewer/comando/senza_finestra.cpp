@@ -6,7 +6,6 @@
 #include <QSet>
 #include <cstdio>
 #include <iterator>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -22,9 +21,9 @@ QString Destinazione(const Richieste& r, const QString& disegno) {
   return QDir(r.esporta).filePath(QFileInfo(disegno).completeBaseName() + '.' + r.tipo);
 }
 
-// Why nothing may be written: a drawing would be lost, or two would be one file. Names that differ by case
-// alone are one file on some systems, and the folder may go there.
-std::optional<QString> Rifiuto(const Richieste& r, bool insieme) {
+// Refuses to write anything where a drawing would be lost or two would go into one file. Names that differ by
+// case alone count as one: on some systems they are, and the folder may be copied there.
+Errore Rifiuto(const Richieste& r, bool insieme) {
   QSet<QString> letti;
   for (const QString& disegno : r.disegni) letti << QFileInfo(disegno).canonicalFilePath();
   letti.remove({});
@@ -41,9 +40,7 @@ std::optional<QString> Rifiuto(const Richieste& r, bool insieme) {
   return std::nullopt;
 }
 
-using Errore = std::optional<QString>;
-
-// What is wrong with it; nothing where it can be written.
+// Refuses also what does not fit on its sheet.
 Errore Leggi(const Richieste& r, const QString& file, Disegno& disegno) {
   Caricato caricato = CaricaAttendendo(file.toStdString());
   if (!caricato.disegno) return QString::fromStdString(caricato.messaggio);
@@ -56,7 +53,7 @@ Errore Leggi(const Richieste& r, const QString& file, Disegno& disegno) {
       .arg(file, obiezione->testo, obiezione->assurda ? "" : " Con --comunque si scrive lo stesso.");
 }
 
-// Each into its own file; how many could not be.
+// Writes each drawing into a file of its own. Returns how many failed, as the next one does.
 qsizetype EsportaOgnuno(const Richieste& r) {
   qsizetype falliti = 0;
   for (const QString& file : r.disegni) {

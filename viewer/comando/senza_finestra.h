@@ -1,15 +1,16 @@
-// Drawings exported one after the other, without a window.
+// Exports drawings one after the other, without a window.
 #pragma once
 
 #include "viewer/comando/riga_comando.h"
 
 namespace ostrel {
 
-/// Exports what is asked for; what fails is said on the standard error and passed over. The exit status: 0,
-/// 1 where something failed, 2 where a file would be written twice or over a drawing; then none is.
+/// Exports what is asked for; a drawing that fails is reported on the standard error and passed over. Returns
+/// the exit status: 1 where something failed; 2, with nothing written, where a file would be written twice or
+/// over a drawing; otherwise 0.
 int EsportaTutti(const Richieste& richieste);
 
-/// Says on the standard error, under the program's name.
+/// Writes a line on the standard error, after the program's name.
 void Dice(const QString& testo);
 
 }  // namespace ostrel

@@ -1,4 +1,4 @@
-// Size and time of the file before and after the reading show whether it stood still.
+// A file stood still while it was read if its size and time are the same before and after.
 #include "viewer/disegno/caricamento.h"
 
 #include <chrono>

@@ -1,4 +1,4 @@
-// A drawing file of the host, read whole and checked; one still being written is told apart.
+// Reads a drawing file of the host, and tells a file that is still being written from one that is wrong.
 #pragma once
 
 #include <optional>
@@ -8,10 +8,10 @@
 
 namespace ostrel {
 
-/// More than the fullest drawing takes, a few texts as long as a line may be among them.
+/// The fullest drawing takes less, even with a few texts as long as a line may be.
 inline constexpr long long kMassimoFile = 64LL << 20;
 
-/// A file being written is tried again this often before it is refused.
+/// How often a file that is being written is tried before it is refused, and how long to wait in between.
 inline constexpr int kTentativi = 40;
 inline constexpr int kAttesaMs = 50;
 
@@ -22,10 +22,10 @@ struct Caricato {
   bool riprova = false;
 };
 
-/// One attempt. `percorso` is the host's, UTF-8; only regular files are opened.
+/// Tries once. `percorso` is the host's, UTF-8; only a regular file is opened.
 Caricato Carica(const std::string& percorso);
 
-/// Attempts until the file stands still; blocks for two seconds at most.
+/// Tries until the file stands still; blocks for two seconds at most.
 Caricato CaricaAttendendo(const std::string& percorso);
 
 }  // namespace ostrel

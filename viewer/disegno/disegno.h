@@ -1,5 +1,5 @@
-// The drawing as the file holds it: a table of coordinates and elements that refer to them by
-// index. Lengths in the drawing's own unit, y upward.
+// The drawing as its file holds it: a table of coordinates, and elements that refer to them by index. Lengths
+// are in the drawing's own unit, y points upward.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ struct Coordinata {
   friend bool operator==(const Coordinata&, const Coordinata&) = default;
 };
 
-/// A marked point; the file gives its two attributes no meaning, it is drawn as a small cross.
+/// A marked point, drawn as a small cross. Its two attributes in the file have no meaning.
 struct Punto {
   int posizione = 0;
 };
@@ -25,13 +25,13 @@ struct Linea {
   int tipo = 0;  // 0 continuous, from 1 on dashed
 };
 
-/// Counter-clockwise from the start point to the end point; the same point twice is a full circle.
+/// Runs counter-clockwise from the start point to the end point; where both are one it is a full circle.
 struct Arco {
   int centro = 0, inizio = 0, fine = 0;
   int colore = 0;
 };
 
-/// One character occupies one cell of width `base`; the position is the start of the baseline.
+/// Each character has a cell of width `base`; the position is the start of the baseline.
 struct Scritta {
   int posizione = 0;
   int angolo = 0;  // whole degrees, counter-clockwise
@@ -46,14 +46,10 @@ struct Disegno {
   std::vector<Linea> linee;
   std::vector<Scritta> scritte;
   std::vector<Arco> archi;
-  tarvel::Testo titolo;  // the first text, also where texts are taken out
-  /// Lines and arcs one of whose points found no room in the table of the program that drew them.
+  tarvel::Testo titolo;  // the first text; it stays where the texts are taken out
+  /// How many lines and arcs were left out, because the program that drew them had no room for a point.
   int saltati = 0;
-  /// What a length here is worth in the file: 1 but where squares and sums of the file's own numbers
-  /// would leave a double's range; then a power of two.
-  double unita = 1;
-  /// The outline has been taken out: no line that is left belongs to one.
-  bool senzaContorno = false;
+  bool senzaContorno = false;  // it has been taken out, and no line that is left belongs to it
 };
 
 }  // namespace ostrel

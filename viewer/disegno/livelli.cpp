@@ -1,4 +1,4 @@
-// Outline, dimensions and texts told apart by how elements follow one another.
+// Tells outline, dimensions and texts apart.
 #include "viewer/disegno/livelli.h"
 
 #include <utility>

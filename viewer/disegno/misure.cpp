@@ -3,18 +3,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 
 namespace ostrel {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
-// Two points nearer than this are one, as for the program that drew them.
+// The program that draws takes two points nearer than this for one.
 constexpr double kTolleranza = 1e-4;
-// Powers of two between which squares and sums, and views that magnify them, stay finite.
-constexpr int kMassimoEsponente = 332;
-constexpr int kMinimoEsponente = -332;
 constexpr double kMinimaForma = 0.2;  // of a page, shorter to longer side
 
 }  // namespace
@@ -34,41 +30,15 @@ double Riquadro::Massimo() const {
   return std::max({std::fabs(x0), std::fabs(x1), std::fabs(y0), std::fabs(y1)});
 }
 
-void Riduci(Disegno& disegno) {
-  int esponente = std::numeric_limits<int>::min();
-  const auto comprendi = [&](double v, std::size_t volte = 1) {
-    if (v != 0) esponente = std::max(esponente, std::ilogb(v) + std::ilogb(static_cast<double>(volte)));
-  };
-  for (const Coordinata& c : disegno.coordinate) {
-    comprendi(c.x);
-    comprendi(c.y);
-  }
-  for (const Scritta& s : disegno.scritte) {
-    comprendi(s.base, s.testo.size() + 1);
-    comprendi(s.altezza);
-  }
-  if (esponente == std::numeric_limits<int>::min()) return;
-  const int passo = std::clamp(esponente, kMinimoEsponente, kMassimoEsponente) - esponente;
-  if (passo == 0) return;
-  disegno.unita = std::scalbn(1, -passo);
-  for (Coordinata& c : disegno.coordinate) c = {std::scalbn(c.x, passo), std::scalbn(c.y, passo)};
-  for (Scritta& s : disegno.scritte) {
-    s.base = std::scalbn(s.base, passo);
-    s.altezza = std::scalbn(s.altezza, passo);
-  }
-  std::erase_if(disegno.scritte, [](const Scritta& s) { return s.base == 0 || s.altezza == 0; });
-}
-
 ArcoPolare Polare(const Disegno& disegno, const Arco& arco) {
   const Coordinata centro = Posto(disegno, arco.centro);
   const Coordinata da = Posto(disegno, arco.inizio);
   const Coordinata a = Posto(disegno, arco.fine);
   ArcoPolare polare{centro.x, centro.y, std::hypot(da.x - centro.x, da.y - centro.y),
                     std::atan2(da.y - centro.y, da.x - centro.x)};
-  // The writer keeps the end point of a circle apart from its start point when the latter was
-  // merged with an earlier coordinate: the same place under two indices is still a full circle.
-  const double tolleranza = kTolleranza / disegno.unita;
-  polare.cerchio = std::fabs(da.x - a.x) < tolleranza && std::fabs(da.y - a.y) < tolleranza;
+  // The program that draws merges the start point of a circle, but not its end point, with an earlier
+  // coordinate at the same place: one place under two indices is still a full circle.
+  polare.cerchio = std::fabs(da.x - a.x) < kTolleranza && std::fabs(da.y - a.y) < kTolleranza;
   polare.ampiezza = 2 * kPi;
   if (!polare.cerchio) {
     const double ampiezza =
@@ -113,7 +83,7 @@ Riquadro Ingombro(const Disegno& disegno) {
   return tutto;
 }
 
-Riquadro Pagina(const Riquadro& tutto) {
+Riquadro ConMargine(const Riquadro& tutto) {
   double lungo = std::max(tutto.Larghezza(), tutto.Altezza());
   if (lungo <= kArrotondamento * tutto.Massimo()) lungo = tutto.Massimo() > 0 ? tutto.Massimo() : 1;
   // The margin is a part of the page, not of the drawing.

@@ -1,34 +1,32 @@
 #include "viewer/disegno/scala.h"
 
-#include <algorithm>
+#include <span>
 
 namespace ostrel {
 namespace {
 
 constexpr char kAdatta[] = "adatta";
 
-template <class Scelta, class Voci, class Nome>
-std::optional<Scelta> Cerca(const Voci& voci, const QString& testo, Nome nome) {
+template <class Scelta>
+std::optional<Scelta> Riconosci(std::span<const char* const> parole, const QString& testo) {
   const QString parola = testo.trimmed();
-  const auto voce = std::find_if(voci.begin(), voci.end(), [&](const auto& v) {
-    return !parola.isEmpty() && parola.compare(QLatin1StringView(nome(v)), Qt::CaseInsensitive) == 0;
-  });
-  if (voce == voci.end()) return std::nullopt;
-  return static_cast<Scelta>(voce - voci.begin());
+  for (std::size_t i = 0; i < parole.size() && !parola.isEmpty(); ++i)
+    if (parola.compare(QLatin1StringView(parole[i]), Qt::CaseInsensitive) == 0) return static_cast<Scelta>(i);
+  return std::nullopt;
 }
 
 }  // namespace
 
 std::optional<Unita> LeggiUnita(const QString& testo) {
-  return Cerca<Unita>(kUnita, testo, [](const VoceUnita& v) { return v.nome; });
+  return Riconosci<Unita>(kUnita, testo);
 }
 
 std::optional<Carta> LeggiCarta(const QString& testo) {
-  return Cerca<Carta>(kCarte, testo, [](const char* nome) { return nome; });
+  return Riconosci<Carta>(kCarte, testo);
 }
 
 std::optional<Orientamento> LeggiOrientamento(const QString& testo) {
-  return Cerca<Orientamento>(kOrientamenti, testo, [](const char* nome) { return nome; });
+  return Riconosci<Orientamento>(kOrientamenti, testo);
 }
 
 std::optional<double> LeggiScala(const QString& testo) {

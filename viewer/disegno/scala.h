@@ -1,5 +1,5 @@
-// The unit of a drawing's lengths, which its file does not say, and the sheet and scale it goes to paper at;
-// with the words for them that command line, windows and remembered choices share.
+// The unit of a drawing's lengths, which its file does not say, the sheet of paper and the scale, and the
+// words that command line, windows and remembered choices have for them.
 #pragma once
 
 #include <QString>
@@ -11,18 +11,17 @@ namespace ostrel {
 
 enum class Unita { Ignota, Millimetri, Centimetri, Metri };
 
-struct VoceUnita {
-  const char* nome;
-  double millimetri;
-  int dxf;  // $INSUNITS
-};
-
 /// In the order of Unita.
-inline constexpr std::array<VoceUnita, 4> kUnita = {
-    {{"", 0, 0}, {"mm", 1, 4}, {"cm", 10, 5}, {"m", 1000, 6}}};
+inline constexpr std::array<const char*, 4> kUnita = {"", "mm", "cm", "m"};
 
-constexpr const VoceUnita& Voce(Unita unita) {
+constexpr const char* Nome(Unita unita) {
   return kUnita[static_cast<std::size_t>(unita)];
+}
+
+/// How many a unit has; 0 for one that is not known.
+constexpr double Millimetri(Unita unita) {
+  constexpr std::array<double, kUnita.size()> kMillimetri = {0, 1, 10, 1000};
+  return kMillimetri[static_cast<std::size_t>(unita)];
 }
 
 enum class Carta { A4, A3, A2, A1, A0 };
@@ -34,7 +33,7 @@ constexpr const char* Nome(Carta carta) {
   return kCarte[static_cast<std::size_t>(carta)];
 }
 
-/// Automatico: the one the drawing has more room in.
+/// Automatico: the drawing chooses the one in which it has more room.
 enum class Orientamento { Automatico, Verticale, Orizzontale };
 
 /// In the order of Orientamento.
@@ -57,7 +56,7 @@ struct Resa {
   Orientamento orientamento = Orientamento::Automatico;
 };
 
-/// Reads mm, cm, m; in any case, nothing for another word.
+/// Reads mm, cm or m in upper or lower case; nothing for another word, and so for the next two.
 std::optional<Unita> LeggiUnita(const QString& testo);
 /// Reads A4 to A0.
 std::optional<Carta> LeggiCarta(const QString& testo);

@@ -1,10 +1,9 @@
-// The elements, in the order of the drawing.
+// Writes the elements in the order of the drawing.
 #include "viewer/esporta/dxf.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -21,23 +20,23 @@ namespace {
 
 using tarvel::Testo;
 
-constexpr double kGradi = 180 / std::numbers::pi;
-
-void Elemento(Dxf& dxf, std::string_view genere, Livello livello, const Aspetto& aspetto) {
+void IniziaElemento(Dxf& dxf, std::string_view genere, Livello livello, const Aspetto& aspetto) {
   const auto indice = static_cast<std::size_t>(livello);
   const Aspetto& comune = dxf.livelli[indice];
   Gruppo(dxf, 0, genere);
-  Gruppo(dxf, 8, kNomiLivelli[indice]);
+  Gruppo(dxf, 8, kLivelliDxf[indice]);
   if (aspetto.colore != comune.colore) GruppoIntero(dxf, 62, aspetto.colore);
   if (aspetto.tipo != comune.tipo) Gruppo(dxf, 6, kTipiLinea[aspetto.tipo].nome);
 }
 
-// Of texts and points, which no line type changes.
-void ElementoSenzaTipo(Dxf& dxf, std::string_view genere, Livello livello, int colore) {
-  Elemento(dxf, genere, livello, {ColoreDxf(colore), dxf.livelli[static_cast<std::size_t>(livello)].tipo});
+// For texts and points, which look the same in every line type.
+void IniziaSenzaTipo(Dxf& dxf, std::string_view genere, Livello livello, int colore) {
+  IniziaElemento(dxf, genere, livello,
+                 {ColoreDxf(colore), dxf.livelli[static_cast<std::size_t>(livello)].tipo});
 }
 
-// Two percent signs begin a special character and a caret a control one; these are plain.
+// Two percent signs begin a special character and a caret begins a control character: both are written so
+// that they stand for themselves.
 Testo TestoDxf(std::string_view testo) {
   Testo esito;
   for (std::size_t i = 0; i < testo.size(); ++i) {
@@ -55,25 +54,26 @@ Testo TestoDxf(std::string_view testo) {
 
 void ScriviLinea(Dxf& dxf, const Disegno& disegno, const Linea& linea, Livello livello) {
   const Coordinata da = Posto(disegno, linea.inizio), a = Posto(disegno, linea.fine);
-  Elemento(dxf, "LINE", livello, AspettoLinea(linea));
+  IniziaElemento(dxf, "LINE", livello, AspettoLinea(linea));
   GruppoPunto(dxf, 10, da.x, da.y);
   GruppoPunto(dxf, 11, a.x, a.y);
 }
 
-// One closed polyline of a ring's corners, each of them once.
+// Writes a ring as one closed polyline.
 void ScriviAnello(Dxf& dxf, const std::vector<Coordinata>& vertici, const Aspetto& aspetto) {
-  Elemento(dxf, "POLYLINE", Livello::Contorno, aspetto);
+  IniziaElemento(dxf, "POLYLINE", Livello::Contorno, aspetto);
   GruppoIntero(dxf, 66, 1);
   GruppoPunto(dxf, 10, 0, 0);
   GruppoIntero(dxf, 70, 1);
   for (const Coordinata& vertice : vertici) {
-    Elemento(dxf, "VERTEX", Livello::Contorno, aspetto);
+    IniziaElemento(dxf, "VERTEX", Livello::Contorno, aspetto);
     GruppoPunto(dxf, 10, vertice.x, vertice.y);
   }
-  Elemento(dxf, "SEQEND", Livello::Contorno, aspetto);
+  IniziaElemento(dxf, "SEQEND", Livello::Contorno, aspetto);
 }
 
-// Its corners, where a polyline can stand for its lines: they are alike and enclose something.
+// The corners of a ring, each once. None where no polyline can stand for its lines, because they look
+// different or enclose nothing.
 std::vector<Coordinata> VerticiAnello(const Disegno& disegno, std::span<const Linea> anello) {
   std::vector<Coordinata> vertici;
   const auto uguali = [](const Coordinata& a, const Coordinata& b) { return a.x == b.x && a.y == b.y; };
@@ -102,26 +102,26 @@ void ScriviLinee(Dxf& dxf, const Disegno& disegno, const std::vector<Livello>& l
 
 void ScriviArco(Dxf& dxf, const Disegno& disegno, const Arco& arco) {
   const ArcoPolare p = Polare(disegno, arco);
-  Elemento(dxf,
-           p.raggio <= 0 ? "POINT"
-           : p.cerchio   ? "CIRCLE"
-                         : "ARC",
-           LivelloArco(disegno, arco), {ColoreDxf(arco.colore), 0});
+  IniziaElemento(dxf,
+                 p.raggio <= 0 ? "POINT"
+                 : p.cerchio   ? "CIRCLE"
+                               : "ARC",
+                 LivelloArco(disegno, arco), {ColoreDxf(arco.colore), 0});
   GruppoPunto(dxf, 10, p.x, p.y);
   if (p.raggio <= 0) return;
-  GruppoLunghezza(dxf, 40, p.raggio);
+  GruppoReale(dxf, 40, p.raggio);
   if (p.cerchio) return;
   const auto gradi = [](double radianti) { return std::fmod(radianti * kGradi + 360, 360); };
   GruppoReale(dxf, 50, gradi(p.inizio));
   GruppoReale(dxf, 51, gradi(p.inizio + p.ampiezza));
 }
 
-// Fitted between two points of its baseline, so that any font fills the text's cells. One longer
-// than a DXF string may be goes on in another text, where its next cell is.
+// Fits a text between two points of its baseline, so that any font fills its cells. A text longer than a DXF
+// string may be goes on in another one, where its next cell is.
 void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
   constexpr int kAdattato = 5;
   constexpr std::size_t kMassimaStringa = 255;
-  constexpr std::size_t kSempreEntro = kMassimaStringa / 3;  // each character as three
+  constexpr std::size_t kSempreEntro = kMassimaStringa / 3;  // a character takes three at most
   const auto angoli = Angoli(disegno, scritta);
   const Coordinata da = angoli[0], a = angoli[1];
   const std::size_t quanti = scritta.testo.size();
@@ -137,9 +137,9 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
       fine = inizio + kSempreEntro;
       stringa = TestoDxf(std::string_view(scritta.testo).substr(inizio, kSempreEntro));
     }
-    ElementoSenzaTipo(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
+    IniziaSenzaTipo(dxf, "TEXT", LivelloScritta(scritta), scritta.colore);
     GruppoPunto(dxf, 10, posto(inizio).x, posto(inizio).y);
-    GruppoLunghezza(dxf, 40, scritta.altezza);
+    GruppoReale(dxf, 40, scritta.altezza);
     Gruppo(dxf, 1, stringa);
     GruppoReale(dxf, 41, scritta.base / scritta.altezza);
     GruppoIntero(dxf, 50, scritta.angolo);
@@ -151,9 +151,9 @@ void ScriviScritta(Dxf& dxf, const Disegno& disegno, const Scritta& scritta) {
 
 }  // namespace
 
-std::optional<Testo> ScriviDxf(const Disegno& disegno, Unita unita) {
+Testo ScriviDxf(const Disegno& disegno, Unita unita) {
   const auto livelli = LivelliLinee(disegno);
-  Dxf dxf{{}, disegno.unita, AspettiComuni(disegno, livelli)};
+  Dxf dxf{{}, AspettiComuni(disegno, livelli)};
   ScriviTesta(dxf, Ingombro(disegno), unita);
   Gruppo(dxf, 0, "SECTION");
   Gruppo(dxf, 2, "ENTITIES");
@@ -162,12 +162,11 @@ std::optional<Testo> ScriviDxf(const Disegno& disegno, Unita unita) {
   for (const Scritta& scritta : disegno.scritte) ScriviScritta(dxf, disegno, scritta);
   for (const Punto& punto : disegno.punti) {
     const Coordinata posto = Posto(disegno, punto.posizione);
-    ElementoSenzaTipo(dxf, "POINT", Livello::Contorno, kColorePunti);
+    IniziaSenzaTipo(dxf, "POINT", Livello::Contorno, kColorePunti);
     GruppoPunto(dxf, 10, posto.x, posto.y);
   }
   Gruppo(dxf, 0, "ENDSEC");
   Gruppo(dxf, 0, "EOF");
-  if (!dxf.finito) return std::nullopt;
   return std::move(dxf.testo);
 }
 

@@ -1,4 +1,4 @@
-// Every kind is made in memory first: a file appears whole or not at all.
+// Every kind of file is composed in memory first, so that it appears whole or not at all.
 #include "viewer/esporta/esporta.h"
 
 #include <QBuffer>
@@ -25,12 +25,12 @@ namespace {
 constexpr int kLatoPng = 2000;  // pixels of the longer side
 
 QSize FormatoPng(const Disegno& disegno) {
-  const Riquadro pagina = Pagina(Ingombro(disegno));
+  const Riquadro pagina = ConMargine(Ingombro(disegno));
   const double lungo = std::max(pagina.Larghezza(), pagina.Altezza());
   return {qRound(kLatoPng * (pagina.Larghezza() / lungo)), qRound(kLatoPng * (pagina.Altezza() / lungo))};
 }
 
-// Each kind gives its bytes to the buffer, or the reason why it cannot.
+// The reason of a failure, as the end of a sentence; nothing on success.
 using Motivo = std::optional<QString>;
 constexpr char kSenzaMemoria[] = "memoria insufficiente";
 
@@ -49,12 +49,12 @@ Motivo ScriviPng(const Disegno& disegno, const Resa&, const Origine&, QIODevice&
   return SeManca(!immagine.isNull() && immagine.save(&uscita, "PNG"));
 }
 
-Motivo Copia(QByteArrayView byte, QIODevice& uscita) {
+Motivo Versa(QByteArrayView byte, QIODevice& uscita) {
   return SeManca(uscita.write(byte.data(), byte.size()) == byte.size());
 }
 
 Motivo ScriviSvgSu(const Disegno& disegno, const Resa&, const Origine&, QIODevice& uscita) {
-  return Copia(ScriviSvg(disegno), uscita);
+  return Versa(ScriviSvg(disegno), uscita);
 }
 
 Motivo ScriviPdfSu(const Disegno& disegno, const Resa& resa, const Origine& origine, QIODevice& uscita) {
@@ -63,9 +63,7 @@ Motivo ScriviPdfSu(const Disegno& disegno, const Resa& resa, const Origine& orig
 }
 
 Motivo ScriviDxfSu(const Disegno& disegno, const Resa& resa, const Origine&, QIODevice& uscita) {
-  const auto dxf = ScriviDxf(disegno, resa.unita);
-  if (!dxf) return "il disegno ha misure che superano il massimo numero rappresentabile";
-  return Copia(*dxf, uscita);
+  return Versa(ScriviDxf(disegno, resa.unita), uscita);
 }
 
 struct Genere {
@@ -87,7 +85,7 @@ const Genere* CercaGenere(const QString& finale) {
 constexpr char kDiscoPieno[] = "il disco è pieno";
 constexpr char kSenzaPermesso[] = "manca il permesso di scrivere nella cartella o sul file";
 
-// What the device has but one word for, where the host tells it apart; nothing where it does not.
+// Failures that the host tells apart and the device does not; nothing for any other.
 const char* MotivoHost(int errore) {
   switch (errore) {
     case EACCES:
@@ -106,7 +104,7 @@ const char* MotivoHost(int errore) {
   }
 }
 
-// What a device says that refused, then the disk and the folder under it. `mancano`: bytes not written yet.
+// Asks the device that refused, then the disk and the folder it is in. `mancano` bytes are not yet written.
 QString MotivoRifiuto(const QFileDevice& file, qint64 mancano) {
   const int errore = errno;  // before anything else is asked
   const QFileInfo destinazione(file.fileName()), cartella(destinazione.absolutePath());
@@ -123,8 +121,8 @@ QString MotivoRifiuto(const QFileDevice& file, qint64 mancano) {
   return "la cartella non accetta un file con questo nome, o manca il permesso";
 }
 
-// A device is written to as it is, a pipe might never be read; a file is replaced only once its successor is
-// whole. What a device takes in part it refuses, with the reason, when it is given the rest.
+// A device that takes only a part of the bytes refuses the rest, with the reason, when it is offered them
+// again.
 template <class File>
 Motivo ScriviSu(File&& file, const QByteArray& byte) {
   errno = 0;
@@ -140,6 +138,8 @@ Motivo ScriviSu(File&& file, const QByteArray& byte) {
   return std::nullopt;
 }
 
+// Writes straight to a character device. Refuses a pipe, which perhaps nobody reads. Replaces a file only
+// once its successor is whole.
 Motivo ScriviFile(const QString& percorso, const QByteArray& byte) {
   const QFileInfo destinazione(percorso);
   if (destinazione.isDir()) return "è una cartella";
@@ -157,9 +157,9 @@ Motivo ScriviFile(const QString& percorso, const QByteArray& byte) {
   }
 }
 
-// `scrivi` gives the bytes, or the reason why it cannot.
+// `scrivi` puts the bytes into a buffer.
 template <class Scrivi>
-std::optional<QString> Riferisci(const QString& percorso, Scrivi scrivi) {
+Errore Riferisci(const QString& percorso, Scrivi scrivi) {
   QBuffer byte;
   byte.open(QIODevice::WriteOnly);
   Motivo motivo = scrivi(byte);
@@ -186,16 +186,14 @@ QString FinaleDi(const QString& percorso) {
   return FinaliEsportazione().contains(finale) ? finale : QString();
 }
 
-std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa,
-                               const Origine& origine) {
+Errore Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa, const Origine& origine) {
   const auto* const genere = CercaGenere(FinaleDi(percorso));
   if (genere == kGeneri.end()) return QString("File %1: si esporta in .png, .svg, .pdf o .dxf").arg(percorso);
 
   return Riferisci(percorso, [&](QIODevice& byte) { return genere->scrivi(disegno, resa, origine, byte); });
 }
 
-std::optional<QString> EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso,
-                                        const Resa& resa) {
+Errore EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso, const Resa& resa) {
   return Riferisci(percorso, [&](QIODevice& byte) { return SeManca(ScriviPdf(tavole, resa, byte)); });
 }
 

@@ -1,4 +1,4 @@
-// The drawing on paper and in files for other programs.
+// Writes a drawing into a picture, a document or a file for other programs.
 #pragma once
 
 #include <QString>
@@ -12,20 +12,23 @@
 
 namespace ostrel {
 
+/// Why something could not be done, in Italian; nothing where it was done.
+using Errore = std::optional<QString>;
+
 /// The endings of the kinds of file that can be written: "png" and so on.
 QStringList FinaliEsportazione();
 /// One of these kinds as a file dialog lists it: "Immagine PNG (*.png)".
 QString FiltroEsportazione(const QString& finale);
-/// Which of them ends this name, in lower case; empty: none.
+/// The one of them that ends this name, in lower case; empty where none does.
 QString FinaleDi(const QString& percorso);
 
-/// Writes a drawing that is not empty; the ending (.png, .svg, .pdf or .dxf, in any case) says the kind.
-/// Nothing on success, otherwise an Italian message; an existing file is then as it was.
-[[nodiscard]] std::optional<QString> Esporta(const Disegno& disegno, const QString& percorso,
-                                             const Resa& resa = {}, const Origine& origine = {});
+/// Writes a drawing that is not empty; the ending (.png, .svg, .pdf or .dxf, in any case) says the kind. A
+/// failure leaves an existing file as it was.
+[[nodiscard]] Errore Esporta(const Disegno& disegno, const QString& percorso, const Resa& resa = {},
+                             const Origine& origine = {});
 
-/// One PDF document, a page for each drawing; none of them may be empty.
-[[nodiscard]] std::optional<QString> EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso,
-                                                      const Resa& resa);
+/// Writes one PDF document with a page for each drawing; none of them may be empty.
+[[nodiscard]] Errore EsportaFascicolo(std::span<const Tavola> tavole, const QString& percorso,
+                                      const Resa& resa);
 
 }  // namespace ostrel

@@ -1,7 +1,5 @@
-// Group by group: a code line and a value line.
+// A group is a line with the code and a line with the value.
 #include "viewer/esporta/gruppi_dxf.h"
-
-#include <cmath>
 
 #include "base/numeri.h"
 
@@ -16,19 +14,14 @@ void GruppoIntero(Dxf& dxf, int codice, int valore) {
 }
 
 void GruppoReale(Dxf& dxf, int codice, double valore) {
-  dxf.finito = dxf.finito && std::isfinite(valore);
   tarvel::Testo testo;
-  if (dxf.finito) tarvel::AccodaNumero(testo, valore, '.', true);
+  tarvel::AccodaNumero(testo, valore, '.', true);
   Gruppo(dxf, codice, testo);
 }
 
-void GruppoLunghezza(Dxf& dxf, int codice, double valore) {
-  GruppoReale(dxf, codice, valore * dxf.unita);
-}
-
 void GruppoPunto(Dxf& dxf, int codice, double x, double y) {
-  GruppoLunghezza(dxf, codice, x);
-  GruppoLunghezza(dxf, codice + 10, y);
+  GruppoReale(dxf, codice, x);
+  GruppoReale(dxf, codice + 10, y);
   GruppoReale(dxf, codice + 20, 0);
 }
 

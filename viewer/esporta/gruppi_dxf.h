@@ -1,4 +1,4 @@
-// A DXF file while it is written: groups of a code and a value, and what an element leaves to its layer.
+// Writes a DXF file as groups of a code and a value.
 #pragma once
 
 #include <array>
@@ -9,28 +9,24 @@
 
 namespace ostrel {
 
-/// By Livello.
-inline constexpr std::array<const char*, 3> kNomiLivelli = {"CONTORNO", "QUOTE", "TESTI"};
+/// In the order of Livello.
+inline constexpr std::array<const char*, 3> kLivelliDxf = {"CONTORNO", "QUOTE", "TESTI"};
 
-/// Colour, of kColoriDxf, and place of the line type in kTipiLinea.
 struct Aspetto {
-  int colore;
-  std::size_t tipo;
+  int colore;        // of the 255 of the file
+  std::size_t tipo;  // the place of the line type in kTipiLinea
   bool operator==(const Aspetto&) const = default;
 };
-using AspettiLivelli = std::array<Aspetto, kNomiLivelli.size()>;
+using AspettiLivelli = std::array<Aspetto, kLivelliDxf.size()>;
 
 struct Dxf {
   tarvel::Testo testo;
-  double unita;  // of the drawing's lengths, in the file
-  AspettiLivelli livelli;
-  bool finito = true;  // every number so far is one
+  AspettiLivelli livelli;  // an element says how it looks only where it differs from its layer
 };
 
 void Gruppo(Dxf& dxf, int codice, std::string_view valore);
 void GruppoIntero(Dxf& dxf, int codice, int valore);
 void GruppoReale(Dxf& dxf, int codice, double valore);
-void GruppoLunghezza(Dxf& dxf, int codice, double valore);
 /// X, Y and Z, whose codes are ten apart.
 void GruppoPunto(Dxf& dxf, int codice, double x, double y);
 

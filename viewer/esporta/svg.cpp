@@ -1,4 +1,4 @@
-// Group by group; the colour that most of a group have stands at the group.
+// Writes layer by layer; a layer has the colour that most of its elements have.
 #include "viewer/esporta/svg.h"
 
 #include <QString>
@@ -19,16 +19,14 @@
 namespace ostrel {
 namespace {
 
-// Lengths within which single precision, all that readers of SVG have to have, is safe.
-constexpr double kMassimaLunghezza = 1e30, kMinimaLunghezza = 1e-30;
-constexpr double kLunghezzaRidotta = 100;
-constexpr double kMinimiPixel = 300;  // of the page's longer side, ten times as many at most
-// Lengths are written to this part of the page's longer side, nearly.
-constexpr double kFinezza = 1e8;
-constexpr double kPenne = 1000;  // pen widths to the page's longer side
-// A text whose cells are narrower or lower than this many pen widths is a line.
+// How many of each the page's longer side has. The first two are the least: powers of ten are taken to the
+// unit.
+constexpr double kMinimiPixel = 300;  // of the nominal size
+constexpr double kFinezza = 1e8;      // steps of rounding
+constexpr double kPenne = 1000;       // pen widths
+// A text whose cells are narrower or lower than this many pen widths is written as a line.
 constexpr double kMinimaScritta = 1e-3;
-// Of the font: height of its capitals and width of its characters, to its size.
+// The height of the font's capitals and the width of its characters, as parts of its size.
 constexpr char kCarattere[] = "'DejaVu Sans Mono', monospace";
 constexpr double kMaiuscola = 0.729;
 constexpr double kAvanzamento = 0.602;
@@ -47,53 +45,33 @@ QString Numero(double valore, double cifre) {
   return QString::fromStdString(testo);
 }
 
-// To six figures.
-QString Misura(double valore) {
+QString SeiCifre(double valore) {
   return Numero(valore, PotenzaDiDieci(valore, 1e5));
-}
-
-struct Foglio {
-  Riquadro pagina;
-  double penna = 1;
-  double scala = 1;  // of the file's lengths to the drawing's
-  double cifre = 1;  // the power of ten to which they are rounded
-  double pixel = 1;  // of their unit
-};
-
-Foglio Misurato(const Disegno& disegno) {
-  const Riquadro tutto = Ingombro(disegno);
-  Foglio f{.pagina = Pagina(tutto)};
-  const double massimo = tutto.Massimo();
-  if (massimo > kMassimaLunghezza || (massimo > 0 && massimo < kMinimaLunghezza))
-    f.scala = PotenzaDiDieci(massimo, kLunghezzaRidotta);
-  const double lungo = std::max(f.pagina.Larghezza(), f.pagina.Altezza());
-  f.penna = lungo / kPenne;
-  f.cifre = PotenzaDiDieci(lungo * f.scala, kFinezza);
-  f.pixel = PotenzaDiDieci(lungo * f.scala, kMinimiPixel);
-  return f;
-}
-
-QString Lungo(const Foglio& foglio, double lunghezza) {
-  return Numero(lunghezza * foglio.scala, foglio.cifre);
-}
-
-QString Posto(const Foglio& foglio, const Coordinata& c) {
-  return Lungo(foglio, c.x) + ' ' + Lungo(foglio, -c.y);
 }
 
 struct Svg {
   QXmlStreamWriter xml;
   const Disegno& disegno;
-  Foglio foglio;
-  std::size_t comune = 0;  // colour of the group being written
+  double penna;            // width of the lines
+  double cifre;            // steps of rounding to a unit of the drawing
+  double pixel;            // nominal pixels to a unit of the drawing
+  std::size_t comune = 0;  // colour of the layer being written
 };
 
-void Attributi(Svg& svg, const char* nomeX, const char* nomeY, const Coordinata& c) {
-  svg.xml.writeAttribute(nomeX, Lungo(svg.foglio, c.x));
-  svg.xml.writeAttribute(nomeY, Lungo(svg.foglio, -c.y));
+QString Lungo(const Svg& svg, double lunghezza) {
+  return Numero(lunghezza, svg.cifre);
 }
 
-// `tinta`: what the element is coloured by, "stroke" or "fill".
+QString Coppia(const Svg& svg, const Coordinata& c) {
+  return Lungo(svg, c.x) + ' ' + Lungo(svg, -c.y);
+}
+
+void Attributi(Svg& svg, const char* nomeX, const char* nomeY, const Coordinata& c) {
+  svg.xml.writeAttribute(nomeX, Lungo(svg, c.x));
+  svg.xml.writeAttribute(nomeY, Lungo(svg, -c.y));
+}
+
+// `tinta` is the attribute that colours the element, "stroke" or "fill".
 void Colora(Svg& svg, const char* tinta, std::size_t colore) {
   const tarvel::Colore c = ColoreSu(kCarta, static_cast<int>(colore));
   svg.xml.writeAttribute(tinta, QString::asprintf("#%02x%02x%02x", c.r, c.g, c.b));
@@ -109,22 +87,22 @@ void Scrivi(Svg& svg, const Linea& linea, std::size_t colore) {
   Attributi(svg, "x2", "y2", Posto(svg.disegno, linea.fine));
   QStringList tratti;
   for (const double tratto : kTipiLinea[IndiceTipo(linea.tipo)].Tratti())
-    tratti << Lungo(svg.foglio, tratto * svg.foglio.penna);
+    tratti << Lungo(svg, tratto * svg.penna);
   if (!tratti.isEmpty()) svg.xml.writeAttribute("stroke-dasharray", tratti.join(' '));
   ColoraSeSuo(svg, "stroke", colore);
 }
 
-// An arc of more than half a circle as two: its ends, written down, might be one place.
+// Writes an arc of more than half a circle as two: with both ends rounded to one place it would vanish.
 void Scrivi(Svg& svg, const Arco& arco, std::size_t colore) {
   const ArcoPolare p = Polare(svg.disegno, arco);
-  const QString raggio = Lungo(svg.foglio, p.raggio);
+  const QString raggio = Lungo(svg, p.raggio);
   if (p.cerchio) {
     svg.xml.writeEmptyElement("circle");
     Attributi(svg, "cx", "cy", {p.x, p.y});
     svg.xml.writeAttribute("r", raggio);
   } else {
     const auto posto = [&](double a) {
-      return Posto(svg.foglio, {p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a)});
+      return Coppia(svg, {p.x + p.raggio * std::cos(a), p.y + p.raggio * std::sin(a)});
     };
     const int parti = p.ampiezza > std::numbers::pi ? 2 : 1;
     QString via = 'M' + posto(p.inizio);
@@ -137,22 +115,21 @@ void Scrivi(Svg& svg, const Arco& arco, std::size_t colore) {
 }
 
 void Scrivi(Svg& svg, const Punto& punto, std::size_t colore) {
-  const QString posto = Posto(svg.foglio, Posto(svg.disegno, punto.posizione));
-  const QString mezza = Lungo(svg.foglio, kMezzaCroce * svg.foglio.penna);
-  const QString intera = Lungo(svg.foglio, 2 * kMezzaCroce * svg.foglio.penna);
+  const QString posto = Coppia(svg, Posto(svg.disegno, punto.posizione));
+  const QString mezza = Lungo(svg, kMezzaCroce * svg.penna);
+  const QString intera = Lungo(svg, 2 * kMezzaCroce * svg.penna);
   svg.xml.writeEmptyElement("path");
   svg.xml.writeAttribute("d", QString("M%1m-%2 -%2l%3 %3m0 -%3l-%3 %3").arg(posto, mezza, intera));
   ColoraSeSuo(svg, "stroke", colore);
 }
 
-// Scaled across to the cells by the font's own measures; where another font stands in, by its length.
-// The font's size is in nominal pixels: readers draw the outlines of very small fonts badly.
-// Blanks are kept by each text: browsers let none inherit that.
+// Scales a text to its cells by the measures of the font; where another font stands in, `textLength` does it.
+// The font's size is in nominal pixels, because readers draw the outlines of very small fonts badly. Each
+// text says for itself that blanks are kept, because browsers do not let it inherit that.
 void Scrivi(Svg& svg, const Scritta& scritta, std::size_t colore) {
-  const Foglio& f = svg.foglio;
   const auto quanti = static_cast<double>(scritta.testo.size());
   const double largo = scritta.base * quanti;
-  const double minimo = kMinimaScritta * f.penna;
+  const double minimo = kMinimaScritta * svg.penna;
   const auto angoli = Angoli(svg.disegno, scritta);
   if (scritta.altezza < minimo || largo < minimo) {
     svg.xml.writeEmptyElement("line");
@@ -161,15 +138,15 @@ void Scrivi(Svg& svg, const Scritta& scritta, std::size_t colore) {
     Colora(svg, "stroke", colore);
     return;
   }
-  const double corpo = scritta.altezza * f.scala / kMaiuscola * f.pixel;
+  const double corpo = scritta.altezza / kMaiuscola * svg.pixel;
   const double disteso = corpo * kAvanzamento * quanti;
-  QString posa = "translate(" + Posto(f, angoli[0]) + ')';
+  QString posa = "translate(" + Coppia(svg, angoli[0]) + ')';
   if (scritta.angolo != 0) posa += " rotate(" + Numero(-scritta.angolo, 1) + ')';
-  posa += " scale(" + Misura(largo * f.scala / disteso) + ' ' + Misura(1 / f.pixel) + ')';
+  posa += " scale(" + SeiCifre(largo / disteso) + ' ' + SeiCifre(1 / svg.pixel) + ')';
   svg.xml.writeStartElement("text");
   svg.xml.writeAttribute("transform", posa);
-  svg.xml.writeAttribute("font-size", Misura(corpo));
-  svg.xml.writeAttribute("textLength", Misura(disteso));
+  svg.xml.writeAttribute("font-size", SeiCifre(corpo));
+  svg.xml.writeAttribute("textLength", SeiCifre(disteso));
   svg.xml.writeAttribute("lengthAdjust", "spacingAndGlyphs");
   svg.xml.writeAttribute("xml:space", "preserve");
   ColoraSeSuo(svg, "fill", colore);
@@ -177,51 +154,51 @@ void Scrivi(Svg& svg, const Scritta& scritta, std::size_t colore) {
   svg.xml.writeEndElement();
 }
 
-struct Segno {
+struct Elemento {
   std::size_t colore;
-  std::variant<const Linea*, const Arco*, const Punto*, const Scritta*> elemento;
+  std::variant<const Linea*, const Arco*, const Punto*, const Scritta*> quale;
 };
 
-struct Gruppo {
+struct Strato {
   const char* nome;
-  const char *tinta, *senza;  // what its elements are coloured by, what they lack
-  std::vector<Segno> segni;
+  const char *tinta, *senza;  // the attribute that colours its elements, and the one that is "none"
+  std::vector<Elemento> elementi;
 };
 
-// One over the other, as on the screen.
-std::array<Gruppo, 4> Raggruppa(const Disegno& disegno) {
-  std::array<Gruppo, 4> gruppi = {{{"quote", "stroke", "fill", {}},
+// The layers from the lowest to the topmost, as on the screen.
+std::array<Strato, 4> Stratifica(const Disegno& disegno) {
+  std::array<Strato, 4> strati = {{{"quote", "stroke", "fill", {}},
                                    {"contorno", "stroke", "fill", {}},
                                    {"valori", "fill", "stroke", {}},
                                    {"testi", "fill", "stroke", {}}}};
-  auto &quote = gruppi[0].segni, &contorno = gruppi[1].segni;
-  auto &valori = gruppi[2].segni, &testi = gruppi[3].segni;
-  const auto segni = [&](Livello l) -> auto& {
+  auto &quote = strati[0].elementi, &contorno = strati[1].elementi;
+  auto &valori = strati[2].elementi, &testi = strati[3].elementi;
+  const auto elementi = [&](Livello l) -> auto& {
     return l == Livello::Contorno ? contorno : quote;
   };
   const auto livelli = LivelliLinee(disegno);
   for (std::size_t i = 0; i < livelli.size(); ++i)
-    segni(livelli[i]).push_back({IndiceColore(disegno.linee[i].colore), &disegno.linee[i]});
+    elementi(livelli[i]).push_back({IndiceColore(disegno.linee[i].colore), &disegno.linee[i]});
   for (const Arco& arco : disegno.archi)
-    segni(LivelloArco(disegno, arco)).push_back({IndiceColore(arco.colore), &arco});
+    elementi(LivelloArco(disegno, arco)).push_back({IndiceColore(arco.colore), &arco});
   for (const Punto& punto : disegno.punti) contorno.push_back({tarvel::disegno::kBianco, &punto});
   for (const Scritta& s : disegno.scritte)
     if (!s.testo.empty())
       (LivelloScritta(s) == Livello::Quote ? valori : testi).push_back({IndiceColore(s.colore), &s});
-  return gruppi;
+  return strati;
 }
 
-void Scrivi(Svg& svg, const Gruppo& gruppo) {
-  if (gruppo.segni.empty()) return;
+void Scrivi(Svg& svg, const Strato& strato) {
+  if (strato.elementi.empty()) return;
   std::array<int, kColori.size()> quanti{};
-  for (const Segno& segno : gruppo.segni) ++quanti[segno.colore];
+  for (const Elemento& elemento : strato.elementi) ++quanti[elemento.colore];
   svg.comune = static_cast<std::size_t>(std::max_element(quanti.begin(), quanti.end()) - quanti.begin());
   svg.xml.writeStartElement("g");
-  svg.xml.writeAttribute("id", gruppo.nome);
-  Colora(svg, gruppo.tinta, svg.comune);
-  svg.xml.writeAttribute(gruppo.senza, "none");
-  for (const Segno& segno : gruppo.segni)
-    std::visit([&](const auto* elemento) { Scrivi(svg, *elemento, segno.colore); }, segno.elemento);
+  svg.xml.writeAttribute("id", strato.nome);
+  Colora(svg, strato.tinta, svg.comune);
+  svg.xml.writeAttribute(strato.senza, "none");
+  for (const Elemento& elemento : strato.elementi)
+    std::visit([&](const auto* quale) { Scrivi(svg, *quale, elemento.colore); }, elemento.quale);
   svg.xml.writeEndElement();
 }
 
@@ -229,20 +206,22 @@ void Scrivi(Svg& svg, const Gruppo& gruppo) {
 
 QByteArray ScriviSvg(const Disegno& disegno) {
   QByteArray byte;
-  Svg svg{QXmlStreamWriter(&byte), disegno, Misurato(disegno)};
+  const Riquadro pagina = ConMargine(Ingombro(disegno));
+  const double lungo = std::max(pagina.Larghezza(), pagina.Altezza());
+  Svg svg{QXmlStreamWriter(&byte), disegno, lungo / kPenne, PotenzaDiDieci(lungo, kFinezza),
+          PotenzaDiDieci(lungo, kMinimiPixel)};
   QXmlStreamWriter& xml = svg.xml;
-  const Foglio& f = svg.foglio;
-  const Coordinata angolo{f.pagina.x0, f.pagina.y1};
-  const QString larghezza = Lungo(f, f.pagina.Larghezza()), altezza = Lungo(f, f.pagina.Altezza());
+  const Coordinata angolo{pagina.x0, pagina.y1};
+  const QString larghezza = Lungo(svg, pagina.Larghezza()), altezza = Lungo(svg, pagina.Altezza());
   xml.setAutoFormatting(true);
   xml.setAutoFormattingIndent(0);
   xml.writeStartDocument();
   xml.writeStartElement("svg");
   xml.writeDefaultNamespace("http://www.w3.org/2000/svg");
-  xml.writeAttribute("width", Misura(f.pagina.Larghezza() * f.scala * f.pixel));
-  xml.writeAttribute("height", Misura(f.pagina.Altezza() * f.scala * f.pixel));
-  xml.writeAttribute("viewBox", Posto(f, angolo) + ' ' + larghezza + ' ' + altezza);
-  xml.writeAttribute("stroke-width", Lungo(f, f.penna));
+  xml.writeAttribute("width", SeiCifre(pagina.Larghezza() * svg.pixel));
+  xml.writeAttribute("height", SeiCifre(pagina.Altezza() * svg.pixel));
+  xml.writeAttribute("viewBox", Coppia(svg, angolo) + ' ' + larghezza + ' ' + altezza);
+  xml.writeAttribute("stroke-width", Lungo(svg, svg.penna));
   xml.writeAttribute("font-family", kCarattere);
   if (!disegno.titolo.empty())
     xml.writeTextElement("title", QString::fromStdString(tarvel::InUtf8(disegno.titolo)));
@@ -251,7 +230,7 @@ QByteArray ScriviSvg(const Disegno& disegno) {
   xml.writeAttribute("width", larghezza);
   xml.writeAttribute("height", altezza);
   xml.writeAttribute("fill", "#ffffff");
-  for (const Gruppo& gruppo : Raggruppa(disegno)) Scrivi(svg, gruppo);
+  for (const Strato& strato : Stratifica(disegno)) Scrivi(svg, strato);
   xml.writeEndDocument();
   return byte;
 }

@@ -1,10 +1,9 @@
-// Line types are the standard ones, so that a program draws them by its own patterns or by these alike.
+// The line types are the standard ones: a program draws the same with its own patterns and with these.
 #include "viewer/esporta/tabelle_dxf.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -13,20 +12,17 @@
 namespace ostrel {
 namespace {
 
-// A dash of the standard line types is this part of the drawing's diagonal.
+// The length of a dash, as a part of the drawing's diagonal.
 constexpr double kTratto = 0.01;
 constexpr double kTrattoUnificato = kTipiLinea[1].unificate[0];
-// Of the first view; a window that is wider shows the whole drawing as well.
+// Width to height of the first view; a wider window also shows the whole drawing.
 constexpr double kFormaVista = 4.0 / 3;
 
-// Of a layer without elements.
-constexpr AspettiLivelli kAspetti = {{{1, 0}, {7, 0}, {6, 0}}};
+// $INSUNITS, in the order of Unita.
+constexpr std::array<int, kUnita.size()> kUnitaDxf = {0, 4, 5, 6};
 
-// A measure of the view, which need not be exact but has to be a number above 0.
-void GruppoVista(Dxf& dxf, int codice, double valore) {
-  using Limiti = std::numeric_limits<double>;
-  GruppoReale(dxf, codice, std::clamp(valore * dxf.unita, Limiti::min(), Limiti::max()));
-}
+// How a layer without elements looks.
+constexpr AspettiLivelli kAspetti = {{{1, 0}, {7, 0}, {6, 0}}};
 
 void ScriviTestata(Dxf& dxf, const Riquadro& tutto, const Riquadro& vista, Unita unita) {
   Gruppo(dxf, 0, "SECTION");
@@ -36,12 +32,12 @@ void ScriviTestata(Dxf& dxf, const Riquadro& tutto, const Riquadro& vista, Unita
   Gruppo(dxf, 9, "$DWGCODEPAGE");
   Gruppo(dxf, 3, "ANSI_1252");
   Gruppo(dxf, 9, "$INSUNITS");
-  GruppoIntero(dxf, 70, Voce(unita).dxf);
-  // Line types by the metric standard, whatever the unit.
+  GruppoIntero(dxf, 70, kUnitaDxf[static_cast<std::size_t>(unita)]);
+  // 1: the lengths of line types are in millimetres, whatever the unit.
   Gruppo(dxf, 9, "$MEASUREMENT");
   GruppoIntero(dxf, 70, 1);
   Gruppo(dxf, 9, "$LTSCALE");
-  GruppoVista(dxf, 40, std::hypot(vista.Larghezza(), vista.Altezza()) * kTratto / kTrattoUnificato);
+  GruppoReale(dxf, 40, std::hypot(vista.Larghezza(), vista.Altezza()) * kTratto / kTrattoUnificato);
   if (!tutto.Vuoto()) {
     Gruppo(dxf, 9, "$EXTMIN");
     GruppoPunto(dxf, 10, tutto.x0, tutto.y0);
@@ -63,9 +59,10 @@ void VoceTabella(Dxf& dxf, const char* genere, const char* nome) {
   GruppoIntero(dxf, 70, 0);
 }
 
-// Plan view of the whole drawing: group codes with their usual values, but for centre, target and height.
-// The centre counts from the target. LibreCAD knows no target and puts the origin twice as far from the
-// view's lower left corner as this centre says: the one below is right for it, and with the target for all.
+// Writes a plan view of the whole drawing; the group codes have their usual values, but for centre, target
+// and height. The centre counts from the target. LibreCAD ignores the target and puts the origin twice as far
+// from the view's lower left corner as the centre says. The centre chosen here is right for LibreCAD, and
+// together with the target for the others.
 void ScriviVista(Dxf& dxf, const Riquadro& vista) {
   constexpr std::array<std::pair<int, int>, 26> kConsuete = {
       {{10, 0}, {20, 0},    {11, 1}, {21, 1}, {13, 0},  {23, 0}, {14, 1}, {24, 1}, {15, 0},
@@ -77,10 +74,10 @@ void ScriviVista(Dxf& dxf, const Riquadro& vista) {
   IniziaTabella(dxf, "VPORT", 1);
   VoceTabella(dxf, "VPORT", "*ACTIVE");
   for (const auto& [codice, valore] : kConsuete) GruppoIntero(dxf, codice, valore);
-  GruppoLunghezza(dxf, 12, centro.x);
-  GruppoLunghezza(dxf, 22, centro.y);
+  GruppoReale(dxf, 12, centro.x);
+  GruppoReale(dxf, 22, centro.y);
   GruppoPunto(dxf, 17, mezzo.x - centro.x, mezzo.y - centro.y);
-  GruppoVista(dxf, 40, alta);
+  GruppoReale(dxf, 40, alta);
   GruppoReale(dxf, 41, kFormaVista);
   Gruppo(dxf, 0, "ENDTAB");
 }
@@ -104,9 +101,9 @@ void ScriviTabelle(Dxf& dxf, const Riquadro& vista) {
   Gruppo(dxf, 2, "TABLES");
   ScriviVista(dxf, vista);
   ScriviTipiLinea(dxf);
-  IniziaTabella(dxf, "LAYER", kNomiLivelli.size());
-  for (std::size_t i = 0; i < kNomiLivelli.size(); ++i) {
-    VoceTabella(dxf, "LAYER", kNomiLivelli[i]);
+  IniziaTabella(dxf, "LAYER", kLivelliDxf.size());
+  for (std::size_t i = 0; i < kLivelliDxf.size(); ++i) {
+    VoceTabella(dxf, "LAYER", kLivelliDxf[i]);
     GruppoIntero(dxf, 62, dxf.livelli[i].colore);
     Gruppo(dxf, 6, kTipiLinea[dxf.livelli[i].tipo].nome);
   }
@@ -126,8 +123,8 @@ Aspetto AspettoLinea(const Linea& linea) {
 
 AspettiLivelli AspettiComuni(const Disegno& disegno, const std::vector<Livello>& linee) {
   constexpr int kColoriPossibili = 256;
-  std::array<std::array<int, kColoriPossibili>, kNomiLivelli.size()> colori{};
-  std::array<std::array<int, kTipiLinea.size()>, kNomiLivelli.size()> tipi{};
+  std::array<std::array<int, kColoriPossibili>, kLivelliDxf.size()> colori{};
+  std::array<std::array<int, kTipiLinea.size()>, kLivelliDxf.size()> tipi{};
   const auto conta = [&](Livello livello, int colore) {
     ++colori[static_cast<std::size_t>(livello)][static_cast<std::size_t>(ColoreDxf(colore))];
   };
@@ -154,7 +151,7 @@ AspettiLivelli AspettiComuni(const Disegno& disegno, const std::vector<Livello>&
 }
 
 void ScriviTesta(Dxf& dxf, const Riquadro& tutto, Unita unita) {
-  const Riquadro vista = Pagina(tutto);
+  const Riquadro vista = ConMargine(tutto);
   ScriviTestata(dxf, tutto, vista, unita);
   ScriviTabelle(dxf, vista);
 }

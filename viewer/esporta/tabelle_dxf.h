@@ -1,5 +1,5 @@
-// The head of a DXF file, in the R12 form: what the drawing is measured in, its first view, its line types
-// and layers.
+// Writes the head of a DXF file in the R12 form: the drawing's unit, its first view, its line types and
+// layers.
 #pragma once
 
 #include <vector>
@@ -19,10 +19,11 @@ inline constexpr int kColorePunti = tarvel::disegno::kBianco;
 int ColoreDxf(int colore);
 Aspetto AspettoLinea(const Linea& linea);
 
-/// The colour and the line type that most of each layer's elements have; `linee`: the layer of each line.
+/// For each layer the colour and the line type that most of its elements have; `linee` is the layer of each
+/// line.
 AspettiLivelli AspettiComuni(const Disegno& disegno, const std::vector<Livello>& linee);
 
-/// The sections before the elements; `tutto`: what the drawing takes up.
+/// Writes the sections before the elements; `tutto` is what the drawing takes up.
 void ScriviTesta(Dxf& dxf, const Riquadro& tutto, Unita unita);
 
 }  // namespace ostrel

@@ -1,4 +1,4 @@
-// The commands are read from the menus: what is said is what there is.
+// The list of commands is read from the menus, so that it cannot differ from them.
 #include "viewer/finestra/aiuto.h"
 
 #include <QApplication>
@@ -10,16 +10,17 @@
 #include <QMessageBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
-#include <array>
 
 namespace ostrel {
 namespace {
 
-struct Gesto {
-  const char *mano, *effetto;
+// A row without an effect is the title of those that follow.
+struct RigaTasti {
+  QString tasti, effetto = {};
 };
 
-constexpr std::array kGesti = std::to_array<Gesto>({
+const QList<RigaTasti> kSulDisegno = {
+    {"Sul disegno"},
     {"Rotella", "Ingrandisce o riduce attorno al puntatore"},
     {"Trascinare con il tasto sinistro o centrale", "Sposta il disegno"},
     {"Shift e trascinare con il sinistro", "Ingrandisce il rettangolo"},
@@ -30,14 +31,14 @@ constexpr std::array kGesti = std::to_array<Gesto>({
     {"Esc", "Lascia lo strumento in uso; toglie l'avviso"},
     {"1, 2, 3", "Quello che è nascosto non va né sulla carta né nei file esportati"},
     {"Trascinare un file sulla finestra", "Lo apre; di più file, il primo"},
-});
+};
 
 QString SenzaMnemonico(const QString& testo) {
   return testo.section('\t', 0, 0).remove('&');
 }
 
-// An arrow's key stands in the text of its entry. Not every keyboard shows Home as the toolkit's Italian
-// does.
+// The arrows' keys are in the texts of their entries. The toolkit's Italian shows Home as a sign that not
+// every keyboard bears.
 QString Tasti(const QAction& azione) {
   QStringList tasti;
   for (const QKeySequence& sequenza : azione.shortcuts())
@@ -46,43 +47,40 @@ QString Tasti(const QAction& azione) {
   return tasti.join("   ").replace("↖", "Home (↖)");
 }
 
-class Tavola : public QTableWidget {
- public:
-  explicit Tavola(QWidget* padre) : QTableWidget(0, 2, padre) {
-    setHorizontalHeaderLabels({"Tasti", "Che cosa fanno"});
-    verticalHeader()->hide();
-    setEditTriggers(NoEditTriggers);
-    setSelectionBehavior(SelectRows);
-    setShowGrid(false);
-    setAlternatingRowColors(true);
+// An entry of a submenu is listed after the submenu's name. An entry without an object name is a recent file.
+void Elenca(const QMenu& menu, const QString& prima, QList<RigaTasti>& righe) {
+  for (const QAction* voce : menu.actions()) {
+    if (voce->isSeparator()) continue;
+    const QString testo = prima + SenzaMnemonico(voce->text());
+    if (voce->menu() != nullptr)
+      Elenca(*voce->menu(), testo + ": ", righe);
+    else if (!voce->objectName().isEmpty())
+      righe << RigaTasti{Tasti(*voce), testo};
   }
+}
 
-  void Titolo(const QString& testo) {
-    Riga(testo, {});
-    auto* const titolo = item(rowCount() - 1, 0);
-    QFont grassetto = font();
-    grassetto.setBold(true);
-    titolo->setFont(grassetto);
-    setSpan(rowCount() - 1, 0, 1, 2);
+QTableWidget* TabellaTasti(const QList<RigaTasti>& righe, QWidget* padre) {
+  auto* const tabella = new QTableWidget(static_cast<int>(righe.size()), 2, padre);
+  tabella->setHorizontalHeaderLabels({"Tasti", "Che cosa fanno"});
+  tabella->verticalHeader()->hide();
+  tabella->setEditTriggers(QTableWidget::NoEditTriggers);
+  tabella->setSelectionBehavior(QTableWidget::SelectRows);
+  tabella->setShowGrid(false);
+  tabella->setAlternatingRowColors(true);
+  QFont grassetto = tabella->font();
+  grassetto.setBold(true);
+  for (int i = 0; i < tabella->rowCount(); ++i) {
+    tabella->setItem(i, 0, new QTableWidgetItem(righe[i].tasti));
+    tabella->setItem(i, 1, new QTableWidgetItem(righe[i].effetto));
+    if (!righe[i].effetto.isEmpty()) continue;
+    tabella->item(i, 0)->setFont(grassetto);
+    tabella->setSpan(i, 0, 1, 2);
   }
-
-  void Riga(const QString& tasti, const QString& effetto) {
-    const int riga = rowCount();
-    insertRow(riga);
-    setItem(riga, 0, new QTableWidgetItem(tasti));
-    setItem(riga, 1, new QTableWidgetItem(effetto));
-  }
-
-  // An entry of a submenu follows the submenu's name; one that has none of its own is no command but a file.
-  void Voci(const QMenu& menu, const QString& prima) {
-    for (const QAction* azione : menu.actions()) {
-      if (azione->isSeparator()) continue;
-      const QString testo = prima + SenzaMnemonico(azione->text());
-      if (azione->menu() == nullptr && !azione->objectName().isEmpty()) Riga(Tasti(*azione), testo);
-      if (azione->menu() != nullptr) Voci(*azione->menu(), testo + ": ");
-    }
-  }
-};
+  tabella->resizeColumnsToContents();
+  tabella->resizeRowsToContents();
+  tabella->horizontalHeader()->setStretchLastSection(true);
+  return tabella;
+}
 
 }  // namespace
 
@@ -91,22 +89,18 @@ void MostraTasti(QWidget* padre, const QMenuBar& menu) {
   finestra->setObjectName("tasti");
   finestra->setAttribute(Qt::WA_DeleteOnClose);
   finestra->setWindowTitle("Tasti e comandi");
-  auto* const tavola = new Tavola(finestra);
+  QList<RigaTasti> righe;
   for (const QAction* voce : menu.actions()) {
-    tavola->Titolo("Menu " + SenzaMnemonico(voce->text()));
-    tavola->Voci(*voce->menu(), {});
+    righe << RigaTasti{"Menu " + SenzaMnemonico(voce->text())};
+    Elenca(*voce->menu(), {}, righe);
   }
-  tavola->Titolo("Sul disegno");
-  for (const Gesto& gesto : kGesti) tavola->Riga(gesto.mano, gesto.effetto);
-  tavola->resizeColumnsToContents();
-  tavola->resizeRowsToContents();
-  tavola->horizontalHeader()->setStretchLastSection(true);
+  auto* const tabella = TabellaTasti(righe + kSulDisegno, finestra);
   auto* const pulsanti = new QDialogButtonBox(QDialogButtonBox::Close, finestra);
   QObject::connect(pulsanti, &QDialogButtonBox::rejected, finestra, &QDialog::close);
   auto* const posto = new QVBoxLayout(finestra);
-  posto->addWidget(tavola);
+  posto->addWidget(tabella);
   posto->addWidget(pulsanti);
-  finestra->resize(tavola->horizontalHeader()->length() + 60, 640);
+  finestra->resize(tabella->horizontalHeader()->length() + 60, 640);
   finestra->show();
 }
 

@@ -1,4 +1,4 @@
-// What the window can do, said in windows of their own, which leave it free to be used meanwhile.
+// The windows that say what the viewer can do; they stay open while it is used.
 #pragma once
 
 class QMenuBar;
@@ -6,7 +6,7 @@ class QWidget;
 
 namespace ostrel {
 
-/// Every command of the menus with its keys, then what mouse and keys do on the drawing.
+/// Lists every command of the menus with its keys, then what mouse and keys do on the drawing.
 void MostraTasti(QWidget* padre, const QMenuBar& menu);
 
 void MostraInformazioni(QWidget* padre);

@@ -1,4 +1,4 @@
-// The sheet as it will come out, seen whole.
+// Shows the whole sheet as it will be printed.
 #pragma once
 
 #include <QWidget>
@@ -11,7 +11,7 @@ class AnteprimaFoglio : public QWidget {
   Q_OBJECT
 
  public:
-  /// The drawing is the caller's and outlives the widget.
+  /// The caller keeps the drawing as long as the widget lives.
   AnteprimaFoglio(const Disegno& disegno, const Origine& origine, QWidget* genitore);
 
   void Mostra(const Resa& resa);

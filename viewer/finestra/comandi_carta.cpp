@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -17,7 +16,6 @@
 #include "viewer/disegno/misure.h"
 #include "viewer/esporta/esporta.h"
 #include "viewer/finestra/dialogo_carta.h"
-#include "viewer/finestra/preferenze.h"
 
 namespace ostrel {
 namespace {
@@ -37,7 +35,7 @@ bool Sostituire(const QString& percorso, QWidget* finestra) {
   return domanda.clickedButton() == si;
 }
 
-// A file of one of the kinds `finali`, its ending among them; empty: the user has thought better of it.
+// Asks for a file with one of the endings `finali`; empty where the user takes the order back.
 QString ScegliUscita(const QString& titolo, const FileDisegno& da, const QStringList& finali,
                      const QString& genere, QWidget* finestra) {
   QStringList filtri;
@@ -48,10 +46,10 @@ QString ScegliUscita(const QString& titolo, const FileDisegno& da, const QString
   dialogo.setNameFilters(filtri);
   const auto primo = scelto(finali.indexOf(genere));
   dialogo.selectNameFilter(filtri[primo]);
-  // With its ending: with another kind the toolkit puts the new ending in the place of what follows the last
+  // The name has its ending: when the user chooses another kind, the toolkit replaces what follows the last
   // dot.
   dialogo.selectFile(da.proposto + '.' + finali[primo]);
-  // Asked here, about the name with its ending.
+  // The toolkit would ask about the name before it has its ending.
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {
     QString uscita = ConFinale(dialogo.selectedFiles().front(), finali,
@@ -61,20 +59,8 @@ QString ScegliUscita(const QString& titolo, const FileDisegno& da, const QString
   return {};
 }
 
-std::optional<Unita> ChiediUnita(Unita unita, QWidget* finestra) {
-  QInputDialog dialogo(finestra);
-  dialogo.setWindowTitle("Esporta in DXF");
-  dialogo.setLabelText("In che unità è il disegno? Gli altri programmi la leggono nel file DXF.");
-  dialogo.setComboBoxItems(NomiUnita());
-  dialogo.setTextValue(NomiUnita()[static_cast<int>(unita)]);
-  dialogo.setOkButtonText("&Esporta");
-  dialogo.setCancelButtonText("&Annulla");
-  if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
-  return static_cast<Unita>(NomiUnita().indexOf(dialogo.textValue()));
-}
-
-// One by one: all at once a printer refuses for a single figure it does not like. Its own least margins,
-// where they are wider than the sheet's.
+// Sets size, orientation and margins one by one: set together, a printer refuses all for one that it does not
+// accept. Where the printer's least margins are wider than the sheet's, they are kept.
 void Prepara(QPrinter& stampante, const QPageSize& foglio, QPageLayout::Orientation verso) {
   stampante.setPageSize(foglio);
   stampante.setPageOrientation(verso);
@@ -87,15 +73,15 @@ void Prepara(QPrinter& stampante, const QPageSize& foglio, QPageLayout::Orientat
                            QPageLayout::Millimeter);
 }
 
-// A sheet that a printer does not know it takes all the same, and then prints it smaller.
+// A printer accepts a sheet that it does not have, and then prints smaller: so the sheet is looked for first.
 bool HaFoglio(const QPrinter& stampante, const QPageSize& foglio) {
   const QList<QPageSize> suoi = QPrinterInfo(stampante).supportedPageSizes();
   return !stampante.outputFileName().isEmpty() || suoi.isEmpty() ||
          std::any_of(suoi.begin(), suoi.end(), [&](const QPageSize& s) { return s.isEquivalentTo(foglio); });
 }
 
-// The dialog of some systems begins with the printer's usual paper, whatever was asked for: which one the
-// user means only he can say. Nothing: neither.
+// The print dialog of some systems begins with the printer's usual paper, whatever was asked for. The user
+// says which of the two sheets he means; nothing where he takes the order back.
 std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPrinter& stampante,
                                       QWidget* finestra) {
   const QPageSize impostato = stampante.pageLayout().pageSize();
@@ -116,7 +102,7 @@ std::optional<QPageSize> ScegliFoglio(const QPageSize& chiesto, const QPrinter& 
   return std::nullopt;
 }
 
-// Whether what comes out of the printer as the user has set it is what he wants; the scale may change.
+// Asks the user whether he wants a drawing that does not fit the printer's page; he may change the scale.
 bool VaBene(const Disegno& disegno, Resa& resa, const QPrinter& stampante, QWidget* finestra) {
   const auto obiezione = Esamina(disegno, resa, stampante.pageLayout());
   if (!obiezione) return true;
@@ -150,8 +136,8 @@ Esito MandaInStampa(const Disegno& disegno, Resa resa, const Origine& origine, Q
   const auto foglio = ScegliFoglio(pagina.pageSize(), stampante, finestra);
   if (!foglio) return {};
   Prepara(stampante, *foglio, stampante.pageLayout().orientation());
-  // What was well on the sheet of before may not be on that of the printer; a cut already agreed to is not
-  // asked about again.
+  // The drawing that fitted the sheet asked for may not fit the printer's. A user who has agreed to a cut is
+  // not asked again.
   if (!Esamina(disegno, resa, pagina) && !VaBene(disegno, resa, stampante, finestra)) return {};
   const bool riuscita = Stampa(disegno, resa, origine, stampante);
   const QString file = QDir::toNativeSeparators(stampante.outputFileName());
@@ -186,31 +172,36 @@ FileDisegno FileAnteprima(const Disegno& disegno, const QString& percorso) {
   return nome.isEmpty() ? FileDi(percorso) : FileDisegno{percorso, nome};
 }
 
-Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* finestra) {
+Esito EsportaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("esportare");
   const Origine origine{da.percorso};
-  SceltaResa scelta = ResaRicordata();
   const QString uscita = ScegliUscita("Esporta disegno", da, FinaliEsportazione(), scelta.genere, finestra);
   if (uscita.isEmpty()) return {};
   scelta.genere = FinaleDi(uscita);
-  if (scelta.genere == kPdf) {
+  const bool pdf = scelta.genere == kPdf, dxf = scelta.genere == "dxf";
+  if (pdf) {
     DialogoCarta dialogo(disegno, origine, scelta.resa, {"Esporta in PDF", "&Esporta", {}}, finestra);
     if (dialogo.exec() != QDialog::Accepted) return {};
     scelta.resa = dialogo.Scelta();
-  } else if (scelta.genere == "dxf") {
-    const auto unita = ChiediUnita(scelta.resa.unita, finestra);
+  } else if (dxf) {
+    const auto unita =
+        ChiediUnita(scelta.resa.unita,
+                    {"Esporta in DXF", "&Esporta",
+                     "In che unità è il disegno? Gli altri programmi la leggono nel file DXF."},
+                    finestra);
     if (!unita) return {};
     scelta.resa.unita = *unita;
   }
-  RicordaResa(scelta);
-  return EsportaIn(uscita, disegno, scelta.resa, origine);
+  Esito esito = EsportaIn(uscita, disegno, scelta.resa, origine);
+  esito.scelta = scelta;
+  esito.unitaDetta = pdf || dxf;
+  return esito;
 }
 
-Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* finestra) {
+Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, SceltaResa scelta, QWidget* finestra) {
   if (Ingombro(disegno).Vuoto()) return NienteDa("stampare");
   const Origine origine{da.percorso};
   const bool senza = QPrinterInfo::availablePrinterNames().isEmpty();
-  SceltaResa scelta = ResaRicordata();
   DialogoCarta dialogo(
       disegno, origine, scelta.resa,
       {"Stampa", senza ? "&Stampa in PDF..." : "&Stampa...",
@@ -218,10 +209,15 @@ Esito StampaDaFinestra(const Disegno& disegno, const FileDisegno& da, QWidget* f
       finestra);
   if (dialogo.exec() != QDialog::Accepted) return {};
   scelta.resa = dialogo.Scelta();
-  RicordaResa(scelta);
-  if (!senza) return MandaInStampa(disegno, scelta.resa, origine, finestra);
-  const QString uscita = ScegliUscita("Stampa in PDF", da, {kPdf}, kPdf, finestra);
-  return uscita.isEmpty() ? Esito{} : EsportaIn(uscita, disegno, scelta.resa, origine);
+  Esito esito;
+  if (!senza)
+    esito = MandaInStampa(disegno, scelta.resa, origine, finestra);
+  else if (const QString uscita = ScegliUscita("Stampa in PDF", da, {kPdf}, kPdf, finestra);
+           !uscita.isEmpty())
+    esito = EsportaIn(uscita, disegno, scelta.resa, origine);
+  esito.scelta = scelta;
+  esito.unitaDetta = true;
+  return esito;
 }
 
 }  // namespace ostrel

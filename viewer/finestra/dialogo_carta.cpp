@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -32,6 +33,18 @@ QStringList Scale() {
 
 QStringList NomiUnita() {
   return {"non detta", "millimetri (mm)", "centimetri (cm)", "metri (m)"};
+}
+
+std::optional<Unita> ChiediUnita(Unita proposta, const TestiDialogo& testi, QWidget* genitore) {
+  QInputDialog dialogo(genitore);
+  dialogo.setWindowTitle(testi.titolo);
+  dialogo.setLabelText(testi.avvertenza);
+  dialogo.setComboBoxItems(NomiUnita());
+  dialogo.setTextValue(NomiUnita()[static_cast<int>(proposta)]);
+  dialogo.setOkButtonText(testi.fai);
+  dialogo.setCancelButtonText("&Annulla");
+  if (dialogo.exec() != QDialog::Accepted) return std::nullopt;
+  return static_cast<Unita>(NomiUnita().indexOf(dialogo.textValue()));
 }
 
 Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione) {

@@ -1,4 +1,4 @@
-// How a drawing is to come out on paper: unit, scale, sheet, with the sheet before the eyes.
+// The dialog that asks for unit, scale and sheet, and shows the sheet as it will be; the questions beside it.
 #pragma once
 
 #include <QDialog>
@@ -17,28 +17,31 @@ class AnteprimaFoglio;
 /// The units as a list offers them, in the order of Unita.
 QStringList NomiUnita();
 
-/// Whether to go on although the drawing does not fit: asked with what is wrong and the scale that would do.
-enum class Risposta { Annulla, Comunque, AltraScala };
-Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione);
-
-/// What the dialog says about itself.
+/// What a dialog says about itself.
 struct TestiDialogo {
   QString titolo;
   QString fai;         // on the button that goes on
   QString avvertenza;  // empty: none
 };
 
+/// Asks for the unit of a drawing; nothing where the user takes the order back.
+std::optional<Unita> ChiediUnita(Unita proposta, const TestiDialogo& testi, QWidget* genitore);
+
+/// Asks whether to go on although the drawing does not fit; offers the scale at which it would.
+enum class Risposta { Annulla, Comunque, AltraScala };
+Risposta ChiediComunque(QWidget* genitore, const Obiezione& obiezione);
+
 class DialogoCarta : public QDialog {
   Q_OBJECT
 
  public:
-  /// The drawing is the caller's and outlives the dialog.
+  /// The caller keeps the drawing as long as the dialog lives.
   DialogoCarta(const Disegno& disegno, const Origine& origine, const Resa& resa, const TestiDialogo& testi,
                QWidget* genitore);
 
-  /// What is chosen; a scale that cannot be read is as if none were asked for.
+  /// What is chosen; a scale that cannot be read counts as "adatta".
   Resa Scelta() const;
-  /// Goes on only with a scale that can be read, and with what does not fit only if the user says so.
+  /// Closes the dialog only with a scale that can be read, and asks about a drawing that does not fit.
   void accept() override;
 
  private:

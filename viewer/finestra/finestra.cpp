@@ -1,4 +1,4 @@
-// Opening, reading and watching the drawing's file; what is said about it.
+// What the window shows and says of its document, and its commands that ask for files.
 #include "viewer/finestra/finestra.h"
 
 #include <QDir>
@@ -14,9 +14,6 @@
 #include <cmath>
 
 #include "viewer/carta/cartiglio.h"
-#include "viewer/disegno/caricamento.h"
-#include "viewer/finestra/comandi_carta.h"
-#include "viewer/finestra/recenti.h"
 #include "viewer/tela/tela.h"
 
 namespace ostrel {
@@ -24,11 +21,10 @@ namespace {
 
 constexpr std::array kNomiLivelli = {"contorno", "quote", "testi"};
 
-// Hundredths as far as they can be read at a glance; a nothing has no sign.
+// With two decimals; what rounds to zero has no sign.
 QString Lunghezza(double v) {
-  constexpr double kMassimaDistesa = 1e10, kMezzoCentesimo = 0.005;
-  if (std::fabs(v) < kMezzoCentesimo) v = 0;
-  return std::fabs(v) < kMassimaDistesa ? QString::number(v, 'f', 2) : QString::number(v, 'g', 6);
+  constexpr double kMezzoCentesimo = 0.005;
+  return QString::number(std::fabs(v) < kMezzoCentesimo ? 0 : v, 'f', 2);
 }
 
 QLabel* Riga(const char* nome, const char* fondo, QWidget* padre) {
@@ -44,14 +40,16 @@ QLabel* Riga(const char* nome, const char* fondo, QWidget* padre) {
 
 }  // namespace
 
-Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
+Finestra::Finestra(bool sorveglia, const QString& decimale)
+    : documento_(sorveglia, [this](Caricato letto, bool nuovo) { Ricevi(std::move(letto), nuovo); }),
+      decimale_(decimale) {
   auto* interno = new QWidget(this);
   auto* posto = new QGridLayout(interno);
   posto->setContentsMargins(0, 0, 0, 0);
   avviso_ = Riga("avviso", "#8c1d18", interno);
   conferma_ = Riga("conferma", "#1b5e20", interno);
   tela_ = new Tela(interno);
-  // The notices lie over the drawing, whose place and zoom they must not change.
+  // The notices lie over the drawing, so that its place and zoom do not change with them.
   posto->addWidget(tela_, 0, 0);
   posto->addWidget(avviso_, 0, 0, Qt::AlignTop);
   posto->addWidget(conferma_, 0, 0, Qt::AlignBottom);
@@ -66,43 +64,34 @@ Finestra::Finestra(bool sorveglia) : sorveglia_(sorveglia) {
   statusBar()->addWidget(coordinate_, 1);
   statusBar()->addPermanentWidget(conteggio_);
   connect(tela_, &Tela::Puntato, this, [this](double x, double y) {
-    const double unita = tela_->Mostrato().unita;
-    coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x * unita), Lunghezza(y * unita)));
+    coordinate_->setText(QString("X = %1   Y = %2").arg(Lunghezza(x), Lunghezza(y)).replace('.', decimale_));
   });
-
   connect(tela_, &Tela::Toccata, this, [this] { Conferma({}); });
   setAcceptDrops(true);
 
   CreaMenu();
   Intitola();
-  attesa_.setSingleShot(true);
-  connect(&attesa_, &QTimer::timeout, this, &Finestra::Tenta);
-  // The folder too: a file that is replaced by another one is no longer watched itself.
-  const auto cambiato = [this] {
-    if (QFileInfo::exists(percorso_)) Rileggi();
-  };
-  connect(&sorvegliante_, &QFileSystemWatcher::fileChanged, this, cambiato);
-  connect(&sorvegliante_, &QFileSystemWatcher::directoryChanged, this, cambiato);
 }
 
 void Finestra::Apri(const QString& percorso) {
-  // As the watch reports paths on every host.
-  percorso_ = QDir::fromNativeSeparators(percorso);
-  daAdattare_ = true;
-  if (!anteprima_.isEmpty()) anteprimaLasciata_ = QFileInfo(anteprima_).lastModified();
   Avvisa({});
-  Rileggi();
+  documento_.Apri(percorso);
 }
 
 void Finestra::ApriAnteprima(const QString& percorso) {
-  Apri(percorso);
-  anteprima_ = percorso_;
+  Avvisa({});
+  documento_.ApriAnteprima(percorso);
+}
+
+void Finestra::Ricarica() {
+  Avvisa({});
+  documento_.Ricarica();
 }
 
 void Finestra::ApriRecente(const QString& percorso) {
   Conferma({});
   if (QFileInfo::exists(percorso)) return Apri(percorso);
-  TogliRecente(percorso);
+  Ricorda([&](Preferenze& p) { Dimentica(p, percorso); });
   Avvisa("File " + QDir::toNativeSeparators(percorso) + ": il disegno non esiste più; tolto dai recenti");
 }
 
@@ -110,7 +99,7 @@ void Finestra::dragEnterEvent(QDragEnterEvent* evento) {
   if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
 }
 
-// More than one at a time is a hand's slip: what became of the others is said.
+// The window opens the first of several files, and says so: more than one is a slip of the hand.
 void Finestra::dropEvent(QDropEvent* evento) {
   evento->acceptProposedAction();
   Conferma({});
@@ -131,40 +120,17 @@ void Finestra::keyPressEvent(QKeyEvent* evento) {
     QMainWindow::keyPressEvent(evento);
 }
 
-void Finestra::Ricarica() {
-  if (const QFileInfo altra(anteprima_);
-      percorso_ != anteprima_ && altra.exists() && altra.lastModified() != anteprimaLasciata_)
-    return Apri(anteprima_);
-  Avvisa({});
-  Rileggi();
-}
-
-void Finestra::Rileggi() {
-  tentativi_ = 0;
-  Tenta();
-}
-
-void Finestra::Tenta() {
-  attesa_.stop();
-  if (percorso_.isEmpty()) return;
-  Sorveglia();
-  Caricato esito = Carica(percorso_.toStdString());
-  if (esito.riprova && ++tentativi_ < kTentativi) {
-    attesa_.start(kAttesaMs);
-    return;
-  }
-  if (esito.disegno) {
-    mostrato_ = percorso_;
-    tela_->Mostra(std::move(*esito.disegno), daAdattare_);
-    if (daAdattare_) AggiungiRecente(percorso_);
-    daAdattare_ = false;
+void Finestra::Ricevi(Caricato letto, bool nuovo) {
+  if (letto.disegno) {
+    tela_->Mostra(std::move(*letto.disegno), nuovo);
+    if (nuovo) Ricorda([&](Preferenze& p) { AggiungiRecente(p, documento_.Mostrato()); });
     Intitola();
   }
-  // A reading by itself, as when an export fails beside the drawing, leaves what was said of other things.
-  const QString guasto = QString::fromStdString(esito.messaggio);
+  // A drawing that is sound again takes its own notice away, but no other one, as that of an export that
+  // failed.
+  const QString guasto = QString::fromStdString(letto.messaggio);
   if (!guasto.isEmpty() || avviso_->text() == guasto_) Avvisa(guasto);
   guasto_ = guasto;
-  emit Letto(guasto.isEmpty());
 }
 
 void Finestra::Avvisa(const QString& testo) {
@@ -180,7 +146,7 @@ void Finestra::Conferma(const QString& testo) {
 void Finestra::Intitola() {
   QStringList parti = {Titolo(tela_->Mostrato())};
   parti.removeAll(QString());
-  if (!mostrato_.isEmpty()) parti << QFileInfo(mostrato_).fileName();
+  if (const QString& file = documento_.Mostrato(); !file.isEmpty()) parti << QFileInfo(file).fileName();
   parti << "ostrel";
   setWindowTitle(parti.join(" - "));
   Conta();
@@ -199,40 +165,27 @@ void Finestra::Conta() {
   conteggio_->setText(conteggio);
 }
 
-void Finestra::Sorveglia() {
-  if (!sorveglia_) return;
-  const QString cartella = QFileInfo(percorso_).absolutePath();
-  for (const QString& altra : sorvegliante_.directories() + sorvegliante_.files())
-    if (altra != cartella && altra != percorso_) sorvegliante_.removePath(altra);
-  // What is watched already, or does not exist, is refused quietly.
-  sorvegliante_.addPaths({cartella, percorso_});
-}
-
 void Finestra::ScegliFile() {
-  const QString scelto = QFileDialog::getOpenFileName(this, "Apri disegno", QFileInfo(percorso_).path(),
-                                                      "Disegni (*.dis *.DIS);;Tutti i file (*)");
+  const QString scelto = QFileDialog::getOpenFileName(
+      this, "Apri disegno", QFileInfo(documento_.Aperto()).path(), "Disegni (*.dis *.DIS);;Tutti i file (*)");
   if (!scelto.isEmpty()) Apri(scelto);
 }
 
-// What is hidden goes neither to paper nor into files: the status line says what is. Copies, as the drawing
-// may be read anew while the user is choosing.
-FileDisegno Finestra::FileMostrato() const {
-  const bool anteprima = !anteprima_.isEmpty() && mostrato_ == anteprima_;
-  return anteprima ? FileAnteprima(tela_->Mostrato(), mostrato_) : FileDi(mostrato_);
-}
-
-void Finestra::EsportaFile() {
-  Riferisci(EsportaDaFinestra(Disegno(tela_->Visibile()), FileMostrato(), this));
-}
-
-void Finestra::StampaDisegno() {
-  Riferisci(StampaDaFinestra(Disegno(tela_->Visibile()), FileMostrato(), this));
-}
-
-// An order taken back says nothing, and leaves what was said before. With an order the unit may have been
-// told.
-void Finestra::Riferisci(const Esito& esito) {
-  NominaUnita();
+// The command gets a copy of what can be seen, as the drawing may be read anew while the user is choosing. It
+// proposes the last choices, but the unit of this drawing where it has been said.
+void Finestra::MandaFuori(ComandoCarta comando) {
+  const Disegno visibile = tela_->Visibile();
+  const QString file = documento_.Mostrato();
+  SceltaResa scelta = preferenze_.scelta;
+  scelta.resa.unita = UnitaMostrata().value_or(scelta.resa.unita);
+  const Esito esito = comando(
+      visibile, documento_.MostraAnteprima() ? FileAnteprima(visibile, file) : FileDi(file), scelta, this);
+  if (esito.scelta)
+    Ricorda([&](Preferenze& p) {
+      p.scelta = *esito.scelta;
+      if (esito.unitaDetta) RicordaUnita(p, file, p.scelta.resa.unita);
+    });
+  // An order that the user took back leaves what was said before.
   if (esito.errore.isEmpty() && esito.conferma.isEmpty()) return;
   Avvisa(esito.errore);
   Conferma(esito.conferma);

@@ -1,10 +1,11 @@
 // The window: its menus, the drawing, a notice when it cannot be shown, the line of coordinates.
 #pragma once
 
-#include <QDateTime>
-#include <QFileSystemWatcher>
 #include <QMainWindow>
-#include <QTimer>
+
+#include "viewer/documento/documento.h"
+#include "viewer/documento/preferenze.h"
+#include "viewer/finestra/comandi_carta.h"
 
 class QLabel;
 class QMenu;
@@ -13,36 +14,28 @@ namespace ostrel {
 
 class Tela;
 enum class Strumento;
-struct Esito;
-struct FileDisegno;
 
 class Finestra : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `sorveglia`: the drawing is read again by itself whenever its file changes.
-  explicit Finestra(bool sorveglia);
+  /// `sorveglia`: the drawing is read again by itself whenever its file changes. `decimale`: the sign that
+  /// the user's region writes in numbers.
+  Finestra(bool sorveglia, const QString& decimale);
 
-  /// Makes this file the window's drawing and fits it. A file that cannot be read leaves the
-  /// drawing shown before, with a notice; the next reload tries it again.
+  /// Shows the drawing of this file, fitted. A file that cannot be read leaves the drawing shown before, with
+  /// a notice; the next reload tries it again.
   void Apri(const QString& percorso);
-  /// As Apri; when this drawing has been written anew a reload brings it back, whichever is shown by then:
-  /// the program that started the viewer has no other order to show its next preview.
+  /// As Apri, with a drawing that a reload comes back to (Documento::ApriAnteprima).
   void ApriAnteprima(const QString& percorso);
-  /// As Apri, but a drawing that is no longer there leaves the list of the recent ones, and the window as
-  /// it is.
+  /// As Apri, but takes a file that is no longer there off the list of the recent ones, and says so.
   void ApriRecente(const QString& percorso);
-  /// Reads the file anew: a fitted drawing stays fitted, otherwise zoom and place stay. One still being
-  /// written is waited for.
+  /// Reads the file anew. A fitted drawing stays fitted, otherwise zoom and place stay.
   void Ricarica();
   /// Says in the window what is wrong; an empty text takes the notice away.
   void Avvisa(const QString& testo);
   /// Says what went well; goes away at the user's next action.
   void Conferma(const QString& testo);
-
- signals:
-  /// A reading has come to its end, well or not.
-  void Letto(bool riuscito);
 
  protected:
   void dragEnterEvent(QDragEnterEvent* evento) override;
@@ -57,29 +50,21 @@ class Finestra : public QMainWindow {
   void CreaMenuStrumenti();
   void ElencaRecenti();
   void CopiaTabella();
-  void NominaUnita();
+  void Prendi(Preferenze preferenze);
+  void Ricorda(const std::function<void(Preferenze&)>& cambia);
+  std::optional<Unita> UnitaMostrata() const;
+  bool ChiediUnitaMostrata();
   void Alterna(Strumento strumento);
-  void Rileggi();
-  void Tenta();
+  void Ricevi(Caricato letto, bool nuovo);
   void Intitola();
   void Conta();
-  void Sorveglia();
   void ScegliFile();
-  FileDisegno FileMostrato() const;
-  void EsportaFile();
-  void StampaDisegno();
-  void Riferisci(const Esito& esito);
+  void MandaFuori(ComandoCarta comando);
 
-  QString percorso_;
-  QString anteprima_;
-  QDateTime anteprimaLasciata_;  // as it was written when another drawing was opened
-  QString mostrato_;  // the file of the drawing shown: another one where the last could not be read
-  QString guasto_;    // what the last reading has found
-  bool sorveglia_;
-  bool daAdattare_ = true;
-  int tentativi_ = 0;
-  QFileSystemWatcher sorvegliante_;
-  QTimer attesa_;  // until the next attempt to read a file that is being written
+  Documento documento_;
+  Preferenze preferenze_;
+  QString decimale_;
+  QString guasto_;  // what the last reading found wrong
   Tela* tela_;
   QMenu* recenti_ = nullptr;
   QLabel* avviso_;

@@ -8,7 +8,7 @@
 namespace ostrel {
 namespace {
 
-// Words that the toolkit has moved from one of its classes to another, and its translation has not.
+// The toolkit has moved some words from one class to another; its translation still has them under the first.
 class Spostate : public QTranslator {
  public:
   using QTranslator::QTranslator;

@@ -1,12 +1,12 @@
-// Italian where the toolkit's own translation leaves a gap.
+// Makes the toolkit speak Italian where its own translation leaves a gap.
 #pragma once
 
 class QApplication;
 
 namespace ostrel {
 
-/// Numbers, dates and kinds of files as in Italy, whatever the system speaks; what file dialogs call folders
-/// and drives.
+/// Sets numbers and dates to those of Italy, whatever the system speaks, and translates what file dialogs
+/// call files, folders and drives.
 void ParlaItaliano(QApplication& applicazione);
 
 }  // namespace ostrel

@@ -2,7 +2,8 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
-#include <QLocale>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <array>
@@ -10,22 +11,16 @@
 #include "viewer/finestra/aiuto.h"
 #include "viewer/finestra/dialogo_carta.h"
 #include "viewer/finestra/finestra.h"
-#include "viewer/finestra/preferenze.h"
-#include "viewer/finestra/recenti.h"
 #include "viewer/finestra/tabella.h"
 #include "viewer/tela/tela.h"
 
 namespace ostrel {
 namespace {
 
-constexpr char kFondoChiaro[] = "vista/fondo-chiaro";
-
-using Tasti = QList<QKeySequence>;
-
-// What an entry does takes away what was said before.
+// Every entry takes away what was confirmed before.
 template <class Comando>
-QAction* Voce(Finestra* finestra, QMenu* menu, const char* nome, const QString& testo, const Tasti& tasti,
-              Comando comando) {
+QAction* Voce(Finestra* finestra, QMenu* menu, const char* nome, const QString& testo,
+              const QList<QKeySequence>& tasti, Comando comando) {
   QAction* const azione = menu->addAction(testo);
   azione->setObjectName(nome);
   azione->setShortcuts(tasti);
@@ -40,6 +35,16 @@ QAction* Segnabile(QAction* azione, bool segnata) {
   azione->setCheckable(true);
   azione->setChecked(segnata);
   return azione;
+}
+
+// An entry's place is its key; of a long folder only the end is shown.
+QString VoceRecente(int posto, const QString& percorso) {
+  constexpr int kMassimaCartella = 60;
+  const QFileInfo file(percorso);
+  QString cartella = QDir::toNativeSeparators(file.path());
+  if (cartella.size() > kMassimaCartella) cartella = "…" + cartella.right(kMassimaCartella);
+  QString nome = file.fileName() + " (" + cartella + ")";
+  return QString("&%1  %2").arg(posto).arg(nome.replace('&', "&&"));
 }
 
 }  // namespace
@@ -63,23 +68,25 @@ void Finestra::CreaMenuFile() {
   connect(file, &QMenu::aboutToShow, this, &Finestra::ElencaRecenti);
   ElencaRecenti();
   file->addSeparator();
-  Voce(this, file, "esporta", "&Esporta...", {QKeySequence("Ctrl+E")}, [this] { EsportaFile(); });
-  Voce(this, file, "stampa", "&Stampa...", {QKeySequence::Print}, [this] { StampaDisegno(); });
+  Voce(this, file, "esporta", "&Esporta...", {QKeySequence("Ctrl+E")},
+       [this] { MandaFuori(EsportaDaFinestra); });
+  Voce(this, file, "stampa", "&Stampa...", {QKeySequence::Print}, [this] { MandaFuori(StampaDaFinestra); });
   file->addSeparator();
   Voce(this, file, "chiudi", "&Chiudi", {QKeySequence("Alt+F4")}, [this] { close(); });
 }
 
 void Finestra::ElencaRecenti() {
   recenti_->clear();
-  const QStringList recenti = Recenti();
+  Prendi(LeggiPreferenze());  // another viewer may have opened drawings meanwhile
   int posto = 0;
-  for (const QString& percorso : recenti) {
+  for (const QString& percorso : preferenze_.recenti) {
     QAction* const azione = recenti_->addAction(VoceRecente(++posto, percorso));
     connect(azione, &QAction::triggered, this, [this, percorso] { ApriRecente(percorso); });
   }
   recenti_->addSeparator();
-  Voce(this, recenti_, "svuota", "&Svuota l'elenco", {}, &SvuotaRecenti);
-  recenti_->setEnabled(!recenti.isEmpty());
+  Voce(this, recenti_, "svuota", "&Svuota l'elenco", {},
+       [this] { Ricorda([](Preferenze& p) { p.recenti.clear(); }); });
+  recenti_->setEnabled(!preferenze_.recenti.isEmpty());
 }
 
 void Finestra::CreaMenuVista() {
@@ -92,7 +99,7 @@ void Finestra::CreaMenuVista() {
   auto* const rettangolo = Segnabile(Voce(this, vista, "rettangolo", "Ingrandisci un rettan&golo",
                                           {QKeySequence("Z")}, [this] { Alterna(Strumento::Rettangolo); }),
                                      false);
-  // The arrows belong to the drawing alone: in the menu bar they go from menu to menu.
+  // These entries have no shortcuts: the arrows move the drawing only while it has the focus.
   QMenu* const sposta = vista->addMenu("&Sposta");
   struct Lato {
     const char *nome, *testo;
@@ -111,16 +118,16 @@ void Finestra::CreaMenuVista() {
     successiva->setEnabled(tela_->Viste().HaSuccessiva());
     rettangolo->setChecked(tela_->InUso() == Strumento::Rettangolo);
   };
-  connect(tela_, &Tela::VistaCambiata, this, aggiorna);
-  connect(tela_, &Tela::StrumentoCambiato, this, aggiorna);
+  connect(tela_, &Tela::Cambiata, this, aggiorna);
   aggiorna();
   vista->addSeparator();
   CreaVociLivelli(*vista);
   vista->addSeparator();
   auto* const chiaro = Voce(this, vista, "fondo", "&Fondo chiaro", {QKeySequence("B")}, [] {});
   connect(chiaro, &QAction::toggled, this, [this](bool si) { tela_->MettiSu(si ? kCarta : kSchermo); });
-  connect(chiaro, &QAction::triggered, this, [](bool si) { Ricorda(kFondoChiaro, si); });
-  Segnabile(chiaro, Preferenza(kFondoChiaro, false).toBool());
+  connect(chiaro, &QAction::triggered, this,
+          [this](bool si) { Ricorda([si](Preferenze& p) { p.fondoChiaro = si; }); });
+  Segnabile(chiaro, preferenze_.fondoChiaro);
   tela_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(tela_, &QWidget::customContextMenuRequested, vista,
           [this, vista](QPoint dove) { vista->popup(tela_->mapToGlobal(dove)); });
@@ -149,22 +156,21 @@ void Finestra::CreaMenuStrumenti() {
   auto* const misura = Segnabile(Voce(this, strumenti, "misura", "&Misura una distanza", {QKeySequence("M")},
                                       [this] { Alterna(Strumento::Metro); }),
                                  false);
-  connect(tela_, &Tela::StrumentoCambiato, misura,
+  connect(tela_, &Tela::Cambiata, misura,
           [=, this] { misura->setChecked(tela_->InUso() == Strumento::Metro); });
   QMenu* const unita = strumenti->addMenu("&Unità del disegno");
   auto* const scelte = new QActionGroup(this);
-  // The last begins as the second one does.
+  // The key of the last unit is its second letter: its first is that of the second unit.
   QStringList nomi = NomiUnita();
   for (QString& nome : nomi) nome.insert(&nome == &nomi.back() ? 1 : 0, '&');
   for (const QString& nome : nomi) scelte->addAction(unita->addAction(nome))->setCheckable(true);
   for (QAction* const scelta : scelte->actions()) scelta->setObjectName("unita");
-  connect(unita, &QMenu::aboutToShow, scelte,
-          [scelte] { scelte->actions()[static_cast<int>(ResaRicordata().resa.unita)]->setChecked(true); });
-  connect(scelte, &QActionGroup::triggered, this, [this, scelte](QAction* scelta) {
-    SceltaResa resa = ResaRicordata();
-    resa.resa.unita = static_cast<Unita>(scelte->actions().indexOf(scelta));
-    RicordaResa(resa);
-    NominaUnita();
+  connect(unita, &QMenu::aboutToShow, scelte, [=, this] {
+    scelte->actions()[static_cast<int>(UnitaMostrata().value_or(Unita::Ignota))]->setChecked(true);
+  });
+  connect(scelte, &QActionGroup::triggered, this, [=, this](QAction* scelta) {
+    const auto detta = static_cast<Unita>(scelte->actions().indexOf(scelta));
+    Ricorda([&](Preferenze& p) { RicordaUnita(p, documento_.Mostrato(), detta); });
   });
   strumenti->addSeparator();
   Voce(this, strumenti, "copia", "&Copia l'immagine", {QKeySequence::Copy}, [this] {
@@ -176,20 +182,42 @@ void Finestra::CreaMenuStrumenti() {
 }
 
 void Finestra::CopiaTabella() {
-  const QStringList righe = RigheTabella(tela_->Mostrato(), QLocale::system().decimalPoint());
+  const QStringList righe = RigheTabella(tela_->Mostrato(), decimale_);
   if (righe.isEmpty()) return Conferma("Il disegno non ha testi da copiare.");
   QApplication::clipboard()->setText(righe.join('\n') + '\n');
   Conferma(righe.size() == 1 ? "Copiata una riga di tabella."
                              : QString("Copiate %1 righe di tabella.").arg(righe.size()));
 }
 
-void Finestra::NominaUnita() {
-  tela_->NominaUnita(ostrel::Voce(ResaRicordata().resa.unita).nome);
+void Finestra::Ricorda(const std::function<void(Preferenze&)>& cambia) {
+  Prendi(CambiaPreferenze(cambia));
+}
+
+void Finestra::Prendi(Preferenze preferenze) {
+  preferenze_ = std::move(preferenze);
+  tela_->Annota({decimale_, Nome(UnitaMostrata().value_or(Unita::Ignota))});
+}
+
+std::optional<Unita> Finestra::UnitaMostrata() const {
+  return UnitaDi(preferenze_, documento_.Mostrato());
+}
+
+// Asks for the unit of the drawing shown where it has not been said; false where the user takes the order
+// back.
+bool Finestra::ChiediUnitaMostrata() {
+  const QString file = documento_.Mostrato();
+  if (file.isEmpty() || UnitaMostrata()) return true;
+  const auto unita = ChiediUnita(
+      preferenze_.scelta.resa.unita,
+      {"Misura una distanza", "&Misura", "In che unità è il disegno? Si cambia nel menu Strumenti."}, this);
+  if (unita) Ricorda([&](Preferenze& p) { RicordaUnita(p, file, *unita); });
+  return unita.has_value();
 }
 
 void Finestra::Alterna(Strumento strumento) {
-  NominaUnita();
-  tela_->Usa(tela_->InUso() == strumento ? Strumento::Mano : strumento);
+  const bool lascia = tela_->InUso() == strumento;
+  const bool misura = !lascia && strumento == Strumento::Metro;
+  tela_->Usa(lascia || (misura && !ChiediUnitaMostrata()) ? Strumento::Mano : strumento);
 }
 
 }  // namespace ostrel

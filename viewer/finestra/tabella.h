@@ -8,8 +8,8 @@
 
 namespace ostrel {
 
-/// The properties that the drawing lists, its texts "name: number", as rows of name, tab and number, the
-/// number with `decimale`. Where it lists none, every text that is not a dimension's value, one a row.
+/// Each text "name: number" as a row of name, tab and number, the number with `decimale`. A drawing without
+/// such texts gives all those that are not a dimension's value, one a row.
 QStringList RigheTabella(const Disegno& disegno, const QString& decimale);
 
 }  // namespace ostrel

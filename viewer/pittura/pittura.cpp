@@ -1,24 +1,26 @@
-// Lines are clipped in the drawing's own precision before the painter sees them, so that any zoom
-// stays exact and quick.
+// Lines are cut to what is visible, in the drawing's own precision, before the painter gets them: it stays
+// exact and quick at any zoom.
 #include "viewer/pittura/pittura.h"
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <vector>
 
-#include "viewer/pittura/archi.h"
-#include "viewer/pittura/tratti.h"
+#include "viewer/pittura/ritaglio.h"
 
 namespace ostrel {
 namespace {
 
-constexpr double kMinimaAltezzaScritta = 2;  // painter units; below it a text is a line
-// With more lines than this on the screen smoothing would cost more than it shows.
+constexpr double kMinimaAltezzaScritta = 2;  // in pen widths; a lower text becomes a line
+// With more lines on the screen, or more arcs anywhere, smoothing would cost more than it shows.
 constexpr std::size_t kMassimeLineeLisce = 20000;
+constexpr std::size_t kMassimiArchiLisci = 1000;
+// The radius, in painter units, up to which the painter's own arcs are no more than a pixel off.
+constexpr double kMassimoRaggio = 4000;
 
 class Pittura {
  public:
@@ -28,7 +30,7 @@ class Pittura {
         d_(disegno),
         vista_(vista),
         fondo_(fondo),
-        campo_(Campo(visibile, fondo)),
+        campo_(visibile.marginsAdded(QMarginsF(8, 8, 8, 8) * fondo.spessore)),
         stretto_(visibile.marginsAdded(QMarginsF(1, 1, 1, 1) * fondo.spessore)) {}
 
   void Linee() {
@@ -36,17 +38,34 @@ class Pittura {
     for (const Linea& linea : d_.linee) {
       const QPointF p = Verso(linea.inizio), q = Verso(linea.fine);
       const bool intera = IndiceTipo(linea.tipo) == 0;
-      Parte parte;
-      if (!Ritaglia(p, q, intera ? campo_ : stretto_, parte)) continue;
-      const QLineF segmento = Segmento(p, q, parte, fondo_);
+      const auto parte = Ritaglia(p, q, intera ? campo_ : stretto_);
+      if (!parte) continue;
+      const QLineF segmento = SuPixel(p, q, *parte, fondo_);
       if (intera)
         continue_[IndiceColore(linea.colore)].push_back(segmento);
       else
-        Tratteggiata(segmento, linea, parte.da * std::hypot(q.x() - p.x(), q.y() - p.y()));
+        Tratteggiata(segmento, linea, parte->da * std::hypot(q.x() - p.x(), q.y() - p.y()));
     }
     for (std::size_t colore = 0; colore < continue_.size(); ++colore) {
-      p_.setPen(Penna(fondo_, static_cast<int>(colore)));
+      p_.setPen(Penna(static_cast<int>(colore)));
       p_.drawLines(continue_[colore].data(), static_cast<int>(continue_[colore].size()));
+    }
+  }
+
+  void Archi() {
+    p_.setBrush(Qt::NoBrush);
+    for (const Arco& arco : d_.archi) {
+      const ArcoPolare polare = Polare(d_, arco);
+      const double r = polare.raggio * vista_.scala;
+      const QPointF centro = vista_.Verso(polare.x, polare.y);
+      if (!campo_.marginsAdded({r, r, r, r}).contains(centro)) continue;
+      p_.setPen(Penna(arco.colore));
+      if (r > kMassimoRaggio * std::max(1.0, fondo_.spessore / 2))
+        p_.drawPath(Curva(polare));
+      else if (polare.cerchio)
+        p_.drawEllipse(centro, r, r);
+      else
+        p_.drawPath(Curva({centro.x() - r, centro.y() - r, 2 * r, 2 * r}, polare));
     }
   }
 
@@ -61,7 +80,7 @@ class Pittura {
   }
 
   void Punti() {
-    p_.setPen(Penna(fondo_, tarvel::disegno::kBianco));
+    p_.setPen(Penna(tarvel::disegno::kBianco));
     const double m = kMezzaCroce * fondo_.spessore;
     for (const Punto& punto : d_.punti) {
       const QPointF c = Verso(punto.posizione);
@@ -79,10 +98,40 @@ class Pittura {
     return vista_.Verso(c.x, c.y);
   }
 
-  // `saltato` is the length cut away before the segment: the dashes stay where they are.
+  QPen Penna(int colore) const {
+    return {InQt(ColoreSu(fondo_.colore, colore)), fondo_.spessore, Qt::SolidLine, Qt::FlatCap,
+            Qt::MiterJoin};
+  }
+
+  static QPainterPath Curva(const QRectF& quadro, const ArcoPolare& polare) {
+    QPainterPath curva;
+    curva.arcMoveTo(quadro, polare.inizio * kGradi);
+    curva.arcTo(quadro, polare.inizio * kGradi, polare.ampiezza * kGradi);
+    return curva;
+  }
+
+  // A cubic curve lies on each of these short pieces, however large the circle.
+  QPainterPath Curva(const ArcoPolare& polare) const {
+    constexpr double kMassimoPasso = 0.01;
+    const int parti = static_cast<int>(std::ceil(polare.ampiezza / kMassimoPasso));
+    const double passo = polare.ampiezza / parti, leva = std::tan(passo / 4) * 4 / 3;
+    // The point at an angle, moved along the tangent by a part of the radius.
+    const auto punto = [&](double a, double lungo) {
+      return vista_.Verso(polare.x + polare.raggio * (std::cos(a) - lungo * std::sin(a)),
+                          polare.y + polare.raggio * (std::sin(a) + lungo * std::cos(a)));
+    };
+    QPainterPath curva(punto(polare.inizio, 0));
+    for (int i = 0; i < parti; ++i) {
+      const double a = polare.inizio + i * passo;
+      curva.cubicTo(punto(a, leva), punto(a + passo, -leva), punto(a + passo, 0));
+    }
+    return curva;
+  }
+
+  // `saltato` is the length cut away before the segment; the dashes go on as if it were still there.
   void Tratteggiata(const QLineF& segmento, const Linea& linea, double saltato) {
     const auto tratti = kTipiLinea[IndiceTipo(linea.tipo)].Tratti();
-    QPen penna = Penna(fondo_, linea.colore);
+    QPen penna = Penna(linea.colore);
     penna.setDashPattern({tratti.begin(), tratti.end()});
     double passo = 0;
     for (const double tratto : tratti) passo += tratto;
@@ -99,7 +148,7 @@ class Pittura {
     const double altezza = scritta.altezza * vista_.scala;
     if (!riquadro.boundingRect().marginsAdded({altezza, altezza, altezza, altezza}).intersects(campo_))
       return;
-    p_.setPen(Penna(fondo_, scritta.colore));
+    p_.setPen(Penna(scritta.colore));
     const double largo = scritta.base * static_cast<double>(scritta.testo.size()) * vista_.scala;
     const double minimo = kMinimaAltezzaScritta * fondo_.spessore;
     if (altezza < minimo || largo < minimo) {
@@ -119,9 +168,9 @@ class Pittura {
   const Disegno& d_;
   const Vista& vista_;
   const Fondo& fondo_;
-  QRectF campo_;
-  // Of dashed lines: the painter cuts a line of one pixel's width so near the picture, and begins its dashes
-  // anew where it has cut.
+  QRectF campo_;  // what is visible, and so much around it that no pen's edge is cut
+  // For dashed lines: the painter cuts a line of one pixel's width this near the picture, and begins the
+  // dashes anew at its own cut.
   QRectF stretto_;
 };
 
@@ -138,7 +187,7 @@ Vista VistaIntera(const Riquadro& tutto, QRectF area) {
   const double margine = kMargine * std::min(area.width(), area.height());
   area.adjust(margine, margine, -margine, -margine);
   const Riquadro r = tutto.Vuoto() ? Riquadro{0, 0, 1, 1} : tutto;
-  // A drawing without breadth or height is fitted by its other side, a single point at scale 1.
+  // A drawing without breadth or height is fitted by its other side; a single point has scale 1.
   const double minimo = kArrotondamento * r.Massimo();
   const double x = r.Larghezza() > minimo ? area.width() / r.Larghezza() : HUGE_VAL;
   const double y = r.Altezza() > minimo ? area.height() / r.Altezza() : HUGE_VAL;
@@ -157,12 +206,13 @@ Fondo FondoCarta(double spessore) {
 
 void Dipingi(QPainter& pittore, const Disegno& disegno, const Vista& vista, const QRectF& visibile,
              const Fondo& fondo) {
-  const bool liscia = fondo.pixel == 0 || disegno.linee.size() <= kMassimeLineeLisce;
   Pittura pittura(pittore, disegno, vista, visibile, fondo);
-  pittore.setRenderHint(QPainter::Antialiasing, liscia);
+  pittore.setRenderHint(QPainter::Antialiasing,
+                        fondo.pixel == 0 || disegno.linee.size() <= kMassimeLineeLisce);
   pittura.Linee();
+  pittore.setRenderHint(QPainter::Antialiasing, disegno.archi.size() <= kMassimiArchiLisci);
+  pittura.Archi();
   pittore.setRenderHint(QPainter::Antialiasing, true);
-  DipingiArchi(pittore, disegno, vista, visibile, fondo);
   pittura.Punti();
   pittura.Scritte();
 }

@@ -1,4 +1,4 @@
-// Colours by their contrast with the ground.
+// Measures the contrast of a colour with its ground.
 #include "viewer/pittura/tavolozza.h"
 
 #include <cmath>

@@ -1,5 +1,5 @@
-// What the numbers of a drawing file mean to the eye: the colours of the program that draws, the line
-// patterns, each with its counterpart in a DXF file; what of a colour can be seen on a ground.
+// The colours and line types that the numbers of a drawing file stand for, each with its counterpart in a DXF
+// file.
 #pragma once
 
 #include <array>
@@ -13,21 +13,22 @@ namespace ostrel {
 using tarvel::disegno::IndiceColore;
 using tarvel::disegno::kColori;
 
-/// The like of each of kColori among the 255 of a DXF file; 7 is black or white, against the background.
+/// The nearest to each of kColori among the 255 colours of a DXF file; 7 is white on black and black on
+/// white.
 inline constexpr std::array<int, kColori.size()> kColoriDxf = {7, 7, 172, 1, 3, 2, 94, 6, 151, 30};
 
 inline constexpr tarvel::Colore kCarta{255, 255, 255};
 inline constexpr tarvel::Colore kSchermo{24, 26, 30};
 
-/// The table's colour, moved only as far as the ground demands: on paper white turns black and
-/// light colours are darkened until they can be read, on the screen black turns grey.
+/// A colour of the table as it can be read on this ground: on paper white turns black and light colours are
+/// darkened, on the screen black turns grey; the others stay as they are.
 tarvel::Colore ColoreSu(const tarvel::Colore& fondo, int colore);
 
 /// A dash pattern: strokes and gaps in turn; empty for a continuous line.
 struct TipoLinea {
   std::array<double, 6> misure;  // in pen widths
   std::size_t quante;
-  // Its like among the line types that every CAD program has, lengths in millimetres.
+  // The nearest of the line types that every CAD program has, with its lengths in millimetres.
   const char *nome, *descrizione;
   std::array<double, 6> unificate;
 
@@ -47,7 +48,7 @@ inline constexpr std::array<TipoLinea, 6> kTipiLinea = {{
     {{20, 6}, 2, "DASHEDX2", "Dashed (2x) ____  ____  ____  ____", {25.4, 12.7}},
 }};
 
-/// The place in kTipiLinea of a line type of the file; beyond the last the patterns start anew.
+/// The place in kTipiLinea of a line type of the file; beyond the last one the patterns start anew.
 constexpr std::size_t IndiceTipo(int tipo) {
   const int tratteggi = static_cast<int>(kTipiLinea.size()) - 1;
   return static_cast<std::size_t>(tipo <= 0 ? 0 : 1 + (tipo - 1) % tratteggi);

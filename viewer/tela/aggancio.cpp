@@ -1,4 +1,3 @@
-// One pass over the elements for each place: fifty thousand lines take a fraction of a millisecond.
 #include "viewer/tela/aggancio.h"
 
 #include <algorithm>
@@ -10,7 +9,6 @@
 namespace ostrel {
 namespace {
 
-constexpr std::size_t kMassimeLineeVicine = 64;
 constexpr double kVantaggioIncrocio = 0.25;  // of the radius
 
 double Distanza(const Coordinata& a, const Coordinata& b) {
@@ -69,7 +67,7 @@ class Cerca {
     trovato_ = {dove, genere};
   }
 
-  // Where a full circle's line begins is no place of its own.
+  // The point where a full circle begins is not a place that a user means.
   void Prova(const Arco& arco) {
     Prova(Posto(d_, arco.centro), Appiglio::Centro);
     const auto vicini = [&](int indice) { return Distanza(Posto(d_, indice), vicino_) <= distanza_; };
@@ -82,9 +80,7 @@ class Cerca {
     for (const Linea& linea : d_.linee) {
       const Coordinata& da = Posto(d_, linea.inizio);
       const Tratto tratto{da, Verso(da, Posto(d_, linea.fine))};
-      if (!Passa(tratto, vicino_, raggio_)) continue;
-      if (vicini.size() == kMassimeLineeVicine) return;
-      vicini.push_back(tratto);
+      if (Passa(tratto, vicino_, raggio_)) vicini.push_back(tratto);
     }
     for (std::size_t i = 0; i < vicini.size(); ++i)
       for (std::size_t j = 0; j < i; ++j)

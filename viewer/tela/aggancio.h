@@ -1,4 +1,4 @@
-// The marked places of a drawing that a pointer near them means.
+// Finds the marked place of a drawing that a pointer near it means.
 #pragma once
 
 #include <optional>
@@ -15,8 +15,8 @@ struct Aggancio {
 };
 
 /// The nearest end of a line or an arc, centre of an arc, marked point or crossing of two lines, within
-/// `raggio` (drawing units) of a place. One of the drawing's own points is preferred to a crossing that is
-/// hardly nearer. Among very many lines so near to the place, crossings are not looked for.
+/// `raggio` (drawing units) of a place. A crossing is taken before one of the drawing's own points only
+/// where it is clearly nearer.
 std::optional<Aggancio> Aggancia(const Disegno& disegno, const Coordinata& vicino, double raggio);
 
 }  // namespace ostrel

@@ -5,9 +5,8 @@
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
-#include "viewer/pittura/tratti.h"
+#include "viewer/pittura/ritaglio.h"
 
 namespace ostrel {
 namespace {
@@ -16,13 +15,13 @@ constexpr double kRaggioAggancio = 10;  // painter units
 constexpr double kMezzoSegno = 5;
 constexpr double kStacco = 16;  // of a label from its place
 
-QColor Colore(const tarvel::Colore& fondo) {
+QColor Inchiostro(const tarvel::Colore& fondo) {
   return InQt(ColoreSu(fondo, tarvel::disegno::kArancio));
 }
 
 void DipingiLinea(QPainter& pittore, QPointF p, QPointF q, const QRectF& area) {
-  if (Parte parte; Ritaglia(p, q, area, parte))
-    pittore.drawLine(p + (q - p) * parte.da, p + (q - p) * parte.a);
+  if (const auto parte = Ritaglia(p, q, area))
+    pittore.drawLine(p + (q - p) * parte->da, p + (q - p) * parte->a);
 }
 
 void DipingiSegno(QPainter& pittore, QPointF c, Appiglio genere) {
@@ -39,6 +38,15 @@ void DipingiSegno(QPainter& pittore, QPointF c, Appiglio genere) {
       pittore.drawLine(quadro.bottomLeft(), quadro.topRight());
       break;
   }
+}
+
+QString Misurata(double lunghezza) {
+  constexpr double kMinimaDistesa = 1e-2;
+  if (lunghezza != 0 && std::fabs(lunghezza) < kMinimaDistesa) return QString::number(lunghezza, 'g', 6);
+  QString testo = QString::number(lunghezza, 'f', 4);
+  while (testo.endsWith('0')) testo.chop(1);
+  if (testo.endsWith('.')) testo.chop(1);
+  return testo;
 }
 
 }  // namespace
@@ -63,18 +71,7 @@ void Punta(Metro& metro, const Disegno& disegno, const Vista& vista, QPointF dov
   }
 }
 
-QString Misurata(double lunghezza) {
-  constexpr double kMassimaDistesa = 1e10, kMinimaDistesa = 1e-2;
-  const double grande = std::fabs(lunghezza);
-  if (grande != 0 && (grande >= kMassimaDistesa || grande < kMinimaDistesa))
-    return QString::number(lunghezza, 'g', 6);
-  QString testo = QString::number(lunghezza, 'f', 4);
-  while (testo.endsWith('0')) testo.chop(1);
-  if (testo.endsWith('.')) testo.chop(1);
-  return testo;
-}
-
-QString Risultato(const Metro& metro, double unita, const QString& nomeUnita) {
+QString Risultato(const Metro& metro, const Notazione& notazione) {
   const auto fine = metro.a ? metro.a : metro.sotto;
   if (!metro.da || !fine || *metro.da == *fine) return {};
   const Coordinata &p = *metro.da, &q = *fine;
@@ -83,12 +80,12 @@ QString Risultato(const Metro& metro, double unita, const QString& nomeUnita) {
   const auto parte = [&](double da, double a) { return std::fabs(a - da) > rumore ? a - da : 0; };
   const double dx = parte(p.x, q.x), dy = parte(p.y, q.y);
   const auto riga = [&](const char* nome, double lunghezza) {
-    return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza * unita), nomeUnita).trimmed();
+    return QString("%1 = %2 %3").arg(nome, Misurata(lunghezza), notazione.unita).trimmed();
   };
-  constexpr double kGradi = 180 / std::numbers::pi;
   return QStringList{riga("Distanza", std::hypot(dx, dy)), riga("ΔX", dx), riga("ΔY", dy),
                      QString("Angolo = %1°").arg(QString::number(std::atan2(dy, dx) * kGradi, 'f', 2))}
-      .join('\n');
+      .join('\n')
+      .replace('.', notazione.decimale);
 }
 
 QString Istruzione(const Metro& metro) {
@@ -108,7 +105,7 @@ void Cartellino(QPainter& pittore, const QString& testo, QPointF dove, const QRe
       std::clamp(riquadro.left(), area.left(), std::max(area.left(), area.right() - riquadro.width())));
   riquadro.moveTop(
       std::clamp(riquadro.top(), area.top(), std::max(area.top(), area.bottom() - riquadro.height())));
-  pittore.setPen(Colore(fondo));
+  pittore.setPen(Inchiostro(fondo));
   pittore.setBrush(InQt(fondo));
   pittore.drawRect(riquadro);
   pittore.setPen(InQt(ColoreSu(fondo, tarvel::disegno::kBianco)));
@@ -118,7 +115,7 @@ void Cartellino(QPainter& pittore, const QString& testo, QPointF dove, const QRe
 void Dipingi(QPainter& pittore, const Metro& metro, const Vista& vista, const QRectF& area,
              const tarvel::Colore& fondo, const QString& risultato) {
   const auto posto = [&](const Coordinata& c) { return vista.Verso(c.x, c.y); };
-  const QColor colore = Colore(fondo);
+  const QColor colore = Inchiostro(fondo);
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.setBrush(Qt::NoBrush);
   const auto fine = metro.a ? metro.a : metro.sotto;

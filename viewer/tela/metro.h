@@ -13,33 +13,36 @@ namespace ostrel {
 
 struct Metro {
   std::optional<Coordinata> da, a;
-  /// Under the pointer: the marked place, or where it stands.
+  /// The marked place that the pointer means, otherwise the place under it.
   std::optional<Coordinata> sotto;
   std::optional<Appiglio> genere;  // of a marked place
 };
 
-/// Takes the place under the pointer for the first point, the second one, or the first of the next
-/// measure; the second one is never the first.
+/// Takes the place under the pointer as the first point, the second, or the first of the next measure; not as
+/// a second point where it is the first.
 void Prendi(Metro& metro);
 
-/// The place under the pointer that lies at `dove` of the painter.
+/// Finds the place under the pointer, which is at `dove` on the painter.
 void Punta(Metro& metro, const Disegno& disegno, const Vista& vista, QPointF dove);
 
-/// A length in the drawing's numbers, as many decimals as it needs, four at most; "1200", "28.75".
-QString Misurata(double lunghezza);
+/// How a measure is written.
+struct Notazione {
+  QString decimale = ".";
+  QString unita;  // of the drawing's lengths; empty where it is not known
+};
 
-/// Distance, its parts along the axes and the angle, one a line, in the drawing's numbers and with the name
-/// of their unit where it is known. Nothing before there are two places.
-QString Risultato(const Metro& metro, double unita, const QString& nomeUnita);
+/// Distance, its parts along the axes and the angle, one a line; a length has as many decimals as it needs,
+/// four at most. Nothing before there are two places.
+QString Risultato(const Metro& metro, const Notazione& notazione);
 
-/// What to do now, in a line.
+/// Says in a line what the user is to do now.
 QString Istruzione(const Metro& metro);
 
-/// Line, marks and result over the drawing, within `area`.
+/// Paints line, marks and result over the drawing, within `area`.
 void Dipingi(QPainter& pittore, const Metro& metro, const Vista& vista, const QRectF& area,
              const tarvel::Colore& fondo, const QString& risultato);
 
-/// A text on a box of its own, wholly within `area`, beside `dove` if it can be.
+/// Paints a text on a box of its own, wholly within `area` and, if there is room, beside `dove`.
 void Cartellino(QPainter& pittore, const QString& testo, QPointF dove, const QRectF& area,
                 const tarvel::Colore& fondo);
 

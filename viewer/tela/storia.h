@@ -1,4 +1,4 @@
-// The views that can be gone back to.
+// Keeps the views that the user can go back to.
 #pragma once
 
 #include <cstddef>
@@ -11,17 +11,17 @@ namespace ostrel {
 
 struct Inquadratura {
   Vista vista;
-  /// The whole drawing, whatever the window and the drawing become.
+  /// The whole drawing is shown, also after the window or the drawing has changed.
   bool adattata = true;
 };
 
-/// What changes a view. Turns of the wheel in a row, or strokes of the arrows, are one change: going
-/// back undoes them together.
+/// What changes a view. Going back undoes the turns of the wheel in a row, or the strokes of the arrows,
+/// together.
 enum class Gesto { Unico, Zoom, Scorrimento };
 
 class Storia {
  public:
-  /// The view that a change is about to leave.
+  /// Keeps the view that a change is about to leave.
   void Lascia(const Inquadratura& prima, Gesto gesto) {
     if (gesto != Gesto::Unico && gesto == ultimo_) return;
     ultimo_ = gesto;

@@ -1,5 +1,3 @@
-// The drawing is painted on a picture of its own: panning moves what is there and paints only what comes into
-// sight, and tools are shown over it without painting it anew.
 #include "viewer/tela/tela.h"
 
 #include <QPaintEvent>
@@ -29,8 +27,7 @@ Tela::Tela(QWidget* padre) : QWidget(padre) {
 }
 
 void Tela::Mostra(Disegno nuovo, bool daCapo) {
-  // Whoever measures goes on when the file is read again, but no view or place outlives its numbers.
-  if (daCapo || nuovo.unita != disegno_.unita) {
+  if (daCapo) {
     metro_ = {};
     storia_ = {};
     adattata_ = true;
@@ -45,16 +42,16 @@ void Tela::MostraLivelli(const Livelli& livelli) {
   livelli_ = livelli;
   visibile_.reset();
   if (livelli != kTuttiLivelli) visibile_ = SoloLivelli(disegno_, livelli);
-  Ridipingi();
+  update();
 }
 
 void Tela::MettiSu(const tarvel::Colore& fondo) {
   fondo_ = fondo;
-  Ridipingi();
+  update();
 }
 
-void Tela::NominaUnita(const QString& nome) {
-  unita_ = nome;
+void Tela::Annota(const Notazione& notazione) {
+  notazione_ = notazione;
   update();
 }
 
@@ -62,9 +59,9 @@ void Tela::Inquadra(const Inquadratura& nuova) {
   adattata_ = nuova.adattata;
   const Vista vista = adattata_ ? VistaIntera(tutto_, rect()) : nuova.vista;
   if (vista != std::exchange(vista_, vista)) angolo_.reset();
-  Ridipingi();
+  update();
   if (underMouse()) Segui(puntatore_);
-  emit VistaCambiata();
+  emit Cambiata();
 }
 
 void Tela::Cambia(const Inquadratura& nuova, Gesto gesto) {
@@ -104,21 +101,10 @@ void Tela::Scorri(int destra, int basso) {
 
 void Tela::Trascina(QPoint passo, std::optional<Gesto> gesto) {
   if (gesto) storia_.Lascia({vista_, adattata_}, *gesto);
-  adattata_ = false;
-  vista_.x -= passo.x() / vista_.scala;
-  vista_.y += passo.y() / vista_.scala;
-  if (angolo_) *angolo_ += passo;
-  const double pixel = devicePixelRatioF();
-  if (quadro_.isNull() || pixel != std::floor(pixel)) {
-    Ridipingi();
-  } else {
-    quadro_.scroll(passo.x() * static_cast<int>(pixel), passo.y() * static_cast<int>(pixel), quadro_.rect());
-    const QRegion tutta(rect());
-    vecchie_ = (vecchie_.translated(passo) & tutta) | (tutta - rect().translated(passo));
-    update();
-  }
-  if (underMouse()) Segui(puntatore_);
-  emit VistaCambiata();
+  auto angolo = angolo_;
+  if (angolo) *angolo += passo;  // the rectangle's corner stays on its point of the drawing
+  Inquadra({{vista_.scala, vista_.x - passo.x() / vista_.scala, vista_.y + passo.y() / vista_.scala}, false});
+  angolo_ = angolo;
 }
 
 void Tela::VistaPrecedente() {
@@ -129,34 +115,17 @@ void Tela::VistaSuccessiva() {
   if (const auto vista = storia_.Successiva({vista_, adattata_})) Inquadra(*vista);
 }
 
-void Tela::Ridipingi() {
-  vecchie_ = rect();
-  update();
-}
-
-void Tela::AggiornaQuadro() {
-  const double pixel = devicePixelRatioF();
-  const QSize misura = (QSizeF(size()) * pixel).toSize();
-  if (quadro_.size() != misura || quadro_.devicePixelRatio() != pixel) {
-    quadro_ = QPixmap(misura);
-    quadro_.setDevicePixelRatio(pixel);
-    vecchie_ = rect();
-  }
-  if (vecchie_.isEmpty()) return;
-  QPainter pittore(&quadro_);
-  Fondo fondo = FondoSchermo(pixel);
-  fondo.colore = fondo_;
-  for (const QRect& parte : std::exchange(vecchie_, {})) {
-    pittore.setClipRect(parte);
-    pittore.fillRect(parte, InQt(fondo.colore));
-    ostrel::Dipingi(pittore, Visibile(), vista_, parte, fondo);
-  }
+void Tela::DipingiDisegno(QPaintDevice& dove, const tarvel::Colore& colore) const {
+  QPainter pittore(&dove);
+  Fondo fondo = FondoSchermo(dove.devicePixelRatioF());
+  fondo.colore = colore;
+  pittore.fillRect(rect(), InQt(colore));
+  ostrel::Dipingi(pittore, Visibile(), vista_, rect(), fondo);
 }
 
 void Tela::paintEvent(QPaintEvent*) {
-  AggiornaQuadro();
+  DipingiDisegno(*this, fondo_);
   QPainter pittore(this);
-  pittore.drawPixmap(0, 0, quadro_);
   DipingiStrumento(pittore);
 }
 
@@ -184,11 +153,7 @@ QString Tela::Istruzione() const {
 QImage Tela::Immagine() const {
   QImage immagine((QSizeF(size()) * kFinezzaCopia).toSize(), QImage::Format_RGB32);
   immagine.setDevicePixelRatio(kFinezzaCopia);
-  immagine.fill(InQt(kCarta));
-  QPainter pittore(&immagine);
-  Fondo fondo = FondoSchermo(kFinezzaCopia);
-  fondo.colore = kCarta;
-  ostrel::Dipingi(pittore, Visibile(), vista_, rect(), fondo);
+  DipingiDisegno(immagine, kCarta);
   return immagine;
 }
 

@@ -1,10 +1,7 @@
-// The area that shows the drawing: its view and how one comes to it, its ground, what of it is seen, and
-// the tools that point at it.
+// The area that shows the drawing, lets the user move and zoom it, and has the tools that point at it.
 #pragma once
 
 #include <QImage>
-#include <QPixmap>
-#include <QRegion>
 #include <QWidget>
 #include <optional>
 
@@ -24,16 +21,15 @@ class Tela : public QWidget {
  public:
   explicit Tela(QWidget* padre);
 
-  /// Replaces the drawing. A fitted one stays fitted, whatever its extents have become; otherwise zoom
-  /// and place stay as they are. `daCapo`: another drawing, fitted, with no views before this one; so is one
-  /// in other numbers (Disegno::unita).
+  /// Replaces the drawing. A view that was fitted is fitted to the new extents, otherwise zoom and place
+  /// stay. `daCapo`: this is another drawing; it is fitted, and the views before it are forgotten.
   void Mostra(Disegno nuovo, bool daCapo);
 
   /// Fits the whole drawing, and keeps it fitted until the user zooms or pans.
   void Adatta();
-  /// About the centre; a negative number of steps shrinks.
+  /// Zooms about the centre; a negative number of steps shrinks.
   void Ingrandisci(int passi);
-  /// By tenths of the window, to where the arrows point.
+  /// Moves by tenths of the window, to where the arrows point.
   void Scorri(int destra, int basso);
   void VistaPrecedente();
   void VistaSuccessiva();
@@ -45,17 +41,17 @@ class Tela : public QWidget {
   void MostraLivelli(const Livelli& livelli);
   const Livelli& LivelliMostrati() const { return livelli_; }
   void MettiSu(const tarvel::Colore& fondo);
-  /// Of the drawing's lengths, shown beside what is measured; empty where nobody has said it.
-  void NominaUnita(const QString& nome);
+  /// How measures are written.
+  void Annota(const Notazione& notazione);
 
-  /// The whole drawing, shown or not.
+  /// The whole drawing, with what is hidden.
   const Disegno& Mostrato() const { return disegno_; }
-  /// What of it is shown.
+  /// The drawing without what is hidden.
   const Disegno& Visibile() const { return visibile_ ? *visibile_ : disegno_; }
   const Vista& VistaCorrente() const { return vista_; }
   /// What has been measured; empty before there are two points.
-  QString Misura() const { return Risultato(metro_, disegno_.unita, unita_); }
-  /// What is in the window, on paper and twice as fine.
+  QString Misura() const { return Risultato(metro_, notazione_); }
+  /// What the window shows, on a ground of paper and twice as fine.
   QImage Immagine() const;
 
  signals:
@@ -63,8 +59,8 @@ class Tela : public QWidget {
   void Puntato(double x, double y);
   /// The user has begun to act here.
   void Toccata();
-  void VistaCambiata();
-  void StrumentoCambiato();
+  /// The view or the tool has changed.
+  void Cambiata();
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
@@ -82,12 +78,11 @@ class Tela : public QWidget {
   void Inquadra(const Inquadratura& nuova);
   double ScalaLimitata(double chiesta) const;
   void Ingrandisci(double fattore, QPointF fermo);
-  /// `gesto` where it begins one.
+  /// `gesto`: the drag begins here, and going back undoes it.
   void Trascina(QPoint passo, std::optional<Gesto> gesto);
   void ZoomSu(const QRectF& parte);
 
-  void Ridipingi();
-  void AggiornaQuadro();
+  void DipingiDisegno(QPaintDevice& dove, const tarvel::Colore& colore) const;
   void DipingiStrumento(QPainter& pittore);
   QString Istruzione() const;
 
@@ -96,7 +91,7 @@ class Tela : public QWidget {
   void MuoviPuntatore(QPoint passo);
 
   Disegno disegno_;
-  std::optional<Disegno> visibile_;  // where it is not all of it
+  std::optional<Disegno> visibile_;  // none where nothing is hidden
   Riquadro tutto_;
   Vista vista_;
   bool adattata_ = true;
@@ -104,11 +99,7 @@ class Tela : public QWidget {
 
   Livelli livelli_ = kTuttiLivelli;
   tarvel::Colore fondo_ = kSchermo;
-  QString unita_;
-
-  // The drawing as painted, without tools, and where it is out of date.
-  QPixmap quadro_;
-  QRegion vecchie_;
+  Notazione notazione_;
 
   Strumento strumento_ = Strumento::Mano;
   Metro metro_;

@@ -1,4 +1,4 @@
-// The user's hand on the drawing: wheel, buttons and keys, and the tools they hold.
+// What wheel, buttons and keys do to the drawing and its tools.
 #include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
@@ -16,7 +16,7 @@ constexpr double kPassoRotella = 1.2;
 constexpr double kUnoScattoRotella = 120;
 constexpr int kPassoPuntatore = 10;
 
-// To where an arrow key points, y downward; nothing for another key.
+// The direction of an arrow key, y downward; zero for another key.
 QPoint Freccia(int tasto) {
   switch (tasto) {
     case Qt::Key_Left:
@@ -43,7 +43,7 @@ void Tela::Usa(Strumento strumento) {
   if (strumento_ != Strumento::Mano) setFocus();
   Segui(puntatore_);
   update();
-  emit StrumentoCambiato();
+  emit Cambiata();
 }
 
 void Tela::Segui(QPointF dove) {
@@ -54,8 +54,7 @@ void Tela::Segui(QPointF dove) {
   emit Puntato(punto.x(), punto.y());
 }
 
-// A corner of a rectangle and the opposite one are two places far enough from each other, however one comes
-// from this to that.
+// A rectangle's second corner is one far enough from the first, whether the user drags to it or clicks there.
 void Tela::Indica() {
   update();
   if (strumento_ == Strumento::Metro && !angolo_) return Prendi(metro_);
@@ -80,7 +79,7 @@ void Tela::MuoviPuntatore(QPoint passo) {
 
 void Tela::wheelEvent(QWheelEvent* evento) {
   const int scatti = evento->angleDelta().y();
-  if (scatti == 0) return QWidget::wheelEvent(evento);  // turned sideways
+  if (scatti == 0) return QWidget::wheelEvent(evento);  // the wheel turned sideways
   emit Toccata();
   Ingrandisci(std::pow(kPassoRotella, scatti / kUnoScattoRotella), evento->position());
   Segui(evento->position());
@@ -98,7 +97,7 @@ void Tela::mousePressEvent(QMouseEvent* evento) {
     setCursor(Qt::ClosedHandCursor);
 }
 
-// With a tool a hand that trembles while it clicks drags nothing.
+// While a tool is in use, a drag begins only some pixels away: the hand may tremble while it clicks.
 void Tela::mouseMoveEvent(QMouseEvent* evento) {
   const QPoint passo = evento->pos() - presa_;
   const bool centrale = (evento->buttons() & Qt::MiddleButton) != 0;

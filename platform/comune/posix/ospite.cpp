@@ -35,6 +35,7 @@ std::optional<int> Apri(const std::string& percorso, int modo, bool (*ammesso)(m
   Stato stato{};
   if (::fstat(file, &stato) == 0 && ammesso(stato.st_mode)) return file;
   ::close(file);
+  errno = S_ISDIR(stato.st_mode) ? EISDIR : ENODEV;
   return std::nullopt;
 }
 
@@ -168,6 +169,10 @@ bool Togli(const std::string& percorso) {
   return ::unlink(percorso.c_str()) == 0;
 }
 
+std::error_code Motivo() {
+  return {errno, std::system_category()};
+}
+
 }  // namespace
 
 const Ospite kOspiteSistema = {.Genere = Genere,
@@ -182,6 +187,7 @@ const Ospite kOspiteSistema = {.Genere = Genere,
                                .Chiudi = Chiudi,
                                .Rinomina = Rinomina,
                                .NomeSulDisco = NomeSulDisco,
-                               .Togli = Togli};
+                               .Togli = Togli,
+                               .Motivo = Motivo};
 
 }  // namespace tarvel

@@ -24,4 +24,9 @@ void NonFinireColTubo() {
   std::signal(SIGPIPE, SIG_IGN);
 }
 
+void FinisciSubito(std::string_view messaggio, int stato) {
+  static_cast<void>(!::write(STDERR_FILENO, messaggio.data(), messaggio.size()));
+  ::_exit(stato);
+}
+
 }  // namespace tarvel

@@ -23,7 +23,13 @@ std::optional<Ospite::Maniglia> Apri(const std::string& percorso, DWORD modo, DW
   if (file == INVALID_HANDLE_VALUE) return std::nullopt;
   if (GetFileType(file) == FILE_TYPE_DISK) return reinterpret_cast<Ospite::Maniglia>(file);
   CloseHandle(file);
+  SetLastError(ERROR_BAD_UNIT);
   return std::nullopt;
+}
+
+// Another program has the file.
+bool Occupato(DWORD errore) {
+  return errore == ERROR_SHARING_VIOLATION || errore == ERROR_LOCK_VIOLATION;
 }
 
 TipoVoce Genere(const std::string& percorso) {
@@ -61,9 +67,7 @@ std::optional<Ospite::Maniglia> ApriRiscrittura(const std::string& percorso) {
   constexpr DWORD kAttesa = 5000, kPasso = 20;  // milliseconds
   for (DWORD atteso = 0;; atteso += kPasso) {
     const auto file = Apri(percorso, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
-    const DWORD errore = GetLastError();
-    const bool occupato = errore == ERROR_SHARING_VIOLATION || errore == ERROR_LOCK_VIOLATION;
-    if (file || !occupato || atteso >= kAttesa) return file;
+    if (file || !Occupato(GetLastError()) || atteso >= kAttesa) return file;
     Sleep(kPasso);
   }
 }
@@ -120,6 +124,12 @@ bool Togli(const std::string& percorso) {
   return DeleteFileW(PercorsoLargo(percorso).c_str()) != 0;
 }
 
+std::error_code Motivo() {
+  const DWORD errore = GetLastError();
+  if (Occupato(errore)) return std::make_error_code(std::errc::resource_unavailable_try_again);
+  return {static_cast<int>(errore), std::system_category()};
+}
+
 }  // namespace
 
 const Ospite kOspiteSistema = {.Genere = Genere,
@@ -134,6 +144,7 @@ const Ospite kOspiteSistema = {.Genere = Genere,
                                .Chiudi = Chiudi,
                                .Rinomina = Rinomina,
                                .NomeSulDisco = NomeSulDisco,
-                               .Togli = Togli};
+                               .Togli = Togli,
+                               .Motivo = Motivo};
 
 }  // namespace tarvel

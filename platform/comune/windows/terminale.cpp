@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 #include <tuple>
 
@@ -41,5 +42,10 @@ bool UscitaNelFile(const std::string& percorso) {
 }
 
 void NonFinireColTubo() {}
+
+void FinisciSubito(std::string_view messaggio, int stato) {
+  _write(_fileno(stderr), messaggio.data(), static_cast<unsigned>(messaggio.size()));
+  _exit(stato);
+}
 
 }  // namespace tarvel

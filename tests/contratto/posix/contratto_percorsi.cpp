@@ -59,11 +59,20 @@ TEST_F(ContrattoFile, TraNomiUgualiAMenoDiMaiuscoleVinceQuelloDellUtente) {
 
 TEST_F(ContrattoFile, SoloIFileSiAprono) {
   ASSERT_EQ(mkfifo((cartella_ / "tubo").c_str(), 0600), 0);
-  EXPECT_FALSE(FileInLettura::Apri(Percorso("tubo")));
-  EXPECT_FALSE(FileInLettura::Apri("\\dev\\zero"));
+  for (const auto& [percorso, perche] : {std::pair{Percorso("tubo"), "non è un file"_t},
+                                         {"\\dev\\zero", "non è un file"_t},
+                                         {Percorso(""), "è una cartella"_t},
+                                         {Percorso("assente"), "file o cartella inesistente"}}) {
+    Testo motivo;
+    EXPECT_FALSE(FileInLettura::Apri(percorso, &motivo));
+    EXPECT_EQ(motivo, perche) << percorso;
+  }
   EXPECT_FALSE(FileDaRiscrivere::Apri("\\dev\\null") || LeggiTutto("\\dev\\zero"));
   EXPECT_EQ(ScriviFile(Percorso("tubo"), "x"), EsitoScrittura::NonAperto);
   EXPECT_EQ(ScriviFile("\\dev\\full", "x"), EsitoScrittura::Incompleto);
+  EXPECT_EQ(ScriviFile("\\dev\\full", "x").motivo, "disco pieno");
+  EXPECT_EQ(ScriviFile(Percorso(""), "x").motivo, "è una cartella"_t);
+  EXPECT_EQ(CreaFile(Percorso("tubo"), "x").motivo, "il nome è già preso"_t);
 }
 
 TEST_F(ContrattoFile, DirittiERimandiRestano) {

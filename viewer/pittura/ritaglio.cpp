@@ -1,5 +1,4 @@
-// Lines are clipped before the painter sees them.
-#include "viewer/pittura/tratti.h"
+#include "viewer/pittura/ritaglio.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,15 +7,16 @@ namespace ostrel {
 namespace {
 
 // The place nearest to v where a line covers whole pixels.
-double SuPixel(double v, const Fondo& fondo) {
+double Accostato(double v, const Fondo& fondo) {
   const bool dispari = std::lround(fondo.spessore / fondo.pixel) % 2 != 0;
   return (dispari ? std::floor(v / fondo.pixel) + 0.5 : std::round(v / fondo.pixel)) * fondo.pixel;
 }
 
 }  // namespace
 
-// Liang-Barsky.
-bool Ritaglia(const QPointF& p, const QPointF& q, const QRectF& r, Parte& parte) {
+// By the method of Liang and Barsky.
+std::optional<Parte> Ritaglia(const QPointF& p, const QPointF& q, const QRectF& r) {
+  Parte parte;
   const auto bordo = [&](double verso, double distanza) {
     if (verso == 0) return distanza >= 0;
     const double t = distanza / verso;
@@ -27,28 +27,22 @@ bool Ritaglia(const QPointF& p, const QPointF& q, const QRectF& r, Parte& parte)
     return parte.da <= parte.a;
   };
   const double dx = q.x() - p.x(), dy = q.y() - p.y();
-  return bordo(-dx, p.x() - r.left()) && bordo(dx, r.right() - p.x()) && bordo(-dy, p.y() - r.top()) &&
-         bordo(dy, r.bottom() - p.y());
+  if (bordo(-dx, p.x() - r.left()) && bordo(dx, r.right() - p.x()) && bordo(-dy, p.y() - r.top()) &&
+      bordo(dy, r.bottom() - p.y()))
+    return parte;
+  return std::nullopt;
 }
 
-QPen Penna(const Fondo& fondo, int colore) {
-  return {InQt(ColoreSu(fondo.colore, colore)), fondo.spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
-}
-
-QLineF Segmento(QPointF p, QPointF q, const Parte& parte, const Fondo& fondo) {
+QLineF SuPixel(QPointF p, QPointF q, const Parte& parte, const Fondo& fondo) {
   QLineF s(p + (q - p) * parte.da, p + (q - p) * parte.a);
   if (fondo.pixel > 0 && p.x() == q.x()) {
-    const double x = SuPixel(p.x(), fondo);
+    const double x = Accostato(p.x(), fondo);
     s.setLine(x, s.y1(), x, s.y2());
   } else if (fondo.pixel > 0 && p.y() == q.y()) {
-    const double y = SuPixel(p.y(), fondo);
+    const double y = Accostato(p.y(), fondo);
     s.setLine(s.x1(), y, s.x2(), y);
   }
   return s;
-}
-
-QRectF Campo(const QRectF& visibile, const Fondo& fondo) {
-  return visibile.marginsAdded(QMarginsF(8, 8, 8, 8) * fondo.spessore);
 }
 
 }  // namespace ostrel
