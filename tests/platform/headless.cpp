@@ -55,12 +55,6 @@ TEST(Headless, FormAUnoStessoIndirizzoSonoDue) {
             "madre\nend 0\n");
 }
 
-TEST(Headless, UnTastoPuoNascondereLaSuaForm) {
-  FormMadre form;
-  form.casella.tasto = [&](int) { NascondiForm(form); };
-  EXPECT_EQ(Esito(form, "type nome x"), "0 show madre\nhide madre\nend 0\n");
-}
-
 TEST(Headless, UnProgrammaCheNonFinisceSiAbbandona) {
   FormMadre form;
   form.timer.scatto = [] {};
