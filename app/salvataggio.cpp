@@ -46,7 +46,7 @@ Testo ConservaNonSalvate() {
 std::optional<Guasto> CambiaFileSezioni(const Testo& file) {
   gDiPrima = NonSalvate();
   FileSezioni = file;
-  const auto esito = LeggiFileSezioni();
+  auto esito = LeggiFileSezioni();
   gDiPrima.reset();
   return esito;
 }

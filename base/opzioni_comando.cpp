@@ -54,7 +54,7 @@ ComandoLetto LeggiComando(const Comando& comando, std::span<const std::string> a
     } else {
       const std::string valore = unito ? a->substr(uguale + 1) : o->valore.empty() ? "" : *++a;
       if (const std::string atteso = o->prendi(valore); !atteso.empty())
-        errore = nome + ": " + atteso + ", non \"" + valore + '"';
+        errore.append(nome).append(": ").append(atteso).append(", non \"").append(valore) += '"';
       letto.dette.push_back(nome);
     }
   }

@@ -26,10 +26,9 @@ bool AttivaProgramma(std::int32_t id);
 /// dropped where they cannot be sent: the activation failed, the task has no window, or another window
 /// has the keyboard, a dialog of the same task included.
 ///
-///   sequence = { ["%"] ( key | "(" { key } ")" ) }    "%": Alt held for the key or the group
-///   key      = letter | digit | "{F1}" ... "{F12}"    a letter is its key, without Shift
+///   sequence = "%" ( "(" { letter } ")" | "{F1}" ... "{F12}" )    Alt is held for the keys
 ///
-/// Anything else is passed over; a group or a name left open ends with the text.
+/// A letter is its key, without Shift. Anything else is passed over.
 void InviaTasti(const Testo& sequenza);
 
 }  // namespace tarvel

@@ -41,15 +41,6 @@ void Appartiene(QWindow* finestra, QWindow* a) {
   finestra->setTransientParent(a);
 }
 
-// A handler of its form may be on the stack, or one that waits for it.
-void Butta(Finestra* finestra) {
-  constexpr std::chrono::milliseconds kRiprova{500};
-  if (ARiposo())
-    finestra->deleteLater();
-  else
-    QTimer::singleShot(kRiprova, [finestra] { Butta(finestra); });
-}
-
 }  // namespace
 
 Finestra* FinestraDi(const Form* form) {
@@ -94,7 +85,6 @@ void Togli(Form& form, bool scaricata) {
   if (scaricata) {
     finestra->Stacca();
     finestre.erase(&form);
-    Butta(finestra);
   }
   if (Finestra* const resta = FinestraDi(FormAttiva())) resta->activateWindow();
 }

@@ -126,6 +126,12 @@ void Finestra::Stacca() {
   for (const auto& [controllo, widget] : widget_) widget->blockSignals(true);
   widget_.clear();
   form = nullptr;
+  constexpr std::chrono::milliseconds kRiprova{500};
+  startTimer(kRiprova);
+}
+
+void Finestra::timerEvent(QTimerEvent*) {
+  if (ARiposo()) deleteLater();
 }
 
 void Finestra::paintEvent(QPaintEvent*) {

@@ -18,7 +18,8 @@ class Finestra : public QWidget {
   QWidget* WidgetDi(const Controllo& controllo) const;
   /// The keyboard goes to a control, as Tab takes it there; nullptr: to none.
   void Metti(const Controllo* controllo);
-  /// The form is gone: nothing of it is referred to any more.
+  /// The form is gone: nothing of it is referred to any more. The window goes when no handler can be left
+  /// that was called from it.
   void Stacca();
 
   Form* form;
@@ -26,6 +27,7 @@ class Finestra : public QWidget {
  protected:
   void paintEvent(QPaintEvent* evento) override;
   void closeEvent(QCloseEvent* evento) override;
+  void timerEvent(QTimerEvent* evento) override;
 
  private:
   std::map<const Controllo*, QWidget*> widget_;

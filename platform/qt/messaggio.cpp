@@ -10,27 +10,12 @@
 #include "platform/qt/testo_qt.h"
 
 namespace tarvel {
-namespace {
-
-QMessageBox::Icon InQt(Icona icona) {
-  switch (icona) {
-    case Icona::Stop:
-      return QMessageBox::Critical;
-    case Icona::Esclamazione:
-      return QMessageBox::Warning;
-    case Icona::Informazione:
-      return QMessageBox::Information;
-    case Icona::Nessuna:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
-
-}  // namespace
 
 Risposta Chiede(const Messaggio& messaggio) {
-  QMessageBox riquadro(InQt(messaggio.icona), InQt(messaggio.titolo), InQt(messaggio.testo),
-                       QMessageBox::NoButton, FinestraDi(FormAttiva()));
+  static constexpr QMessageBox::Icon kIcone[] = {QMessageBox::NoIcon, QMessageBox::Critical,
+                                                 QMessageBox::Warning, QMessageBox::Information};
+  QMessageBox riquadro(kIcone[static_cast<int>(messaggio.icona)], InQt(messaggio.titolo),
+                       InQt(messaggio.testo), QMessageBox::NoButton, FinestraDi(FormAttiva()));
   riquadro.setTextFormat(Qt::PlainText);
   riquadro.setObjectName("messaggio");
   QPushButton* si = nullptr;

@@ -53,10 +53,11 @@ bool AttivaProgramma(std::int32_t id) {
 }
 
 void InviaTasti(const Testo& sequenza) {
-  if (!destinataria) return;
+  const std::vector<Tasto> tasti = LeggiSequenza(sequenza);
+  if (!destinataria || tasti.empty()) return;
   Aspetta([] { return ColFuoco(*destinataria) || Bloccata(*destinataria); },
           Orologio::now() + kAttesaAttivazione);
-  PremiTasti(*destinataria, LeggiSequenza(sequenza));
+  PremiTasti(*destinataria, tasti);
 }
 
 }  // namespace tarvel

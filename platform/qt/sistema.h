@@ -45,8 +45,9 @@ bool ColFuoco(FinestraAltrui finestra);
 bool Bloccata(FinestraAltrui finestra);
 /// Asks for the window to come to the front and get the keyboard.
 void ChiediAttivazione(FinestraAltrui finestra);
-/// Presses and releases keys of the keyboard, as the user would, where they go to this window.
-void PremiTasti(FinestraAltrui finestra, const std::vector<GruppoTasti>& sequenza);
+/// Presses and releases keys of the keyboard while Alt is held, as the user would, where they go to this
+/// window.
+void PremiTasti(FinestraAltrui finestra, const std::vector<Tasto>& sequenza);
 
 /// Waits for a condition on windows, asked anew whenever something may have changed and when the program,
 /// if one is given, ends. Takes no event. False when it did not come true in time.

@@ -6,18 +6,12 @@
 
 namespace tarvel {
 
-/// A letter in small, a digit, or a function key, kF1 and those that follow it.
+/// A letter in small or a function key, kF1 and those that follow it.
 using Tasto = int;
 inline constexpr Tasto kF1 = 0x100;
 
-/// Keys to press one after the other, with Alt held for all of them or not.
-struct GruppoTasti {
-  bool alt = false;
-  std::vector<Tasto> tasti;
-  friend bool operator==(const GruppoTasti&, const GruppoTasti&) = default;
-};
-
-/// "%(fg)": Alt held for the group; "%{F4}": for the key. What is no key is passed over.
-std::vector<GruppoTasti> LeggiSequenza(std::string_view sequenza);
+/// The keys of a sequence, to be pressed one after the other while Alt is held: "%(fg)", "%{F4}". What is no
+/// key is passed over.
+std::vector<Tasto> LeggiSequenza(std::string_view sequenza);
 
 }  // namespace tarvel

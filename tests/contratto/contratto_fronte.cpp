@@ -152,6 +152,24 @@ const Riga kRighe[] = {
      },
      "perso A 'abc'; messaggio nessuna ok \"T\" \"m\" -> ok; messaggio nessuna ok \"T\" \"m\" -> ok; 300; "
      "400"},
+    {"the interval of a timer counts from its firing, however long its handler takes",
+     [](Palco& s) {
+       s.timer.intervallo = 200;
+       s.altro.intervallo = 450;
+       s.timer.scatto = [&s, prima = true]() mutable {
+         s.u.Annota("scatto");
+         AbilitaTimer(s.timer, prima);
+         if (std::exchange(prima, false)) MostraMessaggio("m", "T", Icona::Nessuna);
+       };
+       s.altro.scatto = [&s] {
+         AbilitaTimer(s.altro, false);
+         s.u.Annota("altro");
+       };
+       s.p.click = [&s] { AbilitaTimer(s.timer, true), AbilitaTimer(s.altro, true); };
+       s.u.Rispondi(Risposta::Ok, 150);
+       return std::vector<Passo>{s.Clicca(s.p), s.Aspetta("altro")};
+     },
+     "perso A 'abc'; scatto; messaggio nessuna ok \"T\" \"m\" -> ok; scatto; altro"},
     {"a timer whose handler shows a modal form fires while that waits",
      [](Palco& s) {
        s.timer.scatto = [&s] {

@@ -178,14 +178,15 @@ TEST(Etichetta, UnPercorsoLungoMostraICapiUnaNotaETuttaScritta) {
   EXPECT_EQ(static_cast<const QLabel&>(*finestra.WidgetDi(nota)).text(), InQt(percorso));
 }
 
-TEST(Tasti, LeSequenzeSiLeggonoAGruppi) {
-  const std::pair<const char*, std::vector<GruppoTasti>> casi[] = {
-      {"%(fg)", {{true, {'f', 'g'}}}},
-      {"%{F4}", {{true, {kF1 + 3}}}},
-      {"%fG1", {{true, {'f'}}, {false, {'g'}}, {false, {'1'}}}},
-      {"(ab){F12}", {{false, {'a', 'b'}}, {false, {kF1 + 11}}}},
-      {"%(f", {{true, {'f'}}}},
-      {"{F13}{F}{x}{F4", {{false, {kF1 + 3}}}},
+TEST(Tasti, LeSequenzeSonoTastiConAlt) {
+  const std::pair<const char*, std::vector<Tasto>> casi[] = {
+      {"%(fG)", {'f', 'g'}},
+      {"%{F4}", {kF1 + 3}},
+      {"%{F12}", {kF1 + 11}},
+      {"%(1f", {'f'}},
+      {"%{F13}", {}},
+      {"%{F}", {}},
+      {"fg", {}},
       {"%", {}},
   };
   for (const auto& [sequenza, attesi] : casi) EXPECT_EQ(LeggiSequenza(sequenza), attesi) << sequenza;

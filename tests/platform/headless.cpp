@@ -65,12 +65,6 @@ TEST(Headless, FormAUnoStessoIndirizzoSonoDue) {
             "madre\nend 0\n");
 }
 
-TEST(Headless, UnTastoPuoNascondereLaSuaForm) {
-  FormMadre form;
-  form.casella.tasto = [&](int) { NascondiForm(form); };
-  EXPECT_EQ(RecitaTesto(form, "type nome x").verbale, "show madre\nhide madre\nend 0\n");
-}
-
 TEST(Headless, UnProgrammaCheNonFinisceSiAbbandona) {
   FormMadre quieta;
   EXPECT_EQ(RecitaTesto(quieta, "").stato, 0) << "without a timer nothing can happen any more";

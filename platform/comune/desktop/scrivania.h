@@ -19,7 +19,8 @@ void ImpostaRigaComando(Testo riga);
 
 /// A fatal error in the handler is reported by one message and ends the program, status 1.
 void Smista(const std::function<void()>& gestore);
-/// So run, if there is one; then what waited for its end. For every event that is not told otherwise.
+/// Runs a handler in that way (an empty one is passed over), then what waited for its end. For a click, and
+/// for whatever has no call of its own here.
 void Esegui(const std::function<void()>& gestore);
 
 /// The user has reached a control (nullptr: none) by mouse or keyboard, and its form comes to the front: the

@@ -6,7 +6,7 @@
 namespace tarvel {
 namespace {
 
-// Letters and digits are their own codes, letters in capitals.
+// Letters are their own codes, in capitals.
 WORD CodiceDi(Tasto tasto) {
   if (tasto >= kF1) return static_cast<WORD>(VK_F1 + (tasto - kF1));
   return static_cast<WORD>(tasto >= 'a' ? 'A' + (tasto - 'a') : tasto);
@@ -23,14 +23,11 @@ INPUT Evento(WORD codice, bool giu) {
 
 }  // namespace
 
-void PremiTasti(FinestraAltrui finestra, const std::vector<GruppoTasti>& sequenza) {
-  std::vector<INPUT> eventi;
-  for (const GruppoTasti& gruppo : sequenza) {
-    if (gruppo.alt) eventi.push_back(Evento(VK_MENU, true));
-    for (const Tasto tasto : gruppo.tasti)
-      for (const bool giu : {true, false}) eventi.push_back(Evento(CodiceDi(tasto), giu));
-    if (gruppo.alt) eventi.push_back(Evento(VK_MENU, false));
-  }
+void PremiTasti(FinestraAltrui finestra, const std::vector<Tasto>& sequenza) {
+  std::vector<INPUT> eventi{Evento(VK_MENU, true)};
+  for (const Tasto tasto : sequenza)
+    for (const bool giu : {true, false}) eventi.push_back(Evento(CodiceDi(tasto), giu));
+  eventi.push_back(Evento(VK_MENU, false));
   // All in one call, so that nothing the user presses comes between them.
   if (ColFuoco(finestra)) SendInput(static_cast<UINT>(eventi.size()), eventi.data(), sizeof(INPUT));
 }

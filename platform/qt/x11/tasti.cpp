@@ -45,7 +45,7 @@ void Premi(Display* display, KeyCode codice, bool giu) {
 
 }  // namespace
 
-void PremiTasti(FinestraAltrui finestra, const std::vector<GruppoTasti>& sequenza) {
+void PremiTasti(FinestraAltrui finestra, const std::vector<Tasto>& sequenza) {
   Display* const display = ConnessioneX();
   int ignorato = 0;
   if (!XTestQueryExtension(display, &ignorato, &ignorato, &ignorato, &ignorato)) return;
@@ -53,15 +53,13 @@ void PremiTasti(FinestraAltrui finestra, const std::vector<GruppoTasti>& sequenz
   const ServerFermo fermo(display);
   if (!ColFuoco(finestra)) return;
   const KeyCode alt = XKeysymToKeycode(display, XK_Alt_L);
-  for (const GruppoTasti& gruppo : sequenza) {
-    if (gruppo.alt) Premi(display, alt, true);
-    for (const Tasto tasto : gruppo.tasti) {
-      const KeyCode codice = CodiceDi(display, tasto);
-      Premi(display, codice, true);
-      Premi(display, codice, false);
-    }
-    if (gruppo.alt) Premi(display, alt, false);
+  Premi(display, alt, true);
+  for (const Tasto tasto : sequenza) {
+    const KeyCode codice = CodiceDi(display, tasto);
+    Premi(display, codice, true);
+    Premi(display, codice, false);
   }
+  Premi(display, alt, false);
 }
 
 }  // namespace tarvel
