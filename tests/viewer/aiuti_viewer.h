@@ -1,6 +1,8 @@
 // What the viewer's tests share: drawings to read and to vary, files to write.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QTemporaryDir>
 #include <fstream>
 #include <iterator>

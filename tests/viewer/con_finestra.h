@@ -1,8 +1,6 @@
 // A window with the worked example in it, and the user's hands on it.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QLabel>

@@ -1,14 +1,17 @@
-// The document without a window: what is read by order, what by itself, and what of it is news.
-#include <gtest/gtest.h>
-
+// The document without a window: what is read by order, what by itself, and what of it is news; what is
+// remembered from one run to the next.
+#include <QFile>
 #include <QFileSystemWatcher>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 #include <chrono>
 #include <filesystem>
+#include <tuple>
 
 #include "tests/viewer/aiuti_viewer.h"
 #include "viewer/documento/documento.h"
+#include "viewer/documento/preferenze.h"
 
 namespace ostrel {
 namespace {
@@ -143,6 +146,85 @@ TEST_F(DocumentoSorvegliato, UnGuastoSiSenteUnaVoltaSola) {
   }
   documento.Ricarica();
   EXPECT_EQ(Sentiti().size(), 1) << "whoever asks is told";
+}
+
+// The remembered choices, none at first and none left to other scenes.
+struct ConPreferenze : testing::Test {
+  ConPreferenze() { fs::remove(file); }
+  ~ConPreferenze() override { fs::remove(file); }
+  const std::string file =
+      QSettings(QSettings::IniFormat, QSettings::UserScope, "ostrel").fileName().toStdString();
+};
+
+TEST_F(ConPreferenze, TornanoComeSonoStateScritte) {
+  const QString strano = "/città/a, b = \"c\";  .dis";
+  CambiaPreferenze([&](Preferenze& p) {
+    EXPECT_EQ(p.scelta.genere, "pdf");
+    p.fondoChiaro = true;
+    p.scelta = {"dxf", {Unita::Centimetri, 12.5, Carta::A3, Orientamento::Verticale}};
+    AggiungiRecente(p, strano);
+    RicordaUnita(p, strano, Unita::Metri);
+  });
+  const Preferenze p = CambiaPreferenze([](Preferenze& altre) { altre.scelta.genere = "svg"; });
+  const auto& [genere, resa] = p.scelta;
+  EXPECT_EQ(std::tuple(p.fondoChiaro, genere, resa.unita, resa.rapporto, resa.carta, resa.orientamento),
+            std::tuple(true, "svg", Unita::Metri, 12.5, Carta::A3, Orientamento::Verticale));
+  EXPECT_EQ(p.recenti, QStringList(strano));
+  EXPECT_EQ(UnitaDi(p, strano), Unita::Metri);
+  EXPECT_NE(prove::Leggi(file).find("scala=\"1:12,5\""), std::string::npos) << prove::Leggi(file);
+}
+
+TEST_F(ConPreferenze, IlFileGuastoNonNuoce) {
+  const std::string sensato =
+      "[esporta]\nscala=molta\nunita=piedi\ncarta=A9\norientamento=7\ngenere=svg\n"
+      "[file]\nunita=piedi /a.dis, , cm, m /b.dis\n";
+  for (const std::string& byte : {sensato, std::string("[esporta]\ngenere=bmp\n"),
+                                  std::string("[esporta\n=\x01\xFF@@\n\n]]"), std::string(9, '\0')}) {
+    prove::Scrivi(file, byte);
+    const Preferenze p = LeggiPreferenze();
+    const auto& [genere, resa] = p.scelta;
+    EXPECT_EQ(std::tuple(resa.unita, resa.rapporto, resa.carta), std::tuple(Unita::Ignota, 0, Carta::A4))
+        << byte;
+    EXPECT_EQ(UnitaDi(p, "/a.dis"), std::nullopt) << byte;
+    // What makes sense is kept.
+    EXPECT_EQ(genere, byte == sensato ? "svg" : "pdf") << byte;
+    EXPECT_EQ(UnitaDi(p, "/b.dis").has_value(), byte == sensato) << byte;
+  }
+}
+
+// One unit for one file, by whatever name; none for a file that the user has seen go. The list has its limit.
+TEST_F(ConPreferenze, LUnitaEDelFile) {
+  const QTemporaryDir cartella;
+  const QString vero = cartella.filePath("ponte.dis"), legame = cartella.filePath("legame.dis");
+  prove::Scrivi(vero.toStdString(), "");
+  ASSERT_TRUE(QFile::link(vero, legame));
+  Preferenze p;
+  RicordaUnita(p, cartella.filePath("./x/../ponte.dis"), Unita::Metri);
+  EXPECT_EQ(UnitaDi(p, legame), Unita::Metri);
+  RicordaUnita(p, legame, Unita::Centimetri);
+  RicordaUnita(p, "", Unita::Millimetri);
+  EXPECT_EQ(p.unita.size(), 1);
+  QFile::remove(vero);
+  EXPECT_EQ(UnitaDi(p, vero), Unita::Centimetri) << "away for a while";
+  Dimentica(p, vero);
+  EXPECT_EQ(UnitaDi(p, vero), std::nullopt);
+  for (int i = 0; i <= kMassimeUnita; ++i) {
+    RicordaUnita(p, QString("/%1.dis").arg(i), Unita::Metri);
+    RicordaUnita(p, "/0.dis", Unita::Millimetri);
+  }
+  EXPECT_EQ(p.unita.size(), kMassimeUnita);
+  EXPECT_EQ(UnitaDi(p, "/0.dis"), Unita::Millimetri) << "said again, it is not the oldest";
+  EXPECT_EQ(UnitaDi(p, "/1.dis"), std::nullopt);
+  EXPECT_EQ(UnitaDi(p, "/2.dis"), Unita::Metri);
+}
+
+TEST(Scala, Figure) {
+  const std::pair<const char*, double> scale[] = {{"1:50", 50}, {" 1 : 12,5 ", 12.5}, {"50", 50},
+                                                  {"1/20", 20}, {"Adatta", 0},        {"1:1000000", 1e6}};
+  for (const auto& [testo, rapporto] : scale) EXPECT_EQ(LeggiScala(testo), rapporto) << testo;
+  for (const char* testo : {"0", "1:0", "-50", "2:1", "", "1:", "nan", "1:1e7", "inf", "50 cm", "0x20"})
+    EXPECT_EQ(LeggiScala(testo), std::nullopt) << testo;
+  EXPECT_EQ(LeggiUnita(""), std::nullopt) << "the word of no unit is not one";
 }
 
 }  // namespace

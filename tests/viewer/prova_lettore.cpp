@@ -1,6 +1,4 @@
 // The reader of drawings: what is read, what is refused and how, what its elements measure.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
@@ -46,28 +44,21 @@ TEST(Lettore, FormeAmmesseERifiutate) {
   EXPECT_GT(provate, 25);
 }
 
-TEST(Lettore, FiniDiRigaELineeSenzaInizio) {
-  const std::string uno = prove::kUnoPerGenere;
+TEST(Lettore, FiniDiRigaEQuelloCheSiTralascia) {
+  const std::string& uno = prove::kUnoPerGenere;
   std::string soloLf = uno;
   std::erase(soloLf, '\r');
-  const std::string senzaInizio = prove::ConRiga(uno, 13, "-1  1  3  0 ");
-  for (const std::string& byte : {soloLf, uno.substr(0, uno.size() - 3), uno + "\r\n \r\n", senzaInizio}) {
+  const auto conTesto = [&](unsigned lungo) { return prove::ConRiga(uno, 18, std::string(lungo, 'x')); };
+  for (const std::string& byte :
+       {soloLf, uno.substr(0, uno.size() - 3), uno + "\r\n \r\n", conTesto(1 << 20)}) {
     const Disegno d = prove::Letto(byte);
-    EXPECT_EQ(d.linee.size(), byte == senzaInizio ? 1u : 2u) << byte;
-    EXPECT_EQ(d.saltati, byte == senzaInizio ? 1 : 0) << byte;
+    EXPECT_EQ(std::tuple(d.linee.size(), d.saltati), std::tuple(2u, 0)) << byte.size();
   }
-}
-
-TEST(Lettore, TestiSenzaCorpo) {
-  for (const char* celle : {" 0  2.5  5 ", " 1.5  9E-10  5 ", "-1.5  2.5  5 "})
-    EXPECT_TRUE(prove::Letto(prove::ConRiga(prove::kUnoPerGenere, 17, celle)).scritte.empty()) << celle;
-}
-
-TEST(Lettore, RigheFinoAUnMegabyte) {
-  for (const std::size_t lunga : {1u << 20, (1u << 20) + 1}) {
-    const auto letto = LeggiDis(prove::ConRiga(prove::kUnoPerGenere, 18, std::string(lunga, 'x')));
-    EXPECT_EQ(std::holds_alternative<Disegno>(letto), lunga == 1u << 20);
-  }
+  EXPECT_TRUE(std::holds_alternative<ErroreDis>(LeggiDis(conTesto((1 << 20) + 1))));
+  const Disegno senzaInizio = prove::Letto(prove::ConRiga(uno, 13, "-1  1  3  0 "));
+  EXPECT_EQ(std::tuple(senzaInizio.linee.size(), senzaInizio.saltati), std::tuple(1u, 1));
+  for (const char* senzaCorpo : {" 0  2.5  5 ", " 1.5  9E-10  5 ", "-1.5  2.5  5 "})
+    EXPECT_TRUE(prove::Letto(prove::ConRiga(uno, 17, senzaCorpo)).scritte.empty()) << senzaCorpo;
 }
 
 TEST(Lettore, TroncatoOvunque) {
@@ -107,10 +98,8 @@ TEST(Lettore, SemiDelFuzzing) {
 
 void ControllaIngombro(const Disegno& disegno, const Riquadro& atteso) {
   const Riquadro r = Ingombro(disegno);
-  EXPECT_NEAR(r.x0, atteso.x0, 1e-12);
-  EXPECT_NEAR(r.y0, atteso.y0, 1e-12);
-  EXPECT_NEAR(r.x1, atteso.x1, 1e-12);
-  EXPECT_NEAR(r.y1, atteso.y1, 1e-12);
+  for (const auto lato : {&Riquadro::x0, &Riquadro::y0, &Riquadro::x1, &Riquadro::y1})
+    EXPECT_NEAR(r.*lato, atteso.*lato, 1e-12);
 }
 
 TEST(Misure, ArchiEIngombri) {

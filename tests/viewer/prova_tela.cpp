@@ -1,5 +1,4 @@
 // Views and tools: how one comes to a view and back, what a pointer means, what is measured.
-#include <array>
 #include <cmath>
 
 #include "tests/viewer/con_finestra.h"
@@ -9,26 +8,53 @@ namespace {
 
 using prove::ConFinestra;
 
-TEST_F(ConFinestra, LAdattatoRestaAdattatoConAltroIngombro) {
+TEST_F(ConFinestra, MostraTuttoConLaYVersoLAlto) {
+  EXPECT_EQ(Avviso(), "");
+  EXPECT_EQ(finestra.windowTitle(), "SEZIONE U_PO_001 - sezione.dis - ostrel");
+  const Vista& vista = tela.VistaCorrente();
+  for (const Coordinata& c : tela.Mostrato().coordinate)
+    EXPECT_TRUE(QRectF(tela.rect()).contains(vista.Verso(c.x, c.y)));
+  // White dimension lines, the red outline; the soffit below the upper side, on a dark ground.
+  const QImage immagine = tela.grab().toImage();
+  EXPECT_EQ(Traccia(immagine, 900, 200), QColor(Qt::white));
+  EXPECT_EQ(Traccia(immagine, 500, -185), QColor(255, 0, 0));
+  EXPECT_LT(immagine.pixelColor(3, 3).lightness(), 50);
+}
+
+TEST_F(ConFinestra, RotellaETrascinamento) {
+  const QPoint dove(500, 100), altrove(430, 150);
+  const QPointF prima = tela.VistaCorrente().Da(dove);
+  const double scala = tela.VistaCorrente().scala;
+  Rotella(3, dove);
+  EXPECT_NEAR(tela.VistaCorrente().scala / scala, 1.2 * 1.2 * 1.2, 1e-12);
+  EXPECT_LT(QLineF(tela.VistaCorrente().Da(dove), prima).length(), 1e-9);
+
+  Trascina(dove, altrove);
+  EXPECT_LT(QLineF(tela.VistaCorrente().Da(altrove), prima).length(), 1e-9);
+  QTest::mouseDClick(&tela, Qt::LeftButton, {}, altrove);
+  EXPECT_LT(QLineF(tela.VistaCorrente().Da(altrove), prima).length(), 1e-9);
+
+  QTest::mouseDClick(&tela, Qt::MiddleButton, {}, dove);
+  EXPECT_NEAR(tela.VistaCorrente().scala, scala, 1e-12);
+}
+
+// A fitted view stays so with another extent, and comes back fitted. Turns of the wheel in a row are one view
+// left, each drag is one.
+TEST_F(ConFinestra, VistePrecedentiESuccessive) {
+  const auto adattata = [&] { return VistaIntera(Ingombro(tela.Mostrato()), tela.rect()); };
   const double scala = tela.VistaCorrente().scala;
   std::string alto = prove::kEsempio;
   prove::Scrivi(file, alto.replace(alto.find(" 970.5 -515 "), 12, " 970.5 -2515 "));
   Comanda("ricarica");
-  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+  EXPECT_EQ(tela.VistaCorrente(), adattata());
   EXPECT_LT(tela.VistaCorrente().scala, scala);
-  finestra.resize(700, 600);
-  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
-}
-
-// Turns of the wheel in a row are one view left, each drag is one; a fitted view comes back fitted.
-TEST_F(ConFinestra, VistePrecedentiESuccessive) {
   const QPoint dove(300, 200);
   Rotella(0, dove, 1);
   EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled()) << "turned sideways";
   for (int i = 0; i < 2; ++i) {
     Rotella(1, dove);
     QTest::keyClick(&tela, Qt::Key_Backspace);
-    EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+    EXPECT_EQ(tela.VistaCorrente(), adattata());
   }
   for (int i = 0; i < 3; ++i) Rotella(1, dove);
   const Vista ingrandita = tela.VistaCorrente();
@@ -40,7 +66,7 @@ TEST_F(ConFinestra, VistePrecedentiESuccessive) {
   QTest::keyClick(&tela, Qt::Key_Backspace);
   EXPECT_FALSE(finestra.findChild<QAction*>("precedente")->isEnabled());
   finestra.resize(700, 600);
-  EXPECT_EQ(tela.VistaCorrente(), VistaIntera(Ingombro(tela.Mostrato()), tela.rect()));
+  EXPECT_EQ(tela.VistaCorrente(), adattata());
   QTest::keyClick(&tela, Qt::Key_Backspace, Qt::ShiftModifier);
   EXPECT_EQ(tela.VistaCorrente(), ingrandita);
 
