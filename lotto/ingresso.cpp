@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/errore.h"
+#include "platform/ospite.h"
 
 namespace tarvel::lotto {
 namespace {
@@ -18,8 +19,9 @@ std::istream& Apri(Ingresso& ingresso, const std::string& file) {
   ingresso.flusso = {};
   ingresso.attende(true);  // a named pipe opens when somebody writes into it
   ingresso.flusso.open(std::filesystem::path(std::u8string(file.begin(), file.end())), std::ios::binary);
+  const Testo motivo = ingresso.flusso.is_open() ? Testo() : MotivoOspite();
   ingresso.attende(false);
-  if (!ingresso.flusso.is_open()) throw ErroreFatale(TipoErrore::File, "il file non si legge");
+  if (!ingresso.flusso.is_open()) throw ErroreFatale(TipoErrore::File, "il file non si legge: " + motivo);
   return ingresso.flusso;
 }
 

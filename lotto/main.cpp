@@ -17,6 +17,7 @@
 #include "model/tabella_sezioni.h"
 #include "platform/comune/argomenti.h"
 #include "platform/comune/terminale.h"
+#include "platform/ospite.h"
 
 namespace {
 
@@ -49,6 +50,7 @@ void Interrompi(int segnale) {
 // reader of a file would add the file's name.
 struct UscitaPersa {
   bool tubo;
+  Testo motivo;
 };
 
 std::string Messaggio(const Testo& testo) {
@@ -95,7 +97,7 @@ void Scrivi(Lotto& l) {
       std::fwrite(l.testo.data(), 1, l.testo.size(), stdout) == l.testo.size() && std::fflush(stdout) == 0;
   l.testo.clear();
   // Windows has no code of its own for a closed pipe.
-  if (!scritto) throw UscitaPersa{errno == EPIPE || errno == EINVAL};
+  if (!scritto) throw UscitaPersa{errno == EPIPE || errno == EINVAL, MotivoOspite()};
 }
 
 // Around each wait for input, which may be long: a signal may end the program there.
@@ -198,7 +200,7 @@ int main(int argc, char** argv) {
   } catch (const UscitaPersa& persa) {
     std::cerr << lotto.avanzamento.Cancellazione();
     if (persa.tubo) return kTuboChiuso;
-    Dice(lotto, "l'uscita non si scrive");
+    Dice(lotto, "l'uscita non si scrive: " + persa.motivo);
   } catch (const ErroreFatale& errore) {
     if (errore.tipo == TipoErrore::Argomento)
       return Congeda(Sbagliato(kProgramma, InUtf8(errore.Messaggio())));

@@ -67,5 +67,7 @@ const Ospite& OspiteDeiFile();
 
 /// Motivo in the user's words: "disco pieno"; the system's own number for what has none here.
 Testo MotivoOspite();
+/// The same of any reason of the system; "" for what has no words here.
+Testo InParole(const std::error_code& motivo);
 
 }  // namespace tarvel

@@ -3,8 +3,7 @@
 
 namespace tarvel {
 
-Testo MotivoOspite() {
-  const std::error_code motivo = OspiteDeiFile().Motivo();
+Testo InParole(const std::error_code& motivo) {
   static constexpr struct {
     std::errc quale;
     const char* parole;
@@ -18,14 +17,20 @@ Testo MotivoOspite() {
       {std::errc::is_a_directory, "è una cartella"},
       {std::errc::no_such_device, "non è un file"},
       {std::errc::file_exists, "il nome è già preso"},
-
+      {std::errc::filename_too_long, "il nome è troppo lungo"},
       {std::errc::file_too_large, "file troppo grande"},
       {std::errc::resource_unavailable_try_again, "in uso da un altro programma"},
       {std::errc::io_error, "guasto del disco"},
   };
   for (const auto& m : kMotivi)
     if (motivo == m.quale) return DaUtf8(m.parole);
-  return "errore " + std::to_string(motivo.value()) + " del sistema";
+  return {};
+}
+
+Testo MotivoOspite() {
+  const std::error_code motivo = OspiteDeiFile().Motivo();
+  const Testo parole = InParole(motivo);
+  return parole.empty() ? "errore " + std::to_string(motivo.value()) + " del sistema" : parole;
 }
 
 }  // namespace tarvel

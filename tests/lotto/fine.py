@@ -61,7 +61,7 @@ def fine():
     controlla("interrotto: sezio_ut", os.path.exists("interrotto"), False)
     with open("/dev/full", "w") as pieno:
         esito = subprocess.run([LOTTO], input=RIGA.encode(), stdout=pieno, stderr=subprocess.PIPE)
-        controlla("disco pieno", (esito.returncode, b"non si scrive" in esito.stderr), (1, True))
+        controlla("disco pieno", (esito.returncode, b"l'uscita non si scrive: disco pieno" in esito.stderr), (1, True))
     # A drawing that has no room is not there, and the next run writes it.
     os.mkdir("senza posto")
     senza_posto = "Errore durante la scrittura sul filesenza posto\\U_PO_001.dis: file troppo grande"

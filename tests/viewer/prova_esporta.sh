@@ -26,7 +26,7 @@ mkfifo tubo.svg
 chmod 500 chiusa
 printf '3\r\n0 0\r\n0 0\r\n0 0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n' >vuoto.dis
 problemi() { prova 1 "Problemi con la scrittura del file $1: $2" --esporta "$1" "${3:-s.dis}"; }
-problemi pieno.png 'il disco è pieno'
+problemi pieno.png 'disco pieno'
 problemi manca/s.png 'la cartella non esiste'
 problemi s.dis/s.svg 'la cartella non esiste'
 problemi tubo.svg 'non è un file'
@@ -34,7 +34,7 @@ problemi "$(printf 'x%.0s' {1..300}).pdf" 'il nome è troppo lungo'
 prova 1 'vuoto.dis: non c'\''è niente da disegnare' --esporta s.svg vuoto.dis
 [ -w chiusa ] || problemi chiusa/s.svg 'manca il permesso di scrivere'
 echo prima >s.png
-(ulimit -f 1 && problemi s.png 'il file supera la grandezza consentita')
+(ulimit -f 1 && problemi s.png 'file troppo grande')
 [ -c pieno.png ] && [ -p tubo.svg ] && [ "$(cat s.png)" = prima ]
 [ "$(ls)" = $'cartella.svg\nchiusa\npieno.png\ns.dis\ns.dxf\ns.png\ntubo.svg\nvuoto.dis' ]
 prova 1 'non è un file di disegno' --esporta s.pdf .

@@ -9,6 +9,7 @@
 #include <thread>
 #include <variant>
 
+#include "platform/ospite.h"
 #include "viewer/disegno/lettore_dis.h"
 
 namespace ostrel {
@@ -56,7 +57,8 @@ Caricato Carica(const std::string& percorso) {
                                    " MB, al massimo " + std::to_string(kMassimoFile >> 20) + ")");
   std::string byte(prima.errore ? 0 : static_cast<std::size_t>(prima.lunghezza), '\0');
   std::ifstream ingresso(file, std::ios::binary);
-  if (prima.errore || !ingresso) return Rifiutato(percorso, "il disegno non si può leggere");
+  if (prima.errore || !ingresso)
+    return Rifiutato(percorso, "il disegno non si può leggere: " + tarvel::InUtf8(tarvel::MotivoOspite()));
   ingresso.read(byte.data(), static_cast<std::streamsize>(byte.size()));
   byte.resize(static_cast<std::size_t>(ingresso.gcount()));
   if (Guarda(file) != prima) return Rifiutato(percorso, "il disegno cambia mentre viene letto", true);

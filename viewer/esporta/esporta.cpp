@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/ospite.h"
 #include "viewer/disegno/misure.h"
 #include "viewer/esporta/dxf.h"
 #include "viewer/esporta/svg.h"
@@ -82,28 +83,6 @@ const Genere* CercaGenere(const QString& finale) {
   return std::find_if(kGeneri.begin(), kGeneri.end(), [&](const Genere& g) { return finale == g.finale; });
 }
 
-constexpr char kDiscoPieno[] = "il disco è pieno";
-constexpr char kSenzaPermesso[] = "manca il permesso di scrivere nella cartella o sul file";
-
-// Failures that the host tells apart and the device does not; nothing for any other.
-const char* MotivoHost(int errore) {
-  switch (errore) {
-    case EACCES:
-    case EPERM:
-      return kSenzaPermesso;
-    case ENOSPC:
-      return kDiscoPieno;
-    case EFBIG:
-      return "il file supera la grandezza consentita";
-    case ENAMETOOLONG:
-      return "il nome è troppo lungo";
-    case EIO:
-      return "guasto del disco";
-    default:
-      return nullptr;
-  }
-}
-
 // Asks the device that refused, then the disk and the folder it is in. `mancano` bytes are not yet written.
 QString MotivoRifiuto(const QFileDevice& file, qint64 mancano) {
   const int errore = errno;  // before anything else is asked
@@ -111,11 +90,13 @@ QString MotivoRifiuto(const QFileDevice& file, qint64 mancano) {
   const QStorageInfo disco(cartella.filePath());
   const bool senzaRisorse = file.error() == QFileDevice::ResourceError;
   if (file.isOpen() && (senzaRisorse || (disco.isValid() && disco.bytesAvailable() < mancano)))
-    return kDiscoPieno;
+    return "disco pieno";
   if (senzaRisorse) return "troppi file sono aperti";
   if (disco.isReadOnly()) return "il disco è in sola lettura";
-  if (!cartella.isWritable() || (destinazione.exists() && !destinazione.isWritable())) return kSenzaPermesso;
-  if (const char* motivo = MotivoHost(errore)) return motivo;
+  if (!cartella.isWritable() || (destinazione.exists() && !destinazione.isWritable()))
+    return "manca il permesso di scrivere nella cartella o sul file";
+  const tarvel::Testo motivo = tarvel::InParole({errore, std::generic_category()});
+  if (!motivo.empty()) return QString::fromStdString(tarvel::InUtf8(motivo));
   if (file.isOpen()) return "la scrittura non è riuscita";
   if (destinazione.exists()) return "il file di prima non si può sostituire: forse lo usa un altro programma";
   return "la cartella non accetta un file con questo nome, o manca il permesso";
